@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppRegistry.h"
+#include "app/Installations.h"
+#include "app/SettingsStore.h"
+#include "process/ChildProcess.h"
+#include "process/ProcessEnvironment.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTemporaryFile>
+#include <QTextStream>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+AppRegistry* appRegistry = nullptr;
+
+namespace {
+
+constexpr int shutDownWaitMs = 30000;
+
+// A bare name was found through PATH, so it says nothing about the folder.
+QString executablePath(const QString& argument)
+{
+    return QDir::fromNativeSeparators(argument).contains(u'/') || QFileInfo::exists(argument)
+               ? argument
+               : QCoreApplication::applicationFilePath();
+}
+
+} // namespace
+
+AppRegistry::AppRegistry(QObject* parent)
+    : QObject(parent)
+{
+}
+
+AppRegistry::~AppRegistry()
+{
+    traceStream.reset();
+    if (appRegistry == this) {
+        appRegistry = nullptr;
+    }
+}
+
+bool AppRegistry::Init(QCoreApplication* app, const QStringList& arguments, const QString& title, int width, int height,
+                       QString usage)
+{
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        const QString& argument = arguments[i];
+        const bool hasNext = i + 1 < arguments.size();
+        if (argument == "-ver"_L1) {
+            qWarning() << title << " (" << tr("Version") << " : "
+                       << "1 (build 1)"
+                       << ") ";
+            return false;
+        }
+        if (argument == "-file"_L1) {
+            if (hasNext) {
+                definitionsFileName = arguments[i + 1];
+                Trace(u"XML file set to: "_s, definitionsFileName);
+            }
+        } else if (argument == "-trace"_L1) {
+            traceOn = true;
+        } else if (argument == "-tracefile"_L1) {
+            if (hasNext) {
+                openTraceFile(arguments[i + 1]);
+            }
+        } else if (argument == "-help"_L1) {
+            if (usage.isEmpty()) {
+                usage = tr("-file <file.xml>: use <file.xml> instead of settings.xml");
+            }
+            // Quoted by hand: the debug stream would escape the line breaks.
+            qWarning().noquote() << u'"' + usage + u'"';
+            return false;
+        }
+    }
+    Load(app, arguments, width, height);
+    return true;
+}
+
+void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int width, int height)
+{
+    auto* translator = new QTranslator(app);
+    if (translator->load(u"qt_"_s + QLocale::system().name(), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(translator);
+    }
+    if (!arguments.isEmpty()) {
+        exePath = executablePath(arguments.first());
+        InitWindowSettings(QFileInfo(arguments.first()).baseName(), width, height);
+    }
+    values.Read(exePath);
+    const Installations::Folders folders = Installations::FindInstallations();
+    cInstallDir = folders.c;
+    cppInstallDir = folders.cpp;
+    definitions.ReadFile(definitionsFileName);
+    SetProcessEnvironment(nullptr, true);
+}
+
+void AppRegistry::InitWindowSettings(const QString& name, int defaultWidth, int defaultHeight)
+{
+    applicationName = name;
+    CreateSettings();
+    if (!settings || applicationName.isEmpty()) {
+        return;
+    }
+    settings->beginGroup("Window"_L1);
+    windowPos = settings->value("pos"_L1, QPoint(150, 85)).toPoint();
+    windowSize = settings->value("size"_L1, QSize(defaultWidth, defaultHeight)).toSize();
+    settings->endGroup();
+    Q_EMIT ReadRegistryValues(settings.get());
+}
+
+void AppRegistry::CreateSettings()
+{
+    settings = applicationName.isEmpty() ? nullptr : SettingsStore::openForReading(applicationName);
+}
+
+void AppRegistry::ReadRegistry()
+{
+    if (settings && !applicationName.isEmpty()) {
+        Q_EMIT ReadRegistryValues(settings.get());
+    }
+}
+
+bool AppRegistry::WriteRegistry()
+{
+    if (!settings || applicationName.isEmpty()) {
+        return false;
+    }
+    const bool kept = SettingsStore::write(applicationName, [this](QSettings& store) {
+        store.beginGroup("Window"_L1);
+        store.setValue("pos"_L1, windowPos);
+        store.setValue("size"_L1, windowSize);
+        store.endGroup();
+        Q_EMIT WriteRegistryValues(&store);
+    });
+    settings->sync();
+    return kept;
+}
+
+void AppRegistry::Trace(const QString& label, const QString& value) const
+{
+    if (!traceOn) {
+        return;
+    }
+    if (traceStream) {
+        *traceStream << label << value << '\n';
+    } else {
+        qDebug() << label << value;
+    }
+}
+
+QString AppRegistry::CreateTempFileName(const QString& suffix)
+{
+    QString fileTemplate = QDir::tempPath() + "/KOVRA-XXXXXX"_L1;
+    if (!suffix.isEmpty()) {
+        fileTemplate += suffix.startsWith(u'.') ? suffix : u'.' + suffix;
+    }
+    auto file = std::make_unique<QTemporaryFile>(fileTemplate);
+    if (!file->open()) {
+        return {};
+    }
+    const QString name = file->fileName();
+    file->close();
+    tempFiles.push_back(std::move(file));
+    return name;
+}
+
+void AppRegistry::ShutDown()
+{
+    closingDown = true;
+    const QList<ChildProcess*> children = childProcesses;
+    for (ChildProcess* child : children) {
+        child->stop(shutDownWaitMs);
+    }
+    for (const auto& file : tempFiles) {
+        file->remove();
+    }
+    const QList<QDialog*> dialogs = openDialogs;
+    for (QDialog* dialog : dialogs) {
+        dialog->done(QDialog::Rejected);
+    }
+}
+
+QString AppRegistry::DefinitionsFileName() const
+{
+    return definitions.file.fileName();
+}
+
+Places AppRegistry::places() const
+{
+    return {values.installPath, cInstallDir, cppInstallDir};
+}
+
+void AppRegistry::openTraceFile(const QString& name)
+{
+    auto file = std::make_unique<QFile>(name);
+    if (!file->open(QIODevice::WriteOnly | QIODevice::Text)) {
+        return;
+    }
+    traceStream.reset();
+    traceFile = std::move(file);
+    traceStream = std::make_unique<QTextStream>(traceFile.get());
+    traceOn = true;
+}

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+struct WizardState;
+
+/// The command line as far as it can be judged before there is a window.
+namespace CommandLine {
+
+/// True when -ver or -help ends the program, so that no display is needed.
+bool endsProgram(const QStringList& arguments);
+
+/// Applies -c, -cpp, -prj, -mp, -ap and -cp to the state. Every entry is examined, also one that is a value.
+void preset(const QStringList& arguments, WizardState& state);
+
+} // namespace CommandLine

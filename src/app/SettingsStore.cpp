@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "app/SettingsStore.h"
+
+using namespace Qt::StringLiterals;
+
+namespace SettingsStore {
+
+QString organisation()
+{
+    return u"KOVRA"_s;
+}
+
+std::unique_ptr<QSettings> openForReading(const QString& application)
+{
+    // A user-scope store falls back to the system's value by itself.
+    return std::make_unique<QSettings>(QSettings::UserScope, organisation(), application);
+}
+
+bool write(const QString& application, const std::function<void(QSettings&)>& write)
+{
+    QSettings system(QSettings::SystemScope, organisation(), application);
+    if (system.isWritable()) {
+        write(system);
+        system.sync();
+        if (system.status() == QSettings::NoError) {
+            QSettings user(QSettings::UserScope, organisation(), application);
+            user.setFallbacksEnabled(false);
+            const QStringList hidden = user.allKeys();
+            for (const QString& key : hidden) {
+                if (system.contains(key)) {
+                    user.remove(key);
+                }
+            }
+            return true;
+        }
+    }
+    QSettings user(QSettings::UserScope, organisation(), application);
+    if (!user.isWritable()) {
+        return false;
+    }
+    write(user);
+    user.sync();
+    return user.status() == QSettings::NoError;
+}
+
+QStringList childGroups(const QString& application)
+{
+    QStringList groups = openForReading(application)->childGroups();
+    groups.removeDuplicates();
+    return groups;
+}
+
+} // namespace SettingsStore

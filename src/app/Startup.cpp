@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "app/Startup.h"
+#include "app/AppRegistry.h"
+#include "app/CommandLine.h"
+#include "app/DisplayCheck.h"
+#include "wizard/ApplicationWindow.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int defaultWidth = 650;
+constexpr int defaultHeight = 430;
+
+QString title()
+{
+    return QCoreApplication::translate("Startup", "Create KOVRA Project");
+}
+
+QString usage()
+{
+    return QCoreApplication::translate("Startup", "ProjectCreation options:\n"
+                                                  "-file <file>: xml definition file\n"
+                                                  "-cpp: Create a Orv C++ file\n"
+                                                  "-c: Create a Orv C file\n"
+                                                  "-prj <file>: project file to be created\n"
+                                                  "-mp <file>: Message Personality\n"
+                                                  "-ap <file>: Analyser Personality\n"
+                                                  "-cp <file>: Compiler Personality\n");
+}
+
+bool initialise(AppRegistry& registry, QCoreApplication& application)
+{
+    appRegistry = &registry;
+    return registry.Init(&application, QCoreApplication::arguments(), title(), defaultWidth, defaultHeight, usage());
+}
+
+QStringList toTexts(int argc, char** argv)
+{
+    QStringList texts;
+    for (int i = 0; i < argc; ++i) {
+        texts += QString::fromLocal8Bit(argv[i]);
+    }
+    return texts;
+}
+
+// Version and usage need no display, so they must not ask for one.
+int runWithoutWindow(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    AppRegistry registry;
+    initialise(registry, application);
+    return 0;
+}
+
+} // namespace
+
+int Startup::run(int argc, char** argv)
+{
+    // RESOURCES
+    if (CommandLine::endsProgram(toTexts(argc, argv))) {
+        return runWithoutWindow(argc, argv);
+    }
+    const std::unique_ptr<QApplication> application = DisplayCheck::createApplication(argc, argv);
+    AppRegistry registry;
+    if (!initialise(registry, *application)) {
+        return 0;
+    }
+    ApplicationWindow window(title(), u"projectCreation.htm"_s, QCoreApplication::arguments());
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "definitions/DefinitionsXml.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array platformNames = {u"WINDOWS_PLATFORM", u"LINUX", u"SOLARIS", u"HP"};
+
+bool isForeignPlatform(QStringView name, QStringView platform)
+{
+    return name != platform &&
+           std::ranges::any_of(platformNames, [&](const char16_t* known) { return name == QStringView(known); });
+}
+
+} // namespace
+
+QStringView currentPlatformName()
+{
+#if defined(Q_OS_WIN)
+    return u"WINDOWS_PLATFORM";
+#elif defined(Q_OS_SOLARIS)
+    return u"SOLARIS";
+#elif defined(Q_OS_HPUX)
+    return u"HP";
+#else
+    return u"LINUX";
+#endif
+}
+
+QXmlStreamReader::TokenType readToken(QXmlStreamReader& xml, QStringView platform)
+{
+    const QXmlStreamReader::TokenType token = xml.readNext();
+    if (token != QXmlStreamReader::StartElement || !isForeignPlatform(xml.name(), platform)) {
+        return token;
+    }
+    const QString section = xml.name().toString();
+    while (!xml.atEnd() && !(xml.readNext() == QXmlStreamReader::EndElement && xml.name() == section)) {
+    }
+    return xml.tokenType();
+}

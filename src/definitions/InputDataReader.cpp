@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "definitions/InputDataReader.h"
+#include "definitions/DefinitionRecords.h"
+#include "definitions/DefinitionsXml.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int maximumDepth = 100;
+
+constexpr std::array inputTypes = {
+    std::pair{"FILE"_L1, InputType::File},   std::pair{"DIR"_L1, InputType::Dir},
+    std::pair{"GROUP"_L1, InputType::Group}, std::pair{"CHECK"_L1, InputType::Check},
+    std::pair{"RADIO"_L1, InputType::Radio}, std::pair{"EDIT"_L1, InputType::Edit},
+};
+
+void readInputType(QXmlStreamReader& xml, ArgumentDefinition& definition)
+{
+    const QXmlStreamAttributes attributes = xml.attributes();
+    definition.separator = attributes.value("SEP"_L1).toString();
+    definition.columns = attributes.value("COLUMNS"_L1).toInt();
+    definition.outputString = attributes.value("OUT_STR"_L1).toString();
+    const QStringView analyser = attributes.value("TYPE"_L1);
+    definition.cOnly = analyser == "C_ONLY"_L1;
+    definition.cppOnly = analyser == "CPP_ONLY"_L1;
+    const QString text = xml.readElementText();
+    const auto known = std::ranges::find(inputTypes, text, [](const auto& entry) { return QString(entry.first); });
+    if (known != inputTypes.end()) {
+        definition.inputType = known->second;
+    }
+}
+
+void readDefault(QXmlStreamReader& xml, ArgumentDefinition& definition, const TextExpander& expand)
+{
+    const QString analyser = xml.attributes().value("TYPE"_L1).toString();
+    const QString text = expand(xml.readElementText());
+    if (analyser != "CPP"_L1) {
+        definition.cDefaultValue = text;
+    }
+    if (analyser != "C"_L1) {
+        definition.cppDefaultValue = text;
+    }
+}
+
+void readMustBeSet(QXmlStreamReader& xml, ArgumentDefinition& definition)
+{
+    const QString text = xml.readElementText();
+    if (text == "FILE_MUST_EXIST"_L1) {
+        definition.mustBeSet = true;
+        definition.fileMustExist = true;
+    } else if (text.toInt() != 0) {
+        definition.mustBeSet = true;
+    }
+}
+
+QString valueKey(const ArgumentDefinition& definition, const ProjectCreatorData& creator)
+{
+    static const QRegularExpression nonWord(u"\\W+"_s, QRegularExpression::UseUnicodePropertiesOption);
+    return QString(definition.displayName + definition.argument + creator.name).remove(nonWord);
+}
+
+} // namespace
+
+void readInputData(QXmlStreamReader& xml, ProjectCreatorData& creator, ArgumentDefinition* parent,
+                   const TextExpander& expand, int depth)
+{
+    if (depth > maximumDepth) {
+        xml.raiseError(u"inputData elements are nested too deeply"_s);
+        return;
+    }
+    ArgumentDefinitions& siblings = parent ? parent->children : creator.inputData;
+    ArgumentDefinition& definition = *siblings.emplace_back(std::make_unique<ArgumentDefinition>());
+    readRecord(xml, u"inputData", [&](QStringView name) {
+        if (name == "displayName"_L1) {
+            definition.displayName = xml.readElementText();
+        } else if (name == "inputType"_L1) {
+            readInputType(xml, definition);
+        } else if (name == "hoverHelp"_L1) {
+            definition.hoverHelp = xml.readElementText();
+        } else if (name == "defaultValue"_L1) {
+            readDefault(xml, definition, expand);
+        } else if (name == "mustBeSet"_L1) {
+            readMustBeSet(xml, definition);
+        } else if (name == "ext"_L1) {
+            definition.extension = xml.readElementText();
+        } else if (name == "argDef"_L1) {
+            definition.prefix = xml.attributes().value("PRE"_L1).toString();
+            definition.argument = xml.readElementText();
+        } else if (name == "inputData"_L1) {
+            readInputData(xml, creator, &definition, expand, depth + 1);
+        }
+    });
+    definition.key = valueKey(definition, creator);
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "definitions/Placeholders.h"
+#include "app/Installations.h"
+
+#include <QDir>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// %R%[organisation%]application%key[%rest…]: without an organisation it is the suite's own.
+QString settingsValue(const QString& text)
+{
+    const QStringList parts = text.split(u'%', Qt::SkipEmptyParts);
+    if (parts.size() < 3) {
+        return text;
+    }
+    const bool ownOrganisation = parts.size() == 3 || text.endsWith(u'%');
+    const QString organisation = ownOrganisation ? u"KOVRA"_s : parts[1];
+    const qsizetype application = ownOrganisation ? 1 : 2;
+    const QSettings store(QSettings::SystemScope, organisation, parts[application]);
+    return store.value(parts[application + 1]).toString() + parts.mid(application + 2).join(QString());
+}
+
+QString withEnvironmentValue(QString text, const QStringList& environment)
+{
+    const QStringList parts = text.split(u'%');
+    if (parts.size() < 3) {
+        return text;
+    }
+    return text.replace(u'%' + parts[1] + u'%', EnvironmentValue(parts[1], false, environment));
+}
+
+} // namespace
+
+QString ExpandPlaceholders(const QString& text, const Places& places, const QStringList& environment)
+{
+    const std::pair<QLatin1StringView, QString> folders[] = {
+        {"%I%"_L1, places.installPath}, {"%ORVC%"_L1, places.cInstallDir}, {"%ORVCPP%"_L1, places.cppInstallDir}};
+    for (const auto& [placeholder, folder] : folders) {
+        if (text.contains(placeholder)) {
+            return QDir::cleanPath(QString(text).replace(placeholder, folder));
+        }
+    }
+    if (text.contains("%R%"_L1)) {
+        return settingsValue(text);
+    }
+    if (text.contains(u'%')) {
+        return withEnvironmentValue(text, environment);
+    }
+    return text;
+}

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "process/ProcessGroup.h"
+
+#include <QProcess>
+
+/// A child process that is stopped together with everything it started: it leads a process group of its own (a job on
+/// Windows). On Linux it does not outlive this program, even if that crashes.
+class ChildProcess : public QProcess
+{
+    Q_OBJECT
+
+public:
+    explicit ChildProcess(QObject* parent = nullptr);
+    /// Stops what still runs.
+    ~ChildProcess() override;
+
+    /// Asks the process and its children to end.
+    void terminateGroup();
+    /// Ends the process and its children at once.
+    void killGroup();
+    /// Asks, waits graceMs, then kills and waits at most killMs. True when nothing runs any more.
+    bool stop(int killMs, int graceMs = 500);
+
+private:
+    ProcessGroup group;
+};

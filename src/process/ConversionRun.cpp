@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "process/ConversionRun.h"
+#include "app/AppRegistry.h"
+
+#include <QFile>
+
+namespace {
+
+constexpr int startWaitMs = 30000;
+constexpr int killWaitMs = 30000;
+
+} // namespace
+
+ConversionRun::ConversionRun(QObject* parent)
+    : QObject(parent)
+{
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    connect(&process, &QProcess::readyRead, this, &ConversionRun::outputReady);
+    connect(&process, &QProcess::finished, this, &ConversionRun::processFinished);
+    connect(&process, &QProcess::errorOccurred, this, &ConversionRun::processFailed);
+    if (appRegistry) {
+        appRegistry->childProcesses += &process;
+    }
+}
+
+ConversionRun::~ConversionRun()
+{
+    if (appRegistry) {
+        appRegistry->childProcesses.removeAll(&process);
+    }
+    blockSignals(true);
+    stop();
+    process.disconnect(this);
+}
+
+bool ConversionRun::start(const QString& program, const QStringList& arguments, const QString& projectFile)
+{
+    stop();
+    projectFileName = projectFile;
+    decoder = QStringDecoder(QStringConverter::System);
+    running = true;
+    stopping = false;
+    if (QFile old(projectFile); old.exists() && !old.remove()) {
+        finish(Outcome::NotStarted,
+               tr("The old project file can not be removed: %1. Close programs that use it.").arg(old.errorString()));
+        return false;
+    }
+    process.start(program, arguments, QIODevice::ReadWrite);
+    if (appRegistry) {
+        appRegistry->Trace(program + u' ' + arguments.join(u' '));
+    }
+    if (process.waitForStarted(startWaitMs)) {
+        // Nobody answers a converter that asks: it shall see the end of its input instead of waiting for ever.
+        process.closeWriteChannel();
+        return true;
+    }
+    if (running) {
+        process.killGroup();
+        finish(Outcome::NotStarted, tr("%1: %2").arg(program, process.errorString()));
+    }
+    return false;
+}
+
+void ConversionRun::stop()
+{
+    if (!running) {
+        return;
+    }
+    stopping = true;
+    process.stop(killWaitMs);
+    if (running) {
+        finish(Outcome::Stopped, tr("The conversion program did not end."));
+    }
+}
+
+QString ConversionRun::takeOutput()
+{
+    return decoder.decode(process.readAll());
+}
+
+void ConversionRun::processFinished()
+{
+    if (!running) {
+        return;
+    }
+    if (stopping) {
+        finish(Outcome::Stopped, tr("The conversion was stopped."));
+    } else if (process.exitStatus() != QProcess::NormalExit || process.error() != QProcess::UnknownError) {
+        finish(Outcome::Failed, process.errorString());
+    } else {
+        const QString detail = process.exitCode() == 0
+                                   ? QString()
+                                   : tr("The conversion program ended with exit code %1.").arg(process.exitCode());
+        finish(QFile::exists(projectFileName) ? Outcome::Created : Outcome::NotCreated, detail);
+    }
+}
+
+// Only a program that did not start ends without finished().
+void ConversionRun::processFailed(QProcess::ProcessError error)
+{
+    if (running && error == QProcess::FailedToStart) {
+        finish(Outcome::NotStarted, tr("%1: %2").arg(process.program(), process.errorString()));
+    }
+}
+
+void ConversionRun::finish(Outcome outcome, const QString& detail)
+{
+    running = false;
+    result = outcome;
+    detailText = detail;
+    if (outcome == Outcome::Failed || outcome == Outcome::Stopped) {
+        QFile::remove(projectFileName);
+    }
+    Q_EMIT ended(outcome);
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "process/ChildProcess.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringDecoder>
+#include <QStringList>
+
+/// Runs a conversion program and judges the result by the project file it leaves. Knows nothing of widgets: the page
+/// and the batch mode show what it reports.
+class ConversionRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Outcome {
+        Created,    ///< the program ended and the project file is there, whatever the exit code
+        NotCreated, ///< the program ended without one
+        NotStarted,
+        Failed, ///< the program crashed or could not be talked to
+        Stopped ///< stop() was called
+    };
+    Q_ENUM(Outcome)
+
+    explicit ConversionRun(QObject* parent = nullptr);
+    ~ConversionRun() override;
+
+    /// Removes an old project file and starts the program; false when that failed, with the end already reported.
+    bool start(const QString& program, const QStringList& arguments, const QString& projectFile);
+    /// Stops the program with its children and removes a half-made project file.
+    void stop();
+    bool isRunning() const { return running; }
+    /// What the program printed since the last call, both channels merged, characters never cut in two.
+    QString takeOutput();
+    Outcome outcome() const { return result; }
+    /// What the system or the exit code had to say about the end; empty for a plain success.
+    QString detail() const { return detailText; }
+    ChildProcess& child() { return process; }
+
+Q_SIGNALS:
+    void outputReady();
+    /// Emitted once for every start().
+    void ended(ConversionRun::Outcome outcome);
+
+private:
+    void processFinished();
+    void processFailed(QProcess::ProcessError error);
+    void finish(Outcome outcome, const QString& detail);
+
+    ChildProcess process;
+    QStringDecoder decoder;
+    QString projectFileName;
+    QString detailText;
+    Outcome result = Outcome::NotStarted;
+    bool running = false;
+    bool stopping = false;
+};

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// Lines of a program's output on their way to a view. Keeps no more than a view would show: of a flood the oldest
+/// lines are dropped and counted.
+class OutputBuffer
+{
+public:
+    explicit OutputBuffer(qsizetype keptLines);
+
+    /// Adds output as it came; a line may be spread over several calls.
+    void append(QStringView text);
+    bool isEmpty() const { return lines.isEmpty() && partial.isEmpty(); }
+    /// Takes at most maximum lines, oldest first. An unfinished last line is held back for one call, so that a line cut
+    /// by a read is joined and a program's prompt still appears.
+    QStringList take(qsizetype maximum);
+    /// Takes everything, the unfinished line included.
+    QStringList takeAll();
+    /// Lines dropped since the last call.
+    qint64 takeDropped();
+    void clear();
+
+private:
+    void addLine(QString line);
+
+    qsizetype keptLines;
+    QStringList lines;
+    QString partial;
+    bool partialHeldBack = false;
+    qint64 dropped = 0;
+};

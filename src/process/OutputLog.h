@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+/// The complete output of one run, in a temporary file. Stops growing at a size that no reader would miss.
+class OutputLog
+{
+public:
+    static constexpr qint64 largestSize = 256LL * 1024 * 1024;
+
+    /// Starts a new log; without a name nothing is kept.
+    void start(const QString& fileName);
+    /// Adds output as it came.
+    void append(const QString& text);
+    void finish();
+    /// Empty when nothing could be kept.
+    QString fileName() const { return file.fileName(); }
+
+private:
+    QFile file;
+};

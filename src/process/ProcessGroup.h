@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+
+/// The system's handle on a process and all that it starts. Knows nothing of Qt, so that each system's part stays
+/// small.
+class ProcessGroup
+{
+public:
+    ProcessGroup();
+    ~ProcessGroup();
+    ProcessGroup(const ProcessGroup&) = delete;
+    ProcessGroup& operator=(const ProcessGroup&) = delete;
+
+    /// Runs in the child between fork and exec: makes it the leader of a group. Does nothing on Windows.
+    static void becomeLeader();
+
+    /// Takes hold of a process that has just been started.
+    void adopt(long long processId);
+    void terminate();
+    void kill();
+    /// Kills what a finished leader left running and lets go.
+    void release();
+
+private:
+    struct Handle;
+    std::unique_ptr<Handle> handle;
+};

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "process/ProcessGroup.h"
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+struct ProcessGroup::Handle
+{
+    HANDLE job = nullptr;
+};
+
+ProcessGroup::ProcessGroup()
+    : handle(std::make_unique<Handle>())
+{
+    handle->job = CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    SetInformationJobObject(handle->job, JobObjectExtendedLimitInformation, &limits, sizeof limits);
+}
+
+ProcessGroup::~ProcessGroup()
+{
+    CloseHandle(handle->job);
+}
+
+void ProcessGroup::becomeLeader() {}
+
+void ProcessGroup::adopt(long long processId)
+{
+    const HANDLE process = OpenProcess(PROCESS_SET_QUOTA | PROCESS_TERMINATE, FALSE, static_cast<DWORD>(processId));
+    if (process != nullptr) {
+        AssignProcessToJobObject(handle->job, process);
+        CloseHandle(process);
+    }
+}
+
+// A job knows no polite request; QProcess::terminate() asks the windows of the leader.
+void ProcessGroup::terminate() {}
+
+void ProcessGroup::kill()
+{
+    TerminateJobObject(handle->job, 1);
+}
+
+void ProcessGroup::release()
+{
+    kill();
+}

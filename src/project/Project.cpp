@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#include "project/Project.h"
+
+#include <QFileInfo>
+
+bool Project::load(const QString& fileName)
+{
+    projectFile = fileName;
+    return QFileInfo(fileName).isFile();
+}

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/ActionPage.h"
+#include "app/AppRegistry.h"
+#include "process/ArgumentSubstitution.h"
+#include "wizard/ApplicationWindow.h"
+#include "wizard/OutputView.h"
+#include "wizard/PageSequence.h"
+
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QGridLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto flushInterval = 30ms;
+// What one flush may insert without the window's stalling being felt.
+constexpr int linesPerFlush = 1000;
+
+} // namespace
+
+ActionPage::ActionPage(ApplicationWindow* owner)
+    : AppPage(owner, ActionPageId)
+    , statusLabel(new QLabel)
+    , progressBar(new QProgressBar)
+    , stopButton(new QPushButton(tr("&Stop")))
+    , outputView(new OutputView)
+    , logLabel(new QLabel)
+    , buffer(OutputView::keptLines)
+{
+    setTitle(tr("Create the Project"));
+    setSubTitle(tr("Conversion in progress..."));
+    progressBar->setRange(0, 0);
+    progressBar->setValue(1);
+    stopButton->setToolTip(tr("Stop the conversion program and everything it started"));
+    outputView->setAccessibleName(tr("Output of the conversion"));
+    logLabel->setTextFormat(Qt::PlainText);
+    logLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    logLabel->setWordWrap(true);
+
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(statusLabel, 0, 0, 1, 2);
+    grid->addWidget(progressBar, 1, 0);
+    grid->addWidget(stopButton, 1, 1);
+    grid->addWidget(outputView, 2, 0, 1, 2);
+    grid->addWidget(logLabel, 3, 0, 1, 2);
+
+    flushTimer.setInterval(flushInterval);
+    connect(&flushTimer, &QTimer::timeout, this, &ActionPage::flushOutput);
+    connect(stopButton, &QPushButton::clicked, &run, &ConversionRun::stop);
+    connect(&run, &ConversionRun::outputReady, this, &ActionPage::ReadReady);
+    connect(&run, &ConversionRun::ended, this, &ActionPage::ProcessComplete);
+}
+
+ActionPage::~ActionPage()
+{
+    run.disconnect(this);
+}
+
+void ActionPage::initializePage()
+{
+    window->setOption(QWizard::NoCancelButton, false);
+    showRunning();
+    if (!window->projectCreator) {
+        QFile::remove(window->ProjectFile());
+        ConversionFinished(tr("Error: No project conversion available"), false, u"red"_s);
+        return;
+    }
+    log.start(appRegistry->CreateTempFileName(u".log"_s));
+    run.start(window->projectCreator->exe, conversionArguments(*window), window->ProjectFile());
+}
+
+void ActionPage::showRunning()
+{
+    finished = false;
+    setSubTitle(tr("Conversion in progress..."));
+    statusLabel->setText(tr("Converting Project Progress:"));
+    progressBar->show();
+    stopButton->show();
+    logLabel->hide();
+    outputView->clear();
+    buffer.clear();
+    outputView->appendLines({tr("Conversion Started\n")});
+}
+
+void ActionPage::cleanupPage()
+{
+    run.disconnect(this);
+    run.stop();
+    connect(&run, &ConversionRun::outputReady, this, &ActionPage::ReadReady);
+    connect(&run, &ConversionRun::ended, this, &ActionPage::ProcessComplete);
+    flushTimer.stop();
+    finished = false;
+    if (window->testOption(QWizard::NoCancelButton)) {
+        window->setOption(QWizard::NoCancelButton, false);
+    }
+}
+
+void ActionPage::ReadReady()
+{
+    const QString text = run.takeOutput();
+    log.append(text);
+    buffer.append(text);
+    if (!flushTimer.isActive()) {
+        flushTimer.start();
+    }
+}
+
+void ActionPage::flushOutput()
+{
+    const QStringList lines = buffer.take(linesPerFlush);
+    const qint64 dropped = buffer.takeDropped();
+    if (dropped > 0) {
+        outputView->appendLines({tr("[%n line(s) not shown]", nullptr, int(std::min<qint64>(dropped, INT_MAX)))});
+        logLabel->setText(
+            tr("Complete output, until the wizard is closed: %1").arg(QDir::toNativeSeparators(log.fileName())));
+        logLabel->setVisible(!log.fileName().isEmpty());
+    }
+    outputView->appendLines(lines);
+    if (buffer.isEmpty()) {
+        flushTimer.stop();
+    }
+}
+
+void ActionPage::flushAllOutput()
+{
+    ReadReady();
+    flushTimer.stop();
+    flushOutput();
+    outputView->appendLines(buffer.takeAll());
+    log.finish();
+}
+
+void ActionPage::ProcessComplete()
+{
+    if (finished) {
+        return;
+    }
+    flushAllOutput();
+    const ConversionRun::Outcome outcome = run.outcome();
+    if (!run.detail().isEmpty()) {
+        outputView->appendLines({run.detail()});
+    }
+    const bool created = outcome == ConversionRun::Outcome::Created;
+    ConversionFinished(endMessage(outcome), created, created ? u"black"_s : u"red"_s);
+}
+
+QString ActionPage::endMessage(ConversionRun::Outcome outcome) const
+{
+    switch (outcome) {
+    case ConversionRun::Outcome::Created:
+        return tr("New project file: ") + window->ProjectFile();
+    case ConversionRun::Outcome::NotCreated:
+        return tr("Error: Project file [%1] not created").arg(window->ProjectFile());
+    case ConversionRun::Outcome::NotStarted:
+        return tr("Error: Could not run conversion process");
+    case ConversionRun::Outcome::Failed:
+    case ConversionRun::Outcome::Stopped:
+        break;
+    }
+    return tr("Error: Conversion Process Failed");
+}
+
+void ActionPage::ConversionFinished(const QString& message, bool ok, const QString& colour)
+{
+    setSubTitle(tr("Conversion Operation Finished"));
+    statusLabel->setText(tr("Converting Project Status:"));
+    progressBar->hide();
+    stopButton->hide();
+    finished = true;
+    if (ok && QFile::exists(window->ProjectFile())) {
+        outputView->appendLines({tr("Conversion Complete\n")});
+        if (!appRegistry->definitions.applicationPages.empty()) {
+            window->conversionDone = true;
+            window->next();
+            return;
+        }
+    }
+    window->setOption(QWizard::NoCancelButton, true);
+    window->conversionDone = false;
+    outputView->appendMessage(message, QColor(colour));
+    Q_EMIT completeChanged();
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "process/ConversionRun.h"
+#include "process/OutputBuffer.h"
+#include "process/OutputLog.h"
+#include "wizard/AppPage.h"
+
+#include <QTimer>
+
+class OutputView;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+/// Runs the conversion and shows what it prints and how it ends.
+class ActionPage : public AppPage
+{
+    Q_OBJECT
+
+public:
+    explicit ActionPage(ApplicationWindow* window);
+    ~ActionPage() override;
+
+    void initializePage() override;
+    void cleanupPage() override;
+    bool validatePage() override { return true; }
+    bool isComplete() const override { return finished; }
+    bool isConverting() const { return run.isRunning(); }
+
+public Q_SLOTS:
+    void ReadReady();
+    void ProcessComplete();
+
+private:
+    void showRunning();
+    void flushOutput();
+    void flushAllOutput();
+    void ConversionFinished(const QString& message, bool ok, const QString& colour);
+    QString endMessage(ConversionRun::Outcome outcome) const;
+
+    QLabel* statusLabel;
+    QProgressBar* progressBar;
+    QPushButton* stopButton;
+    OutputView* outputView;
+    /// Names the file with the complete output.
+    QLabel* logLabel;
+    ConversionRun run;
+    OutputBuffer buffer;
+    OutputLog log;
+    QTimer flushTimer;
+    bool finished = false;
+};

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/ApplicationWindow.h"
+#include "app/AppRegistry.h"
+#include "app/CommandLine.h"
+#include "definitions/InputValues.h"
+#include "dialogs/MessageBox.h"
+#include "wizard/ActionPage.h"
+#include "wizard/ConfPage.h"
+#include "wizard/DisplayOptionsPage.h"
+#include "wizard/PageSequence.h"
+#include "wizard/SetProductPage.h"
+#include "wizard/StartPage.h"
+#include "wizard/XmlPage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The paths among the wizard's own settings; kept and read in native form.
+constexpr std::array pathKeys = {
+    std::pair{"compilerPersonality"_L1, &WizardState::compilerPersonality},
+    std::pair{"analyserPersonality"_L1, &WizardState::analyserPersonality},
+    std::pair{"messagePersonality"_L1, &WizardState::messagePersonality},
+    std::pair{"defaultPersonalityLocation"_L1, &WizardState::defaultPersonalityLocation},
+    std::pair{"fileDir"_L1, &WizardState::fileDir},
+};
+
+constexpr std::array textKeys = {
+    std::pair{"conversion"_L1, &WizardState::conversion},
+    std::pair{"fileName"_L1, &WizardState::fileName},
+};
+
+QString settingsGroup()
+{
+    return u"Settings"_s;
+}
+
+} // namespace
+
+ApplicationWindow::ApplicationWindow(const QString& title, const QString& helpPage, const QStringList& arguments)
+    : OrvWizardWindow(title, helpPage)
+{
+    presetFromLastProject();
+    savePersistedValues = false;
+    connect(appRegistry, &AppRegistry::WriteRegistryValues, this, &ApplicationWindow::DoRegistrySetValues);
+    connect(appRegistry, &AppRegistry::ReadRegistryValues, this, &ApplicationWindow::DoRegistryValues);
+    appRegistry->ReadRegistry();
+    cAvailable = QFile::exists(appRegistry->cInstallDir);
+    cppAvailable = QFile::exists(appRegistry->cppInstallDir);
+    CommandLine::preset(arguments, *this);
+    setOption(QWizard::IndependentPages, false);
+    setOption(QWizard::NoBackButtonOnLastPage, false);
+    setOption(QWizard::HaveCustomButton1, false);
+    setOption(QWizard::HaveHelpButton, false);
+    createPages();
+}
+
+QString ApplicationWindow::AnalyserName(bool isC)
+{
+    return isC ? tr("Orv C") : tr("Orv C++");
+}
+
+namespace {
+
+const QString& withDefault(QString& field, const ApplicationWindow& window, QString ProjectCreatorData::*c,
+                           QString ProjectCreatorData::*cpp)
+{
+    if (window.projectCreator && field.isEmpty()) {
+        field = window.projectCreator->*(window.isORVC ? c : cpp);
+    }
+    return field;
+}
+
+} // namespace
+
+const QString& ApplicationWindow::GetCompilerPersonality()
+{
+    return withDefault(compilerPersonality, *this, &ProjectCreatorData::cCompilerPersonality,
+                       &ProjectCreatorData::cppCompilerPersonality);
+}
+
+const QString& ApplicationWindow::GetAnalyserPersonality()
+{
+    return withDefault(analyserPersonality, *this, &ProjectCreatorData::cAnalyserPersonality,
+                       &ProjectCreatorData::cppAnalyserPersonality);
+}
+
+const QString& ApplicationWindow::GetMessagePersonality()
+{
+    return withDefault(messagePersonality, *this, &ProjectCreatorData::cMessagePersonality,
+                       &ProjectCreatorData::cppMessagePersonality);
+}
+
+int ApplicationWindow::NextPage(int pageId) const
+{
+    return nextPage(pageId, *this);
+}
+
+void ApplicationWindow::CustomButtonClicked(int which)
+{
+    if (which != QWizard::CustomButton1) {
+        return;
+    }
+    setOption(QWizard::HaveCustomButton1, false);
+    setOption(QWizard::NoCancelButton, false);
+    setOption(QWizard::NoBackButtonOnLastPage, false);
+    restart();
+}
+
+void ApplicationWindow::DoRegistrySetValues(QSettings* settings)
+{
+    settings->beginGroup(settingsGroup());
+    for (const auto& [key, member] : pathKeys) {
+        settings->setValue(key, QDir::toNativeSeparators(this->*member));
+    }
+    for (const auto& [key, member] : textKeys) {
+        settings->setValue(key, this->*member);
+    }
+    settings->setValue("isORVC"_L1, isORVC);
+    InputValues::write(*settings, appRegistry->definitions.projectCreators);
+    settings->endGroup();
+}
+
+void ApplicationWindow::DoRegistryValues(QSettings* settings)
+{
+    settings->beginGroup(settingsGroup());
+    for (const auto& [key, member] : pathKeys) {
+        this->*member = QDir::toNativeSeparators(settings->value(key).toString());
+    }
+    for (const auto& [key, member] : textKeys) {
+        this->*member = settings->value(key).toString();
+    }
+    isORVC = settings->value("isORVC"_L1).toBool();
+    InputValues::read(*settings, appRegistry->definitions.projectCreators);
+    settings->endGroup();
+}
+
+bool ApplicationWindow::confirmInterruption()
+{
+    if (!actionPage->isConverting()) {
+        return true;
+    }
+    const bool agreed = MessageBox::ask(this, tr("Conversion in progress"),
+                                        tr("The conversion is still running. It will be stopped and the new project "
+                                           "file will not be created.\nDo you wish to stop it?"));
+    // A conversion that ended behind the question has a result, which the user shall see.
+    return agreed && actionPage->isConverting();
+}
+
+void ApplicationWindow::presetFromLastProject()
+{
+    const QString lastProject = appRegistry->values.project.projectFile;
+    if (QFile::exists(lastProject)) {
+        const QFileInfo file(lastProject);
+        fileName = file.baseName();
+        fileDir = file.absolutePath();
+    } else {
+        fileDir = QDir::currentPath();
+    }
+}
+
+void ApplicationWindow::createPages()
+{
+    setPage(StartPageId, new StartPage(this));
+    setPage(SetProductPageId, new SetProductPage(this));
+    setPage(XmlPageId, new XmlPage(this));
+    setPage(ConfPageId, new ConfPage(this));
+    actionPage = new ActionPage(this);
+    setPage(ActionPageId, actionPage);
+    setPage(DisplayOptionsPageId, new DisplayOptionsPage(this));
+    setStartId(StartPageId);
+}

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/InputPanel.h"
+#include "dialogs/PlainText.h"
+#include "wizard/SelectFileWidgets.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+namespace {
+
+int oneToFive(int columns)
+{
+    return columns < 1 || columns > 5 ? 1 : columns;
+}
+
+/// Builds the fields of one box; its radio buttons exclude each other.
+class GroupBuilder
+{
+public:
+    GroupBuilder(const QString& title, bool forC, const std::function<void()>& onChange)
+        : box(new QGroupBox(PlainText::withoutMnemonic(title)))
+        , grid(new QGridLayout(box))
+        , isC(forC)
+        , changed(onChange)
+    {
+    }
+
+    QGroupBox* build(const ArgumentDefinitions& definitions, int columns)
+    {
+        int row = 0;
+        int column = 0;
+        for (const auto& definition : definitions) {
+            if (definition->inputType == InputType::Group) {
+                grid->addWidget(InputPanel::BuildGroup(definition->children, definition->displayName,
+                                                       definition->columns, isC, changed),
+                                row, column);
+            } else {
+                grid->addWidget(buildField(*definition), row, column, 1, oneToFive(definition->columns));
+            }
+            if (++column == columns) {
+                ++row;
+                column = 0;
+            }
+        }
+        return box;
+    }
+
+private:
+    QFrame* buildField(ArgumentDefinition& definition)
+    {
+        definition.widgets.clear();
+        auto* frame = new QFrame;
+        auto* row = new QHBoxLayout(frame);
+        row->setContentsMargins(0, 0, 0, 0);
+        QLabel* label = nullptr;
+        if (!definition.isSwitch()) {
+            label = new QLabel(PlainText::withoutMnemonic(definition.displayName));
+            label->setTextFormat(Qt::PlainText);
+            row->addWidget(label);
+            definition.widgets += label;
+        }
+        QWidget* control = definition.isSwitch() ? buildSwitch(definition, *row) : buildText(definition, *row);
+        control->setToolTip(PlainText::toolTip(definition.hoverHelp));
+        control->setAccessibleName(definition.displayName);
+        definition.widgets += control;
+        if (label) {
+            label->setBuddy(control);
+        }
+        return frame;
+    }
+
+    QWidget* buildText(ArgumentDefinition& definition, QHBoxLayout& row)
+    {
+        const QString& preset = definition.DefaultValue(isC);
+        if (definition.inputType == InputType::Edit) {
+            definition.lineEdit = new QLineEdit(preset);
+            row.addWidget(definition.lineEdit);
+        } else {
+            const bool isFile = definition.inputType == InputType::File;
+            const bool presetExists = !preset.isEmpty() && QFile::exists(preset);
+            const QString start = isFile || presetExists ? preset : QDir::currentPath();
+            auto* field = new SelectFileWidgets(definition.displayName, definition.extension,
+                                                {.withFind = isFile, .selectFiles = isFile, .startFolder = start});
+            field->setParent(box);
+            row.addWidget(field->frame());
+            definition.lineEdit = field->lineEdit();
+            if (isFile) {
+                definition.fileWidgets = field;
+                definition.widgets += field->frame();
+            }
+            if (!isFile || presetExists) {
+                field->SetValue(start);
+            }
+        }
+        QObject::connect(definition.lineEdit, &QLineEdit::textChanged, box, changed);
+        return definition.lineEdit;
+    }
+
+    QWidget* buildSwitch(ArgumentDefinition& definition, QHBoxLayout& row)
+    {
+        const QString text = PlainText::withoutMnemonic(definition.displayName);
+        if (definition.inputType == InputType::Check) {
+            definition.button = new QCheckBox(text);
+        } else {
+            definition.button = new QRadioButton(text);
+            if (!radios) {
+                radios = new QButtonGroup(box);
+            }
+            radios->addButton(definition.button);
+        }
+        definition.button->setChecked(definition.DefaultValue(isC).toInt() > 0);
+        row.addWidget(definition.button);
+        QObject::connect(definition.button, &QAbstractButton::toggled, box, changed);
+        return definition.button;
+    }
+
+    QGroupBox* box;
+    QGridLayout* grid;
+    QButtonGroup* radios = nullptr;
+    bool isC;
+    const std::function<void()>& changed;
+};
+
+} // namespace
+
+QGroupBox* InputPanel::BuildGroup(const ArgumentDefinitions& definitions, const QString& title, int columns, bool isC,
+                                  const std::function<void()>& changed)
+{
+    return GroupBuilder(title, isC, changed).build(definitions, oneToFive(columns));
+}

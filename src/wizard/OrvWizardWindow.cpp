@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/OrvWizardWindow.h"
+#include "app/AppRegistry.h"
+#include "wizard/OrvBasicWizardPage.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QIcon>
+#include <QPixmap>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+OrvWizardWindow* currentWindow = nullptr;
+
+} // namespace
+
+OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& /*helpPage*/, QWidget* parent)
+    : QWizard(parent)
+{
+    setWindowTitle(title);
+    currentWindow = this;
+    setWizardStyle(QWizard::ModernStyle);
+    setWindowIcon(QIcon(u":/AKOVRAIcon.xpm"_s));
+    setPixmap(QWizard::LogoPixmap, QPixmap(u":/logo_shadow.jpg"_s));
+    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowMaximizeButtonHint);
+    setOptions(QWizard::HaveCustomButton1 | QWizard::NoBackButtonOnLastPage | QWizard::NoBackButtonOnStartPage);
+    printButton = button(QWizard::CustomButton1);
+    printButton->setText(tr("&Print"));
+    printButton->hide();
+    connect(this, &QWizard::customButtonClicked, this, &OrvWizardWindow::CustomButtonClicked);
+    connect(this, &QWizard::helpRequested, this, &OrvWizardWindow::ShowHelp);
+    connect(this, &QDialog::finished, this, &OrvWizardWindow::Finished);
+    resize(appRegistry->windowSize);
+    move(appRegistry->windowPos);
+}
+
+OrvWizardWindow::~OrvWizardWindow()
+{
+    if (currentWindow == this) {
+        currentWindow = nullptr;
+    }
+}
+
+QWidget* OrvWizardWindow::current()
+{
+    return currentWindow;
+}
+
+bool OrvWizardWindow::validateCurrentPage()
+{
+    const bool isLastPage = nextId() == -1;
+    const bool valid = QWizard::validateCurrentPage();
+    // On the last page only what still runs may refuse Finish.
+    return isLastPage ? CanClose() : valid;
+}
+
+void OrvWizardWindow::reject()
+{
+    if (confirmInterruption()) {
+        QWizard::reject();
+    }
+}
+
+void OrvWizardWindow::CustomButtonClicked(int which)
+{
+    auto* page = qobject_cast<OrvBasicWizardPage*>(currentPage());
+    if (which == QWizard::CustomButton1 && page) {
+        page->CustomButtonAction();
+    }
+}
+
+void OrvWizardWindow::ShowHelp() {}
+
+void OrvWizardWindow::Finished(int result)
+{
+    if (result == QDialog::Rejected) {
+        appRegistry->ShutDown();
+    } else if (!keepSettingsCheck || keepSettingsCheck->isChecked()) {
+        saveState();
+    }
+}
+
+void OrvWizardWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(confirmInterruption() && CanClose());
+}
+
+bool OrvWizardWindow::CanClose()
+{
+    appRegistry->ShutDown();
+    return true;
+}
+
+void OrvWizardWindow::saveState()
+{
+    FinishHook();
+    if (saveGeometry) {
+        appRegistry->windowPos = pos();
+        appRegistry->windowSize = geometry().size();
+        appRegistry->WriteRegistry();
+    }
+    if (savePersistedValues) {
+        appRegistry->values.Write();
+    }
+}

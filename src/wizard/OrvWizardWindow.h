@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWizard>
+
+class QAbstractButton;
+
+/// The wizard frame of the suite: look, custom button, closing and what is kept when the wizard finishes.
+class OrvWizardWindow : public QWizard
+{
+    Q_OBJECT
+
+public:
+    OrvWizardWindow(const QString& title, const QString& helpPage, QWidget* parent = nullptr);
+    ~OrvWizardWindow() override;
+
+    /// The one wizard window, parent of the file dialogs and message boxes of its fields; none before and after it.
+    static QWidget* current();
+
+    bool validateCurrentPage() override;
+    /// Asks before a running conversion is given up.
+    void reject() override;
+
+public Q_SLOTS:
+    virtual void CustomButtonClicked(int which);
+    void ShowHelp();
+    void Finished(int result);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    /// True when the window may go; what still runs has been stopped then.
+    virtual bool CanClose();
+    /// True when the user agrees to give up what the current page is doing, or it does nothing.
+    virtual bool confirmInterruption() { return true; }
+    virtual void FinishHook() {}
+
+    QAbstractButton* printButton = nullptr;
+    bool saveGeometry = true;
+    bool savePersistedValues = true;
+    /// When there is one, the state is kept only while it is checked.
+    QAbstractButton* keepSettingsCheck = nullptr;
+
+private:
+    void saveState();
+};

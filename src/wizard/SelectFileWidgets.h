@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+
+/// A field for the name of a file or folder with its Edit and Browse buttons, all in one frame that a page lays out.
+/// The text turns red while it names nothing on disk.
+class SelectFileWidgets : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Options
+    {
+        bool withFind = false;
+        bool inGroupBox = false;
+        /// Browse for files; otherwise for folders.
+        bool selectFiles = true;
+        bool withHistory = false;
+        /// Where Browse starts while the field is empty.
+        QString startFolder = {};
+        bool withEdit = false;
+        /// Edit emits EditFile() instead of showing the file.
+        bool emitEditSignal = false;
+    };
+
+    SelectFileWidgets(const QString& caption, const QString& filter, const Options& options);
+    ~SelectFileWidgets() override;
+
+    /// Sets the native form of the text and puts it first in the history; an empty text brings back the last value.
+    void SetValue(const QString& text);
+    /// A read-only field has no buttons.
+    void SetReadOnly(bool readOnly);
+    void SetStartFolder(const QString& folder) { startFolder = folder; }
+
+    QWidget* frame() const { return frameWidget; }
+    QLineEdit* lineEdit() const { return edit; }
+    /// The trimmed text names something on disk; true as long as nothing was entered.
+    bool isValid() const { return valid; }
+
+Q_SIGNALS:
+    void ValueChanged(QString val);
+    void EditFile(QString fileName);
+
+public Q_SLOTS:
+    void ValChanged(QString text);
+    void EditFile();
+    void GetAFile();
+
+private:
+    void createButtons();
+    void layOut(const Options& options);
+    void takeChosen(const QString& path);
+    void showFile(const QString& name) const;
+
+    bool emitEditSignal;
+    bool folderMode;
+    QPushButton* editButton;
+    QPushButton* browseButton;
+    QPointer<QWidget> frameWidget;
+    QComboBox* historyCombo;
+    QLineEdit* edit;
+    QString caption;
+    QString filter;
+    QString startFolder;
+    QColor normalColour;
+    bool valid = true;
+};

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/SetProductPage.h"
+#include "wizard/ApplicationWindow.h"
+#include "wizard/PageSequence.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+SetProductPage::SetProductPage(ApplicationWindow* owner)
+    : AppPage(owner, SetProductPageId)
+    , cRadio(new QRadioButton(tr("Orv C [Project is 'C' Code Only]")))
+    , cppRadio(new QRadioButton(tr("Orv C++ [Project contains 'C++' Code]")))
+    , warningBox(std::make_unique<QGroupBox>())
+{
+    setTitle(tr("Select KOVRA Analyser Tool"));
+    setSubTitle(tr("Specify which Orv tool will be used to analyse the source code."));
+
+    auto* explanation = new QLabel(tr(
+        "You need to select which of the KOVRA analyser tools you will be using to analyse the newly created project. "
+        "\n\nOrv C and Orv C++ operate with different configuration settings so it is important to specify which of "
+        "these analysers you will be using. \n\nIf your project is purely 'C' code then select Orv C. \n\nIf your "
+        "project is a mixture of 'C' and 'C++' code then select Orv C++ or create separate projects for the 'C' and "
+        "'C++' parts of your project."));
+    explanation->setWordWrap(true);
+    auto* explanationBox = new QGroupBox;
+    (new QHBoxLayout(explanationBox))->addWidget(explanation);
+
+    auto* analyserBox = new QGroupBox(tr("KOVRA Analyser"));
+    auto* analysers = new QHBoxLayout(analyserBox);
+    analysers->addWidget(cRadio);
+    analysers->addWidget(cppRadio);
+
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(explanationBox, 0, 0);
+    grid->addWidget(analyserBox, 1, 0);
+
+    auto* warning = new QLabel(tr("<font color='red'><U>WARNING</U><P>There are no KOVRA Analysers installed on this "
+                                  "machine.</font>"));
+    warning->setWordWrap(true);
+    (new QHBoxLayout(warningBox.get()))->addWidget(warning);
+    warningBox->setWindowTitle(owner->windowTitle());
+    warningBox->setWindowIcon(owner->windowIcon());
+    // It must not keep the program running once the wizard is gone.
+    warningBox->setAttribute(Qt::WA_QuitOnClose, false);
+    warningBox->setAttribute(Qt::WA_ShowWithoutActivating);
+    connect(owner, &QDialog::finished, warningBox.get(), &QWidget::hide);
+}
+
+SetProductPage::~SetProductPage() = default;
+
+void SetProductPage::initializePage()
+{
+    (window->isORVC ? cRadio : cppRadio)->setChecked(true);
+    warningBox->setVisible(window->noAnalyserInstalled);
+}
+
+bool SetProductPage::validatePage()
+{
+    window->SetAnalyser(cRadio->isChecked());
+    return true;
+}

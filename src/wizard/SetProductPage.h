@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "wizard/AppPage.h"
+
+#include <memory>
+
+class QGroupBox;
+class QRadioButton;
+
+/// The choice between the C and the C++ analyser.
+class SetProductPage : public AppPage
+{
+    Q_OBJECT
+
+public:
+    explicit SetProductPage(ApplicationWindow* window);
+    ~SetProductPage() override;
+
+    void initializePage() override;
+    bool validatePage() override;
+    bool isComplete() const override { return true; }
+
+private:
+    QRadioButton* cRadio;
+    QRadioButton* cppRadio;
+    /// A window of its own beside the wizard.
+    std::unique_ptr<QGroupBox> warningBox;
+};

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/StartPage.h"
+#include "app/AppRegistry.h"
+#include "dialogs/MessageBox.h"
+#include "project/ProjectTarget.h"
+#include "wizard/ApplicationWindow.h"
+#include "wizard/PageSequence.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+StartPage::StartPage(ApplicationWindow* owner)
+    : AppPage(owner, StartPageId)
+    , location(tr("Select Directory"), tr("*"), {.selectFiles = false, .startFolder = QDir::currentPath()})
+    , nameEdit(new QLineEdit)
+    , typeCombo(new QComboBox)
+    , errorLabel(new QLabel)
+{
+    setTitle(tr("Project Information"));
+    setSubTitle(tr("Specify new project name and conversion project type"));
+
+    auto* nameLabel = new QLabel(tr("Name of project to be created:"));
+    nameLabel->setBuddy(nameEdit);
+    auto* locationLabel = new QLabel(tr("Location for new project file:"));
+    locationLabel->setBuddy(location.lineEdit());
+    auto* typeLabel = new QLabel(tr("Original project type:"));
+    typeLabel->setBuddy(typeCombo);
+    nameEdit->setAccessibleName(nameLabel->text());
+    location.lineEdit()->setAccessibleName(locationLabel->text());
+    typeCombo->setAccessibleName(typeLabel->text());
+
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(nameLabel, 0, 0, 1, 1);
+    grid->addWidget(nameEdit, 0, 1, 1, 5);
+    grid->addWidget(locationLabel, 1, 0, 1, 1);
+    grid->addWidget(location.frame(), 1, 1, 1, 5);
+    grid->addWidget(typeLabel, 2, 0, 1, 1);
+    grid->addWidget(typeCombo, 2, 1, 1, 5);
+    grid->addWidget(errorLabel, 3, 0, 1, 6);
+
+    const QString message =
+        tr("<P>An error has occured:<P>For this application to operate successfully it requires an xml data file:"
+           "<P><b><i>%1</i></b>.<P>This file is not of the correct format or could not be located.")
+            .arg(appRegistry->DefinitionsFileName().toHtmlEscaped());
+    errorLabel->setWordWrap(true);
+    errorLabel->setText(u"<font color='%1'>%2</font>"_s.arg(u"red"_s, message));
+    errorLabel->hide();
+    fillTypes();
+
+    connect(nameEdit, &QLineEdit::textChanged, this, &StartPage::completeChanged);
+    connect(location.lineEdit(), &QLineEdit::textChanged, this, &StartPage::completeChanged);
+}
+
+void StartPage::fillTypes()
+{
+    const auto& creators = appRegistry->definitions.projectCreators;
+    for (const auto& creator : creators) {
+        typeCombo->addItem(creator->name, QVariant::fromValue(creator.get()));
+    }
+    errorLabel->setVisible(creators.empty());
+}
+
+void StartPage::initializePage()
+{
+    nameEdit->setText(window->fileName);
+    location.SetValue(window->fileDir.isEmpty() ? QDir::currentPath() : window->fileDir);
+    const int index = typeCombo->findText(window->conversion, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index >= 0) {
+        typeCombo->setCurrentIndex(index);
+    }
+}
+
+bool StartPage::isComplete() const
+{
+    return errorLabel->isHidden() && !nameEdit->text().isEmpty() && !location.lineEdit()->text().isEmpty() &&
+           !typeCombo->currentText().isEmpty();
+}
+
+bool StartPage::validatePage()
+{
+    window->projectCreator = typeCombo->currentData().value<ProjectCreatorData*>();
+    window->fileName = nameEdit->text();
+    window->fileDir = location.lineEdit()->text();
+    window->conversion = typeCombo->currentText();
+    window->decideAnalyser(appRegistry->cInstallDir, appRegistry->cppInstallDir);
+    // Whether another page follows depends on these choices, and with it the button: Next or Finish.
+    Q_EMIT completeChanged();
+    return makeFolder() && checkProjectFile();
+}
+
+bool StartPage::makeFolder()
+{
+    if (QDir(window->fileDir).exists()) {
+        return true;
+    }
+    const QString title = u"Directory does not exist"_s;
+    if (!MessageBox::ask(
+            window, title,
+            tr("The selected location for the new project file does not exist.\nDo you wish to create this "
+               "directory?\n"))) {
+        return false;
+    }
+    if (!ProjectTarget::createFolder(window->fileDir)) {
+        MessageBox::warn(window, title, tr("The selected location can not be created.\n"));
+        return false;
+    }
+    return true;
+}
+
+bool StartPage::checkProjectFile()
+{
+    const QString file = window->ProjectFile();
+    const bool existed = QFile::exists(file);
+    if (existed && !MessageBox::ask(window, tr("Project file already exists"),
+                                    tr("Do you want to overwrite this file?") + u'\n' + file)) {
+        return false;
+    }
+    if (!ProjectTarget::isWritable(file)) {
+        const QString text = existed ? tr("Can not overwrite file:") : tr("Can not create file:");
+        MessageBox::warn(window, tr("Project File can not be created"), text + u'\n' + file);
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "wizard/AppPage.h"
+#include "wizard/SelectFileWidgets.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+/// Name, folder and conversion type of the new project.
+class StartPage : public AppPage
+{
+    Q_OBJECT
+
+public:
+    explicit StartPage(ApplicationWindow* window);
+
+    void initializePage() override;
+    bool validatePage() override;
+    bool isComplete() const override;
+
+private:
+    void fillTypes();
+    bool makeFolder();
+    bool checkProjectFile();
+
+    SelectFileWidgets location;
+    QLineEdit* nameEdit;
+    QComboBox* typeCombo;
+    QLabel* errorLabel;
+};

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/XmlPage.h"
+#include "app/AppRegistry.h"
+#include "wizard/ApplicationWindow.h"
+#include "wizard/InputPanel.h"
+#include "wizard/PageSequence.h"
+#include "wizard/SelectFileWidgets.h"
+
+#include <QAbstractButton>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+
+XmlPage::XmlPage(ApplicationWindow* owner)
+    : AppPage(owner, XmlPageId)
+    , hint(new QLabel)
+{
+    setTitle(tr("Project Conversion Information"));
+    setSubTitle(tr("Specify Information that identifies project to be converted"));
+    auto* grid = new QGridLayout(this);
+    for (const auto& creator : appRegistry->definitions.projectCreators) {
+        creator->panel =
+            InputPanel::BuildGroup(creator->inputData, creator->name, 1, owner->isORVC, [this] { valueChanged(); });
+        grid->addWidget(creator->panel, 0, 0);
+        creator->panel->hide();
+    }
+    hint->setTextFormat(Qt::PlainText);
+    hint->setWordWrap(true);
+    grid->addWidget(hint, 1, 0);
+    grid->setRowStretch(2, 1);
+}
+
+void XmlPage::initializePage()
+{
+    for (const auto& creator : appRegistry->definitions.projectCreators) {
+        creator->panel->hide();
+    }
+    if (!window->projectCreator) {
+        return;
+    }
+    window->projectCreator->panel->show();
+    load(window->projectCreator->inputData);
+    valueChanged();
+}
+
+void XmlPage::load(const ArgumentDefinitions& definitions)
+{
+    for (const auto& definition : definitions) {
+        load(definition->children);
+        const QString& value =
+            definition->value.isEmpty() ? definition->DefaultValue(window->isORVC) : definition->value;
+        if (definition->fileWidgets) {
+            definition->fileWidgets->SetStartFolder(window->fileDir);
+        }
+        if (definition->lineEdit) {
+            definition->lineEdit->setText(value);
+        }
+        if (definition->button) {
+            definition->button->setChecked(value.toInt() > 0);
+        }
+        for (QWidget* widget : std::as_const(definition->widgets)) {
+            widget->setVisible(!definition->isHiddenFor(window->isORVC));
+        }
+    }
+}
+
+bool XmlPage::validatePage()
+{
+    if (window->projectCreator) {
+        for (const auto& definition : window->projectCreator->inputData) {
+            Value(*definition, true);
+        }
+    }
+    return true;
+}
+
+bool XmlPage::isComplete() const
+{
+    return window->projectCreator && !firstIncomplete();
+}
+
+QString XmlPage::Value(ArgumentDefinition& definition, bool store) const
+{
+    return InputValues::value(
+        definition, [this](const ArgumentDefinition& field) { return fieldState(field); }, store);
+}
+
+void XmlPage::valueChanged()
+{
+    const ArgumentDefinition* missing = window->projectCreator ? firstIncomplete() : nullptr;
+    if (!missing) {
+        hint->clear();
+    } else if (missing->fileMustExist) {
+        hint->setText(tr("To continue, name an existing file or folder in \"%1\".").arg(missing->displayName));
+    } else {
+        hint->setText(tr("To continue, fill in \"%1\".").arg(missing->displayName));
+    }
+    Q_EMIT completeChanged();
+}
+
+FieldState XmlPage::fieldState(const ArgumentDefinition& definition) const
+{
+    FieldState state;
+    if (definition.lineEdit) {
+        state.hasText = true;
+        state.textEnabled = definition.lineEdit->isEnabled();
+        state.text = definition.lineEdit->text();
+    }
+    if (definition.button) {
+        state.hasSwitch = true;
+        state.switchActive = definition.button->isVisibleTo(this) && definition.button->isEnabled();
+        state.checked = definition.button->isChecked();
+    }
+    return state;
+}
+
+const ArgumentDefinition* XmlPage::firstIncomplete() const
+{
+    return InputValues::firstIncomplete(window->projectCreator->inputData,
+                                        [this](const ArgumentDefinition& field) { return fieldState(field); });
+}

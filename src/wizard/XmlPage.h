@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "definitions/InputValues.h"
+#include "wizard/AppPage.h"
+
+class QLabel;
+
+/// The input fields that the chosen conversion type declares.
+class XmlPage : public AppPage
+{
+    Q_OBJECT
+
+public:
+    explicit XmlPage(ApplicationWindow* window);
+
+    void initializePage() override;
+    bool validatePage() override;
+    bool isComplete() const override;
+
+    /// The field's current value; with store the controls' values are remembered in the records.
+    QString Value(ArgumentDefinition& definition, bool store) const;
+
+private:
+    void load(const ArgumentDefinitions& definitions);
+    void valueChanged();
+    FieldState fieldState(const ArgumentDefinition& definition) const;
+    const ArgumentDefinition* firstIncomplete() const;
+
+    /// Says which field Next is waiting for.
+    QLabel* hint;
+};
