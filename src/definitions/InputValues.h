@@ -14,7 +14,7 @@ struct FieldState
 {
     bool hasText = false;
     bool textEnabled = true;
-    QString text;
+    QString text = {};
     bool hasSwitch = false;
     /// A switch that is hidden or disabled contributes nothing.
     bool switchActive = true;

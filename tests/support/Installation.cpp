@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "Installation.h"
+#include "app/AppRegistry.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto analyserVariables = {"ORVCPATH",         "ORVCBIN",           "ORVCHELP",          "ORVCHELPFILES",
+                                    "ORVCTEMPFILES",    "ORVCTEMP",          "ORVCPERSONALITIES", "ORVCDORVFILES",
+                                    "ORVCRESOURCESDIR", "ORVCPPPATH",        "ORVCPPBIN",         "ORVCPPHELP",
+                                    "ORVCPPHELPFILES",  "ORVCPPTEMPFILES",   "ORVCPPTEMP",        "ORVCPPPERSONALITIES",
+                                    "ORVCPPDORVFILES",  "ORVCPPRESOURCESDIR"};
+
+} // namespace
+
+Installation::Installation()
+    : searchPath(qgetenv("PATH"))
+{
+    for (const auto& name : {u"bin"_s, u"xml"_s, u"help"_s, u"work"_s, u"orvc/bin"_s, u"orvc/personalities"_s,
+                             u"orvcpp/bin"_s, u"orvcpp/personalities"_s}) {
+        QDir(folder.path()).mkpath(name);
+    }
+    qputenv("ORVCPATH", path(u"orvc"_s).toLocal8Bit());
+    qputenv("ORVCPPPATH", path(u"orvcpp"_s).toLocal8Bit());
+}
+
+Installation::~Installation()
+{
+    registry.reset();
+    qputenv("PATH", searchPath);
+    for (const char* name : analyserVariables) {
+        qunsetenv(name);
+    }
+}
+
+QString Installation::write(const QString& name, const QByteArray& contents) const
+{
+    const QString target = path(name);
+    QDir().mkpath(QFileInfo(target).absolutePath());
+    QFile file(target);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
+        qFatal("cannot write %s", qPrintable(target));
+    }
+    return target;
+}
+
+QString Installation::writeScript(const QString& name, const QByteArray& body) const
+{
+    const QString script = write(name, "#!/bin/sh\n" + body);
+    QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return script;
+}
+
+QByteArray Installation::read(const QString& name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Installation::define(const QByteArray& elements) const
+{
+    write(u"xml/settings.xml"_s, "<?xml version=\"1.0\"?>\n<settings>\n" + elements + "\n</settings>\n");
+}
+
+AppRegistry& Installation::start(const QStringList& options)
+{
+    registry.reset();
+    registry = std::make_unique<AppRegistry>();
+    appRegistry = registry.get();
+    registry->Init(qApp, QStringList{path(u"bin/ProjectCreation"_s)} + options, u"Create KOVRA Project"_s, 650, 430,
+                   {});
+    return *registry;
+}
+
+BoxAnswers::BoxAnswers(QList<QMessageBox::StandardButton> buttons)
+    : answers(std::move(buttons))
+    , timer(std::make_unique<QTimer>())
+{
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [this] { answer(); });
+    timer->start(5);
+}
+
+BoxAnswers::~BoxAnswers() = default;
+
+void BoxAnswers::answer()
+{
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible()) {
+        return;
+    }
+    texts += box->windowTitle() + u'|' + box->text();
+    // An unexpected box must not hang the test: it gets the answer that changes least.
+    const QMessageBox::StandardButton choice = answers.isEmpty() ? QMessageBox::NoButton : answers.takeFirst();
+    if (QAbstractButton* button = box->button(choice)) {
+        button->click();
+    } else {
+        box->reject();
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QMessageBox>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <memory>
+
+class AppRegistry;
+class QTimer;
+
+/// A suite installed in a temporary folder: bin, xml and both analysers, with a registry that loads it.
+class Installation
+{
+public:
+    Installation();
+    ~Installation();
+
+    QString path(const QString& name) const { return folder.filePath(name); }
+    /// Writes a file below the folder, making its folders; gives its path.
+    QString write(const QString& name, const QByteArray& contents) const;
+    /// The same for a shell script that can be run.
+    QString writeScript(const QString& name, const QByteArray& body) const;
+    QByteArray read(const QString& name) const;
+    /// Writes xml/settings.xml around the given elements.
+    void define(const QByteArray& elements) const;
+    /// Starts the registry anew as the program does, with these options.
+    AppRegistry& start(const QStringList& options = {});
+
+private:
+    QTemporaryDir folder;
+    QByteArray searchPath;
+    std::unique_ptr<AppRegistry> registry;
+};
+
+/// Answers message boxes while it lives and remembers what they said.
+class BoxAnswers
+{
+public:
+    explicit BoxAnswers(QList<QMessageBox::StandardButton> answers);
+    ~BoxAnswers();
+
+    QStringList texts;
+
+private:
+    void answer();
+
+    QList<QMessageBox::StandardButton> answers;
+    std::unique_ptr<QTimer> timer;
+};

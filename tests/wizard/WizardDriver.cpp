@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "WizardDriver.h"
+
+#include <QLabel>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+WizardDriver::WizardDriver(const QStringList& arguments)
+    : window(u"Create KOVRA Project"_s, u"projectCreation.htm"_s, QStringList{u"ProjectCreation"_s} + arguments)
+{
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window)) {
+        qFatal("the wizard does not appear");
+    }
+}
+
+bool WizardDriver::isCalled(const QWidget& control, const QString& name)
+{
+    const auto* abstractButton = qobject_cast<const QAbstractButton*>(&control);
+    return control.accessibleName() == name || (abstractButton && abstractButton->text() == name);
+}
+
+bool WizardDriver::has(const QString& name) const
+{
+    const auto controls = window.currentPage()->findChildren<QWidget*>();
+    return std::ranges::any_of(
+        controls, [&](const QWidget* control) { return control->isVisible() && isCalled(*control, name); });
+}
+
+QStringList WizardDriver::labels() const
+{
+    QStringList texts;
+    const auto all = window.currentPage()->findChildren<QLabel*>();
+    for (const QLabel* label : all) {
+        if (label->isVisible()) {
+            texts += label->text();
+        }
+    }
+    return texts;
+}
+
+void WizardDriver::press(QWizard::WizardButton which) const
+{
+    QAbstractButton* target = window.button(which);
+    if (!target->isEnabled() || !target->isVisible()) {
+        qFatal("button %d can not be pressed", int(which));
+    }
+    QTest::mouseClick(target, Qt::LeftButton);
+}
+
+void WizardDriver::passStartPage(const QString& name, const QString& folder, const QString& type) const
+{
+    edit(u"Name of project to be created:"_s).setText(name);
+    edit(u"Location for new project file:"_s).setText(folder);
+    combo(u"Original project type:"_s).setCurrentText(type);
+    press(QWizard::NextButton);
+}
