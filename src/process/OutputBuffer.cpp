@@ -71,13 +71,11 @@ QStringList OutputBuffer::take(qsizetype maximum)
     return taken;
 }
 
-QStringList OutputBuffer::takeAll()
+void OutputBuffer::endLine()
 {
-    QStringList taken = take(keptLines);
     if (!partial.isEmpty()) {
-        taken += std::exchange(partial, {});
+        addLine(std::exchange(partial, {}));
     }
-    return taken;
 }
 
 qint64 OutputBuffer::takeDropped()

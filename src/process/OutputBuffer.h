@@ -17,8 +17,8 @@ public:
     /// Takes at most maximum lines, oldest first. An unfinished last line is held back for one call, so that a line cut
     /// by a read is joined and a program's prompt still appears.
     QStringList take(qsizetype maximum);
-    /// Takes everything, the unfinished line included.
-    QStringList takeAll();
+    /// Nothing more will come: an unfinished line is one like any other.
+    void endLine();
     /// Lines dropped since the last call.
     qint64 takeDropped();
     void clear();

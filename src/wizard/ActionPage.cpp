@@ -21,7 +21,7 @@ namespace {
 
 constexpr auto flushInterval = 30ms;
 // What one flush may insert without the window's stalling being felt.
-constexpr int linesPerFlush = 1000;
+constexpr int linesPerFlush = 500;
 
 } // namespace
 
@@ -96,6 +96,7 @@ void ActionPage::cleanupPage()
     connect(&run, &ConversionRun::outputReady, this, &ActionPage::ReadReady);
     connect(&run, &ConversionRun::ended, this, &ActionPage::ProcessComplete);
     flushTimer.stop();
+    endPending = false;
     finished = false;
     if (window->testOption(QWizard::NoCancelButton)) {
         window->setOption(QWizard::NoCancelButton, false);
@@ -125,16 +126,10 @@ void ActionPage::flushOutput()
     outputView->appendLines(lines);
     if (buffer.isEmpty()) {
         flushTimer.stop();
+        if (endPending) {
+            showEnd();
+        }
     }
-}
-
-void ActionPage::flushAllOutput()
-{
-    ReadReady();
-    flushTimer.stop();
-    flushOutput();
-    outputView->appendLines(buffer.takeAll());
-    log.finish();
 }
 
 void ActionPage::ProcessComplete()
@@ -142,7 +137,18 @@ void ActionPage::ProcessComplete()
     if (finished) {
         return;
     }
-    flushAllOutput();
+    ReadReady();
+    log.finish();
+    buffer.endLine();
+    stopButton->hide();
+    // The end is told after all that the program said; of much output the window takes a little at a time.
+    endPending = true;
+    flushOutput();
+}
+
+void ActionPage::showEnd()
+{
+    endPending = false;
     const ConversionRun::Outcome outcome = run.outcome();
     if (!run.detail().isEmpty()) {
         outputView->appendLines({run.detail()});

@@ -35,7 +35,7 @@ public Q_SLOTS:
 private:
     void showRunning();
     void flushOutput();
-    void flushAllOutput();
+    void showEnd();
     void ConversionFinished(const QString& message, bool ok, const QString& colour);
     QString endMessage(ConversionRun::Outcome outcome) const;
 
@@ -50,4 +50,6 @@ private:
     OutputLog log;
     QTimer flushTimer;
     bool finished = false;
+    /// The program has ended, some of its output is not shown yet.
+    bool endPending = false;
 };

@@ -22,7 +22,8 @@ private Q_SLOTS:
         // A prompt that never ends its line appears one call later, what follows it is a paragraph of its own.
         QCOMPARE(buffer.take(10), QStringList{u"pro"_s});
         buffer.append(u"mpt");
-        QCOMPARE(buffer.takeAll(), QStringList{u"mpt"_s});
+        buffer.endLine();
+        QCOMPARE(buffer.take(100), QStringList{u"mpt"_s});
         QVERIFY(buffer.isEmpty());
     }
 
@@ -32,13 +33,13 @@ private Q_SLOTS:
         for (int i = 0; i < 1000; ++i) {
             buffer.append(QString(QString::number(i) + u'\n'));
         }
-        QStringList last = buffer.takeAll();
+        QStringList last = buffer.take(100);
         QCOMPARE(last.size(), 10);
         QCOMPARE(last.first(), u"990"_s);
         QCOMPARE(buffer.takeDropped(), qint64(990));
         QCOMPARE(buffer.takeDropped(), qint64(0));
         buffer.append(QString(QString(1 << 20, u'x') + u"\nend\n"_s));
-        last = buffer.takeAll();
+        last = buffer.take(100);
         QCOMPARE(last.last(), u"end"_s);
         QVERIFY(last.first().size() <= 16 * 1024);
     }

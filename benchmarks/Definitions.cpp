@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// Reading a definitions file of 10 MB, against one bare pass over it.
+#include "definitions/KOVRASettingsFile.h"
+#include "definitions/Placeholders.h"
+#include "Ratio.h"
+
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+int main()
+{
+    const QByteArray creator = R"(
+  <projectCreator>
+    <name>From a build description</name>
+    <exe>%ORVC%/bin/convert</exe>
+    <exeargs>--in %IN --out %PF --name %J %CP+ %AP+ %MP+</exeargs>
+    <orvcProject>1</orvcProject>
+    <compilerPersonality TYPE="C">%ORVC%/personalities/gcc.p_c</compilerPersonality>
+    <inputData><displayName>Build file</displayName><inputType>FILE</inputType><ext>*.json</ext>
+      <hoverHelp>The file that describes the build.</hoverHelp><mustBeSet>FILE_MUST_EXIST</mustBeSet>
+      <argDef PRE="--in">%IN</argDef><defaultValue>%I%/build.json</defaultValue></inputData>
+    <inputData><displayName>Options</displayName><inputType SEP="," COLUMNS="2">GROUP</inputType>
+      <inputData><displayName>One</displayName><inputType OUT_STR="-1">CHECK</inputType></inputData>
+      <inputData><displayName>Two</displayName><inputType OUT_STR="-2">CHECK</inputType></inputData></inputData>
+  </projectCreator>)";
+    const QByteArray document = "<settings>" + creator.repeated(10'000'000 / creator.size()) + "</settings>";
+    const Places places{u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s};
+    size_t found = 0;
+    const auto ours = [&] {
+        KOVRASettingsFile settings;
+        settings.readDocument(document, places);
+        found = settings.projectCreators.size();
+    };
+    qint64 tokens = 0;
+    const auto bare = [&] {
+        QXmlStreamReader xml(document);
+        while (!xml.atEnd()) {
+            xml.readNext();
+            ++tokens;
+        }
+    };
+    const int result = Ratio::report("reading a 10 MB definitions file", 1.5, ours, bare);
+    return found > 0 && tokens > 0 ? result : 1;
+}
