@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/Startup.h"
 #include "app/AppRegistry.h"
+#include "app/BatchConversion.h"
 #include "app/CommandLine.h"
 #include "app/DisplayCheck.h"
+#include "app/StopSignals.h"
 #include "wizard/ApplicationWindow.h"
 
 #include <QApplication>
@@ -47,21 +49,23 @@ QStringList toTexts(int argc, char** argv)
     return texts;
 }
 
-// Version and usage need no display, so they must not ask for one.
+// Version, usage and batch conversions need no display, so they must not ask for one.
 int runWithoutWindow(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     AppRegistry registry;
-    initialise(registry, application);
-    return 0;
+    if (!initialise(registry, application)) {
+        return 0;
+    }
+    return BatchConversion().execute(QCoreApplication::arguments());
 }
 
 } // namespace
 
 int Startup::run(int argc, char** argv)
 {
-    // RESOURCES
-    if (CommandLine::endsProgram(toTexts(argc, argv))) {
+    const QStringList arguments = toTexts(argc, argv);
+    if (CommandLine::endsProgram(arguments) || BatchArguments::isBatch(arguments)) {
         return runWithoutWindow(argc, argv);
     }
     const std::unique_ptr<QApplication> application = DisplayCheck::createApplication(argc, argv);
@@ -71,5 +75,10 @@ int Startup::run(int argc, char** argv)
     }
     ApplicationWindow window(title(), u"projectCreation.htm"_s, QCoreApplication::arguments());
     window.show();
+    const StopSignals stopSignals;
+    QObject::connect(&stopSignals, &StopSignals::received, &registry, [&registry] {
+        registry.ShutDown();
+        QCoreApplication::quit();
+    });
     return QApplication::exec();
 }

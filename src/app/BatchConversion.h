@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/BatchArguments.h"
+#include "process/ConversionRun.h"
+#include "wizard/WizardState.h"
+
+#include <QObject>
+
+/// A conversion without a window: the same checks and the same engine as the wizard's pages. What the conversion
+/// program prints goes straight to our own channels, our errors to standard error.
+class BatchConversion : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum ExitStatus { Created = 0, ConversionFailed = 1, WrongArguments = 2 };
+
+    /// Does what the command line says, under an event loop of the application's; gives the exit status.
+    int execute(const QStringList& arguments);
+
+private:
+    int list(const BatchArguments& batch) const;
+    QString prepare(const BatchArguments& batch, const QStringList& arguments);
+    QString chooseType(const QString& type);
+    QString chooseAnalyser(const QStringList& arguments);
+    QString fillInputs(const BatchArguments& batch);
+    QString checkPersonalities();
+    int convert(const BatchArguments& batch);
+    int report(ConversionRun::Outcome outcome) const;
+
+    WizardState state;
+    ConversionRun run;
+};

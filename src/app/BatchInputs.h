@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "definitions/InputValues.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <utility>
+
+/// The input fields of a conversion type filled from the command line instead of by controls.
+class BatchInputs
+{
+public:
+    BatchInputs(const ArgumentDefinitions& definitions, bool isC);
+
+    /// Gives the field with this name (of a group's field: also "group/field") its value. An empty text on success,
+    /// else what is wrong.
+    QString set(const QString& name, const QString& value);
+    /// What the fields hold: the values given, else the defaults.
+    FieldSource source() const;
+
+private:
+    struct Field
+    {
+        const ArgumentDefinition* definition;
+        QString path;
+        /// The list whose radio buttons exclude each other.
+        const ArgumentDefinitions* siblings;
+        FieldState state;
+    };
+
+    void collect(const ArgumentDefinitions& definitions, const QString& path, bool isC);
+    void choose(Field& radio);
+
+    QList<Field> fields;
+};

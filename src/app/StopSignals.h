@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+class QSocketNotifier;
+
+/// Tells of SIGINT, SIGTERM and SIGHUP in the event loop while it lives, instead of their ending the program. One at a
+/// time; on Windows the console's own handling stays.
+class StopSignals : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StopSignals(QObject* parent = nullptr);
+    ~StopSignals() override;
+
+Q_SIGNALS:
+    void received();
+
+private:
+    std::unique_ptr<QSocketNotifier> notifier;
+};

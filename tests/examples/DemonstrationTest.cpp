@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "../wizard/WizardDriver.h"
+#include "app/AppRegistry.h"
+#include "Installation.h"
+#include "TestMain.h"
+#include "wizard/PageSequence.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Result
+{
+    int status;
+    QString output;
+    QString errors;
+};
+
+/// The demonstration suite, installed by its own script.
+class Demonstration : public Installation
+{
+public:
+    Demonstration()
+    {
+        if (QProcess::execute(QStringLiteral(INSTALL_DEMO),
+                              {path(u"."_s), u"--build-dir"_s, QStringLiteral(BUILD_FOLDER)}) != 0) {
+            qFatal("the demonstration suite can not be installed");
+        }
+    }
+
+    /// The program as a user would start it, without a display and a home.
+    Result run(const QStringList& arguments) const
+    {
+        QProcess program;
+        prepare(program);
+        program.start(path(u"create-project"_s), QStringList{u"-batch"_s} + arguments);
+        if (!program.waitForFinished()) {
+            return {-1, {}, program.errorString()};
+        }
+        return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
+                QString::fromUtf8(program.readAllStandardError())};
+    }
+
+    static void prepare(QProcess& program)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const auto& name : {u"HOME"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s}) {
+            environment.remove(name);
+        }
+        program.setProcessEnvironment(environment);
+    }
+
+    static QString database() { return QStringLiteral(BUILD_FOLDER "/compile_commands.json"); }
+};
+
+QString databaseType()
+{
+    return u"CMake compile_commands.json"_s;
+}
+
+} // namespace
+
+class DemonstrationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fromNothingToAProjectFile()
+    {
+        Demonstration suite;
+        suite.start();
+        WizardDriver wizard;
+        const BoxAnswers boxes({QMessageBox::Yes});
+        wizard.passStartPage(u"own code"_s, suite.path(u"work/new folder"_s), databaseType());
+        QCOMPARE(wizard.window.currentId(), int(SetProductPageId));
+        wizard.button(u"Orv C++ [Project contains 'C++' Code]"_s).click();
+        wizard.press(QWizard::NextButton);
+        QCOMPARE(wizard.window.currentId(), int(XmlPageId));
+        QVERIFY(!wizard.canGoOn());
+        wizard.edit(u"Compilation database"_s).setText(Demonstration::database());
+        wizard.edit(u"More defines"_s).setText(u"DEMO=<1>;SECOND"_s);
+        QVERIFY(wizard.has(u"Only C++ sources"_s) && !wizard.has(u"Only C sources"_s));
+        wizard.press(QWizard::NextButton);
+        QCOMPARE(wizard.window.currentId(), int(ConfPageId));
+        QVERIFY(wizard.canGoOn());
+        wizard.press(QWizard::NextButton);
+        QTRY_COMPARE_WITH_TIMEOUT(wizard.window.currentId(), int(DisplayOptionsPageId), 30000);
+
+        const auto* output = wizard.window.page(ActionPageId)->findChild<QTextBrowser*>();
+        QVERIFY2(output->toPlainText().contains("Conversion Complete"_L1), qPrintable(output->toPlainText()));
+        const QString project = QString::fromUtf8(suite.read(u"work/new folder/own code.prj"_s));
+        QVERIFY(project.startsWith("VersionTag"_L1));
+        QVERIFY(project.contains(u"name=own code\nsourceDir="_s + QStringLiteral(SOURCE_FOLDER)));
+        QVERIFY(project.contains("*project=ORVCPP\n"_L1));
+        QVERIFY(project.contains(u"messagePersonality="_s + suite.path(u"orvcpp/personalities/default.p_s"_s)));
+        QVERIFY(project.contains(u"sourceDir="_s + QStringLiteral(SOURCE_FOLDER) + u"/src/app\n"_s));
+        QVERIFY(project.contains("\nStartup.cpp\n"_L1));
+        const QString options = QString::fromUtf8(suite.read(u"work/new folder/own code.options.p_a"_s));
+        QVERIFY(options.contains("-d DEMO=<1>\n-d SECOND\n"_L1));
+        QVERIFY(options.contains(u"-i \""_s + QStringLiteral(SOURCE_FOLDER) + u"/src\"\n"_s));
+        wizard.press(QWizard::FinishButton);
+    }
+
+    void convertsWithoutAWindow()
+    {
+        const Demonstration suite;
+        const QString project = suite.path(u"work/batch/p.prj"_s);
+        const QStringList wanted{u"-prj"_s,      project,     u"-type"_s,
+                                 databaseType(), u"-input"_s, u"Compilation database="_s + Demonstration::database()};
+        Result result =
+            suite.run(wanted + QStringList{u"-cpp"_s, u"-input"_s, u"Options/Keep files that do not exist=1"_s,
+                                           u"-input"_s, u"Absolute=yes"_s});
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
+        QVERIFY(result.output.endsWith(u"New project file: "_s + project + u'\n') && result.errors.isEmpty());
+        const QByteArray text = suite.read(u"work/batch/p.prj"_s);
+        QVERIFY(text.contains("\n" SOURCE_FOLDER "/src/app/Startup.cpp\n"));
+
+        result = suite.run(wanted + QStringList{u"-cpp"_s});
+        QCOMPARE(result.status, 2);
+        QVERIFY2(result.errors.contains("-overwrite"_L1), qPrintable(result.errors));
+        QCOMPARE(suite.read(u"work/batch/p.prj"_s), text);
+        QCOMPARE(suite.run(wanted + QStringList{u"-cpp"_s, u"-overwrite"_s}).status, 0);
+        QVERIFY(suite.read(u"work/batch/p.prj"_s) != text);
+    }
+
+    void saysWhatIsWrong_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("says");
+        const QStringList target{u"-prj"_s, u"new.prj"_s};
+        const QStringList list{u"-type"_s, u"List of files"_s, u"-c"_s};
+        const auto row = [](const char* name, const QStringList& arguments, int status, const QString& says) {
+            QTest::newRow(name) << arguments << status << says;
+        };
+        row("nothing asked", {}, 2, u"Usage: ProjectCreation -batch"_s);
+        row("unknown argument", {u"-what"_s}, 2, u"\"-what\""_s);
+        row("value missing", {u"-prj"_s}, 2, u"-prj wants a value"_s);
+        row("no project", list, 2, u"-prj <file> is missing"_s);
+        row("no type", target, 2, u"-type <name> is missing"_s);
+        row("unknown type", target + QStringList{u"-type"_s, u"x"_s}, 2, u"no conversion type \"x\""_s);
+        row("analyser open", target + list.first(2), 2, u"-c or -cpp"_s);
+        row("unknown input", target + list + QStringList{u"-input"_s, u"x=1"_s}, 2, u"no input \"x\""_s);
+        row("no switch", target + list + QStringList{u"-input"_s, u"Absolute=maybe"_s}, 2, u"give it 1 or 0"_s);
+        row("must exist", target + list, 2, u"\"File list\" must name an existing file"_s);
+        row("personality missing",
+            target + list + QStringList{u"-input"_s, u"File list=/etc/passwd"_s, u"-mp"_s, u"/gone.p_s"_s}, 2,
+            u"-mp: the configuration file /gone.p_s"_s);
+        row("no definitions", QStringList{u"-list-types"_s, u"-file"_s, u"/dev/null"_s}, 2, u"no conversion types"_s);
+        row("conversion fails", target + list + QStringList{u"-input"_s, u"File list=/etc/passwd"_s}, 1,
+            u"no source file is left"_s);
+        row("folder can not be made",
+            QStringList{u"-prj"_s, u"/dev/null/x/new.prj"_s} + list +
+                QStringList{u"-input"_s, u"File list=/etc/passwd"_s},
+            1, u"can not be created"_s);
+    }
+
+    void saysWhatIsWrong()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const int, status);
+        QFETCH(const QString, says);
+        const Demonstration suite;
+        const Result result = suite.run(arguments);
+        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
+        QCOMPARE(result.status, status);
+        QVERIFY(!QFile::exists(suite.path(u"work/new.prj"_s)));
+    }
+
+    void listsWhatThereIs()
+    {
+        const Demonstration suite;
+        QVERIFY(suite.run({u"-list-types"_s}).output.contains("List of files  [ORVC, ORVCPP]\n"_L1));
+        QVERIFY(suite.run({u"-list-types"_s, u"--json"_s}).output.contains("\"name\": \"Source folder\""_L1));
+        const QString inputs = suite.run({u"-list-inputs"_s, u"Source folder"_s, u"--json"_s}).output;
+        QVERIFY2(inputs.contains("\"kind\": \"DIR\""_L1) && inputs.contains("\"ORVCPP\": \"cpp;cc;cxx;c\""_L1),
+                 qPrintable(inputs));
+    }
+
+    void stopsOnASignal()
+    {
+        const Demonstration suite;
+        suite.define("<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
+                     suite.writeScript(u"slow"_s, "echo half > \"$1\"; sleep 1000").toUtf8() +
+                     "</exe><exeargs>%PF</exeargs></projectCreator>");
+        QProcess program;
+        Demonstration::prepare(program);
+        program.start(suite.path(u"create-project"_s),
+                      {u"-batch"_s, u"-prj"_s, u"s.prj"_s, u"-type"_s, u"Slow"_s, u"-c"_s});
+        QTRY_COMPARE(suite.read(u"work/s.prj"_s), QByteArray("half\n"));
+        ::kill(pid_t(program.processId()), SIGTERM);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 1);
+        QVERIFY(!QFile::exists(suite.path(u"work/s.prj"_s)));
+    }
+};
+
+KOVRA_TEST(DemonstrationTest)
+#include "DemonstrationTest.moc"
