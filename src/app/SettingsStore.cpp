@@ -25,7 +25,7 @@ bool write(const QString& application, const std::function<void(QSettings&)>& wr
         if (system.status() == QSettings::NoError) {
             QSettings user(QSettings::UserScope, organisation(), application);
             user.setFallbacksEnabled(false);
-            const QStringList hidden = user.allKeys();
+            const QStringList hidden = user.fileName() == system.fileName() ? QStringList() : user.allKeys();
             for (const QString& key : hidden) {
                 if (system.contains(key)) {
                     user.remove(key);

@@ -85,6 +85,12 @@ private Q_SLOTS:
         QCOMPARE(kept(), u"user"_s);
         QVERIFY(keep(u"system again"_s));
         QCOMPARE(kept(), u"system again"_s);
+
+        // Both scopes may be set to one folder: what was just written must not be taken for an older copy.
+        qputenv("XDG_CONFIG_DIRS", qgetenv("XDG_CONFIG_HOME"));
+        QVERIFY(keep(u"shared"_s));
+        QCOMPARE(kept(), u"shared"_s);
+        qputenv("XDG_CONFIG_DIRS", systemFolder);
     }
 };
 
