@@ -2,6 +2,7 @@
 #include "app/AppRegistry.h"
 #include "app/Installations.h"
 #include "app/SettingsStore.h"
+#include "personality/OptionTables.h"
 #include "process/ChildProcess.h"
 #include "process/ProcessEnvironment.h"
 
@@ -99,6 +100,8 @@ void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int 
     cInstallDir = folders.c;
     cppInstallDir = folders.cpp;
     definitions.ReadFile(definitionsFileName);
+    cOnlyOptions = OptionTables::cOnlyOptions();
+    cppOnlyOptions = OptionTables::cppOnlyOptions();
     SetProcessEnvironment(nullptr, true);
 }
 

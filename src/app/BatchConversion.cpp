@@ -5,6 +5,7 @@
 #include "app/BatchListing.h"
 #include "app/CommandLine.h"
 #include "app/StopSignals.h"
+#include "personality/FileScans.h"
 #include "process/ArgumentSubstitution.h"
 #include "project/ProjectTarget.h"
 
@@ -163,6 +164,10 @@ QString BatchConversion::checkPersonalities()
         }
         if (!kind.file->isEmpty() && !QFile::exists(*kind.file)) {
             return tr("%1: the configuration file %2 does not exist").arg(QLatin1StringView(kind.option), *kind.file);
+        }
+        if (FileScans::isForOtherAnalyser(*kind.file, isC)) {
+            return tr("%1: the configuration file %2 is for the other analyser")
+                .arg(QLatin1StringView(kind.option), *kind.file);
         }
     }
     return {};

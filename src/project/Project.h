@@ -1,14 +1,45 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "personality/AnalyserInference.h"
+#include "project/ProjectData.h"
+
+#include <QObject>
 #include <QString>
 
-/// The analyser project that the suite worked on last.
-class Project
-{
-public:
-    /// Remembers the project file's path; true when it names a file.
-    bool load(const QString& fileName);
+struct SurveyCounts;
 
+/// An analyser project as read from its file, with the state of its analysis at that moment.
+class Project : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Project(QObject* parent = nullptr);
+    explicit Project(const QString& fileName);
+
+    /// Reads a project file of either dialect (or its newer backup), infers the analyser and evaluates the status. True
+    /// when the file holds a project; statusText says why not.
+    bool load(const QString& fileName);
+    /// Decides statusText, statusOk and analysisComplete afresh.
+    void evaluateStatus();
+    /// True unless the project was found to be C++; one judged by its suffixes counts as C.
+    bool isCAnalyser() const { return projectType != ProjectType::Cpp; }
+    /// The analyser's configuration is no longer the one of the last analysis.
+    bool configurationChanged() const;
+
+    ProjectData root;
+    ProjectType projectType = ProjectType::Unknown;
+    ProjectType declaredLanguage = ProjectType::Unknown;
     QString projectFile;
+    QString lastAnalysis;
+    bool valid = false;
+    bool statusOk = false;
+    bool analysisComplete = false;
+    QString statusText;
+
+private:
+    void reset(const QString& fileName);
+    void inferProjectType(const QString& metricsPath);
+    void evaluateStatus(const SurveyCounts& counts);
 };

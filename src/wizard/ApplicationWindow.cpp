@@ -4,6 +4,7 @@
 #include "app/CommandLine.h"
 #include "definitions/InputValues.h"
 #include "dialogs/MessageBox.h"
+#include "personality/FileScans.h"
 #include "wizard/ActionPage.h"
 #include "wizard/ConfPage.h"
 #include "wizard/DisplayOptionsPage.h"
@@ -73,7 +74,7 @@ namespace {
 const QString& withDefault(QString& field, const ApplicationWindow& window, QString ProjectCreatorData::*c,
                            QString ProjectCreatorData::*cpp)
 {
-    if (window.projectCreator && field.isEmpty()) {
+    if (window.projectCreator && (field.isEmpty() || FileScans::isForOtherAnalyser(field, window.isORVC))) {
         field = window.projectCreator->*(window.isORVC ? c : cpp);
     }
     return field;

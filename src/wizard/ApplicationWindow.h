@@ -19,7 +19,8 @@ public:
     ApplicationWindow(const QString& title, const QString& helpPage, const QStringList& arguments);
 
     static QString AnalyserName(bool isC);
-    /// The configuration file of each kind, after the conversion type's default was put in place of an empty one.
+    /// The configuration file of each kind, after the conversion type's default was put in place of an empty one
+    /// or of one that is written for the other analyser.
     const QString& GetCompilerPersonality();
     const QString& GetAnalyserPersonality();
     const QString& GetMessagePersonality();

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "wizard/AppPage.h"
+#include "wizard/SelectFileWidgets.h"
 
+class QComboBox;
 class QLabel;
+class QLayout;
 
-/// The configuration files of the new project.
+/// The three configuration files of the new project, and the compliance modules that preset them.
 class ConfPage : public AppPage
 {
     Q_OBJECT
@@ -14,7 +17,32 @@ public:
     explicit ConfPage(ApplicationWindow* window);
 
     void initializePage() override;
+    bool validatePage() override;
+    bool isComplete() const override;
+
+public Q_SLOTS:
+    void CPersonalityChanged(QString fileName);
+    void APersonalityChanged(QString fileName);
+    void MPersonalityChanged(QString fileName);
+    void ComplianceChanged(int index);
 
 private:
-    QLabel* files;
+    QLayout* createFileFields();
+    void fillComplianceModules();
+    void apply(SelectFileWidgets& field, const QString& moduleFile);
+    void accept(SelectFileWidgets& field, QString& stateField, const QString& fileName);
+    void updateHint();
+    const QLabel* firstMissing() const;
+
+    SelectFileWidgets compilerField;
+    SelectFileWidgets analyserField;
+    SelectFileWidgets messageField;
+    QComboBox* complianceCombo;
+    QLabel* compilerLabel;
+    QLabel* analyserLabel;
+    QLabel* messageLabel;
+    QString noneText;
+    QWidget* complianceBox = nullptr;
+    /// Says which file Next is waiting for.
+    QLabel* hint;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/PersistedValues.h"
+#include "app/AppRegistry.h"
 #include "app/SettingsStore.h"
 #include "TestMain.h"
 
@@ -14,9 +14,18 @@ class PersistedValuesTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<AppRegistry> registry;
+
 private Q_SLOTS:
+    void init()
+    {
+        registry = std::make_unique<AppRegistry>();
+        appRegistry = registry.get();
+    }
+
     void cleanup()
     {
+        registry.reset();
         for (const QSettings::Scope scope : {QSettings::SystemScope, QSettings::UserScope}) {
             QSettings(scope, u"KOVRA"_s, u"WendleTools"_s).clear();
         }

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "personality/AnalyserInference.h"
+
+#include <QString>
+#include <QTextStream>
+
+class ProjectData;
+class QIODevice;
+
+/// Reads the two dialects of project files: the unversioned one and the versioned one, whose first line begins with
+/// "VersionTag". Both are lines of text in the system's encoding.
+class ProjectReader
+{
+public:
+    /// The one place that decides how project files are encoded.
+    static constexpr QStringConverter::Encoding encoding = QStringConverter::System;
+    /// A longer line is no project file's.
+    static constexpr qint64 longestLine = 1024 * 1024;
+
+    ProjectReader(QIODevice& device, ProjectData& root);
+
+    /// True when a project body was found and no line was overlong. A cut-short file gives what was read.
+    bool read();
+
+    ProjectType declaredLanguage = ProjectType::Unknown;
+    QString lastAnalysis;
+
+private:
+    bool nextLine();
+    void takeAnnotations();
+    void readBody(ProjectData& project);
+    void readUnversionedBody(ProjectData& project);
+    void readVersionedBody(ProjectData& project);
+    void readNested(ProjectData& root);
+    QString nextValue();
+
+    QTextStream stream;
+    ProjectData& root;
+    /// The current line; null past the end.
+    QString line;
+    bool versioned = false;
+    bool broken = false;
+};

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppRegistry.h"
+#include "project/Project.h"
+#include "project/ProjectSurvey.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A message, and whether the project can be used.
+struct Verdict
+{
+    QString text;
+    bool usable = false;
+};
+
+Verdict judgeFile(const QString& file, bool valid, const SurveyCounts& counts)
+{
+    const QFileInfo info(file);
+    if (file.isEmpty()) {
+        return {QObject::tr("Project file not selected")};
+    }
+    if (!info.exists()) {
+        return {QObject::tr("This project file does not exist")};
+    }
+    if (!info.isFile()) {
+        return {QObject::tr("This is not a valid file selection")};
+    }
+    if (!valid) {
+        return {QObject::tr("This project file is not a valid KOVRA project file")};
+    }
+    if (counts.total == 0) {
+        return {QObject::tr("This project does not contain any source files")};
+    }
+    if (counts.existing == 0) {
+        return {QObject::tr("None of the files specified in this project exist")};
+    }
+    return {{}, true};
+}
+
+QString judgeAnalysis(const SurveyCounts& counts, bool configurationChanged)
+{
+    if (counts.existing != counts.total) {
+        if (counts.existing == counts.upToDate) {
+            return QObject::tr(
+                "Some of the files specified in this project do not exist, of those that exist, analysis "
+                "is complete");
+        }
+        return counts.analysed != 0
+                   ? QObject::tr("Some of the files specified in this project do not exist, of those "
+                                 "that exist, some analysis output exists")
+                   : QObject::tr("Some of the files specified in this project do not exist, no analysis "
+                                 "output exists");
+    }
+    if (counts.analysed == 0) {
+        return QObject::tr("This project has not been analysed yet");
+    }
+    if (counts.analysed != counts.upToDate) {
+        return QObject::tr("Analysis of this project is out of date");
+    }
+    if (counts.analysed != counts.existing) {
+        return QObject::tr("This project has been partially analysed");
+    }
+    const QString complete = QObject::tr("Analysis of this project is complete");
+    return configurationChanged ? complete + QObject::tr(", but configuration changed since last analysis") : complete;
+}
+
+QString summarise(const SurveyCounts& counts, const QString& lastAnalysis)
+{
+    const auto number = [](const QString& label, int count) { return label + u' ' + QString::number(count); };
+    QString text = u"\n   "_s + number(QObject::tr("Files in project:"), counts.total);
+    if (counts.existing != counts.total) {
+        text += u"    "_s + number(QObject::tr("Existing files:"), counts.existing);
+    }
+    if (counts.upToDate != counts.existing) {
+        text += u"    "_s + number(QObject::tr("Analysed files:"), counts.upToDate);
+    }
+    if (counts.analysed != 0) {
+        text += u"\n   "_s + QObject::tr("Analysed with:") + u' ' +
+                (lastAnalysis.isEmpty() ? QObject::tr("unknown") : lastAnalysis);
+    }
+    return text;
+}
+
+} // namespace
+
+void Project::evaluateStatus(const SurveyCounts& counts)
+{
+    const Verdict verdict = judgeFile(projectFile, valid, counts);
+    statusOk = verdict.usable;
+    statusText =
+        verdict.usable ? judgeAnalysis(counts, configurationChanged()) + summarise(counts, lastAnalysis) : verdict.text;
+    analysisComplete = verdict.usable && counts.upToDate == counts.existing;
+}
+
+bool Project::configurationChanged() const
+{
+    if (lastAnalysis.isEmpty()) {
+        return true;
+    }
+    const PersistedValues& values = appRegistry->values;
+    const QString& current = isCAnalyser() ? values.cCurrentCEValue : values.cppCurrentCEValue;
+    return !current.isEmpty() && current != lastAnalysis;
+}
+
+void Project::inferProjectType(const QString& metricsPath)
+{
+    projectType = inferAnalyser({.declaredLanguage = declaredLanguage,
+                                 .compilerPersonality = root.compilerPersonality,
+                                 .analyserPersonality = root.analyserPersonality,
+                                 .metricsPath = metricsPath,
+                                 .projectFile = projectFile,
+                                 .cInstallDir = appRegistry->cInstallDir,
+                                 .cppInstallDir = appRegistry->cppInstallDir,
+                                 .eachSource = [this](const std::function<bool(const QString&)>& visit) {
+                                     root.visitProjects([&](const ProjectData& project) {
+                                         return std::ranges::any_of(project.files, [&](const SourceEntry& entry) {
+                                             return visit(entry.sourcePath());
+                                         });
+                                     });
+                                 }});
+}
