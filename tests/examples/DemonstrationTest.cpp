@@ -2,9 +2,12 @@
 #include "../wizard/WizardDriver.h"
 #include "app/AppRegistry.h"
 #include "Installation.h"
+#include "personality/FileScans.h"
+#include "project/Project.h"
 #include "TestMain.h"
 #include "wizard/PageSequence.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTest>
@@ -181,6 +184,29 @@ private Q_SLOTS:
         const QString inputs = suite.run({u"-list-inputs"_s, u"Source folder"_s, u"--json"_s}).output;
         QVERIFY2(inputs.contains("\"kind\": \"DIR\""_L1) && inputs.contains("\"ORVCPP\": \"cpp;cc;cxx;c\""_L1),
                  qPrintable(inputs));
+    }
+
+    void samplesTellTheAnalysersApart()
+    {
+        Demonstration suite;
+        suite.start();
+        for (const bool isC : {true, false}) {
+            const QString folder = suite.path(isC ? u"orvc/personalities/"_s : u"orvcpp/personalities/"_s);
+            for (const QString& file :
+                 {isC ? u"gcc.p_c"_s : u"gpp.p_c"_s, u"project.p_a"_s, u"careful/careful.p_a"_s}) {
+                QVERIFY2(FileScans::isForOtherAnalyser(folder + file, !isC), qPrintable(folder + file));
+                QVERIFY2(!FileScans::isForOtherAnalyser(folder + file, isC), qPrintable(folder + file));
+            }
+        }
+        const QDir home(QDir::currentPath());
+        QVERIFY(QDir::setCurrent(QStringLiteral(SOURCE_FOLDER "/examples/projects")));
+        const Project versioned(u"versioned.prj"_s);
+        const Project unversioned(u"unversioned.prj"_s);
+        QVERIFY(QDir::setCurrent(home.path()));
+        QCOMPARE(versioned.statusText,
+                 u"This project has not been analysed yet\n   Files in project: 2    Analysed files: 0"_s);
+        QCOMPARE(unversioned.statusText, versioned.statusText);
+        QVERIFY(!versioned.isCAnalyser() && unversioned.isCAnalyser());
     }
 
     void stopsOnASignal()

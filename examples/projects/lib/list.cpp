@@ -1,0 +1,4 @@
+int list_length()
+{
+    return 0;
+}

@@ -1,0 +1,6 @@
+int list_length(void);
+
+int main(void)
+{
+    return list_length();
+}

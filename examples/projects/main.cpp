@@ -1,0 +1,6 @@
+int list_length();
+
+int main()
+{
+    return list_length();
+}
