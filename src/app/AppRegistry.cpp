@@ -91,6 +91,7 @@ void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int 
     if (translator->load(u"qt_"_s + QLocale::system().name(), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(translator);
     }
+    installValues.ReadFile(wendleToolsFileName);
     if (!arguments.isEmpty()) {
         exePath = executablePath(arguments.first());
         InitWindowSettings(QFileInfo(arguments.first()).baseName(), width, height);

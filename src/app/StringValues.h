@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -8,6 +9,11 @@
 /// The defaults hold for whatever wendleTools.xml does not say.
 struct StringValues
 {
+    /// Locates and reads the file; one that is missing or broken leaves the defaults of what it does not give.
+    void ReadFile(const QString& name);
+    /// Takes every known element, wherever it stands; the last one of a name wins.
+    void readDocument(const QByteArray& document);
+
     QString helpDir;
     QString helpFile = QStringLiteral("wendle.adp");
     QString helpProfileStr = QStringLiteral("-profile");

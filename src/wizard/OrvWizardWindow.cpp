@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/OrvWizardWindow.h"
 #include "app/AppRegistry.h"
+#include "dialogs/HelpManager.h"
 #include "wizard/OrvBasicWizardPage.h"
 
 #include <QAbstractButton>
@@ -16,17 +17,22 @@ OrvWizardWindow* currentWindow = nullptr;
 
 } // namespace
 
-OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& /*helpPage*/, QWidget* parent)
+OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, QWidget* parent)
     : QWizard(parent)
 {
     setWindowTitle(title);
     currentWindow = this;
+    HelpManager::currentHelpPage = helpPage;
     setWizardStyle(QWizard::ModernStyle);
     setWindowIcon(QIcon(u":/AKOVRAIcon.xpm"_s));
     setPixmap(QWizard::LogoPixmap, QPixmap(u":/logo_shadow.jpg"_s));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
     setOptions(QWizard::HaveCustomButton1 | QWizard::NoBackButtonOnLastPage | QWizard::NoBackButtonOnStartPage);
+    if (HelpManager::HelpAvailable()) {
+        setOption(QWizard::HaveHelpButton);
+        help = new HelpManager(this);
+    }
     printButton = button(QWizard::CustomButton1);
     printButton->setText(tr("&Print"));
     printButton->hide();
@@ -72,7 +78,14 @@ void OrvWizardWindow::CustomButtonClicked(int which)
     }
 }
 
-void OrvWizardWindow::ShowHelp() {}
+void OrvWizardWindow::ShowHelp()
+{
+    // One manager for all requests: each would answer F1 once more.
+    if (!help) {
+        help = new HelpManager(this);
+    }
+    help->slt_showHelp(HelpManager::currentHelpPage);
+}
 
 void OrvWizardWindow::Finished(int result)
 {

@@ -3,6 +3,7 @@
 
 #include <QWizard>
 
+class HelpManager;
 class QAbstractButton;
 
 /// The wizard frame of the suite: look, custom button, closing and what is kept when the wizard finishes.
@@ -42,4 +43,6 @@ protected:
 
 private:
     void saveState();
+
+    HelpManager* help = nullptr;
 };

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/SelectFileWidgets.h"
+#include "dialogs/DisplayDialog.h"
+#include "dialogs/FindDialog.h"
 #include "dialogs/MessageBox.h"
 #include "wizard/OrvWizardWindow.h"
 
 #include <QComboBox>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +34,7 @@ SelectFileWidgets::SelectFileWidgets(const QString& fieldCaption, const QString&
     connect(edit, &QLineEdit::textChanged, this, &SelectFileWidgets::ValChanged);
     connect(editButton, &QPushButton::clicked, this, qOverload<>(&SelectFileWidgets::EditFile));
     connect(browseButton, &QPushButton::clicked, this, &SelectFileWidgets::GetAFile);
+    connect(findButton, &QPushButton::clicked, this, &SelectFileWidgets::FindAFile);
 }
 
 SelectFileWidgets::~SelectFileWidgets()
@@ -52,6 +52,15 @@ void SelectFileWidgets::createButtons()
     editButton->setEnabled(false);
     browseButton = new QPushButton(tr("&Browse..."), frameWidget);
     browseButton->setToolTip(tr("Browse the file directory structure to locate the required file"));
+    findButton = new QPushButton(tr("&Find..."), frameWidget);
+    findButton->setToolTip(tr("Perform a search on the file directory structure to locate the required file"));
+    for (QPushButton* button : {browseButton, findButton}) {
+        button->setAccessibleName(button->text().remove(u'&').remove(u"..."_s) + u": "_s + caption);
+        button->setShortcut(QKeySequence());
+    }
+    for (QWidget* widget : std::initializer_list<QWidget*>{edit, editButton, browseButton, findButton}) {
+        widget->installEventFilter(this);
+    }
 }
 
 void SelectFileWidgets::layOut(const Options& options)
@@ -76,6 +85,11 @@ void SelectFileWidgets::layOut(const Options& options)
         editButton->hide();
     }
     row->addWidget(browseButton);
+    if (options.withFind) {
+        row->addWidget(findButton);
+    } else {
+        findButton->hide();
+    }
 }
 
 void SelectFileWidgets::SetValue(const QString& text)
@@ -98,6 +112,7 @@ void SelectFileWidgets::SetReadOnly(bool readOnly)
     edit->setReadOnly(readOnly);
     editButton->setVisible(!readOnly);
     browseButton->setVisible(!readOnly);
+    findButton->setVisible(!readOnly);
 }
 
 void SelectFileWidgets::ValChanged(QString text)
@@ -112,7 +127,7 @@ void SelectFileWidgets::ValChanged(QString text)
 
 void SelectFileWidgets::GetAFile()
 {
-    const QString start = edit->text().isEmpty() ? startFolder : edit->text();
+    const QString start = browseStart();
     QWidget* parent = OrvWizardWindow::current();
     takeChosen(folderMode ? QFileDialog::getExistingDirectory(parent, caption, start, QFileDialog::ShowDirsOnly)
                           : QFileDialog::getOpenFileName(parent, caption, start, filter));
@@ -137,25 +152,60 @@ void SelectFileWidgets::EditFile()
         Q_EMIT EditFile(name);
         return;
     }
-    showFile(name);
-}
-
-void SelectFileWidgets::showFile(const QString& name) const
-{
     QFile file(name);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Text) &&
+        !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         MessageBox::warn(OrvWizardWindow::current(), tr("Edit failed"), tr("Can not open file"));
         return;
     }
-    QDialog dialog;
-    dialog.setWindowTitle(name);
-    dialog.resize(600, 600);
-    auto* view = new QPlainTextEdit(QString::fromLocal8Bit(file.readAll()));
-    view->setReadOnly(true);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->addWidget(view);
-    layout->addWidget(buttons);
+    DisplayDialog dialog(name, DisplayDialog::Text, 600, 600);
+    dialog.SetText(QString::fromLocal8Bit(file.readAll()));
+    file.close();
     dialog.exec();
+}
+
+void SelectFileWidgets::FindAFile()
+{
+    if (!findDialog) {
+        findDialog = std::make_unique<FindDialog>();
+        findDialog->Setup(caption, filter);
+    }
+    findDialog->SetSearchStart(browseStart());
+    findDialog->exec();
+    takeChosen(findDialog->SelectedFile());
+}
+
+QString SelectFileWidgets::browseStart() const
+{
+    return edit->text().isEmpty() ? startFolder : edit->text();
+}
+
+// The shortcut is claimed before the window's own, then it arrives as a key press.
+bool SelectFileWidgets::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) {
+        return QObject::eventFilter(object, event);
+    }
+    const auto* key = static_cast<QKeyEvent*>(event);
+    QPushButton* button = key->modifiers() == Qt::AltModifier ? buttonFor(key->key()) : nullptr;
+    if (!button) {
+        return QObject::eventFilter(object, event);
+    }
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+    } else {
+        button->animateClick();
+    }
+    return true;
+}
+
+QPushButton* SelectFileWidgets::buttonFor(int key) const
+{
+    for (QPushButton* button : {browseButton, findButton}) {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(button->text());
+        if (button->isVisible() && !mnemonic.isEmpty() && mnemonic[0].key() == key) {
+            return button;
+        }
+    }
+    return nullptr;
 }

@@ -6,12 +6,16 @@
 #include <QPointer>
 #include <QString>
 
+#include <memory>
+
+class FindDialog;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
 
-/// A field for the name of a file or folder with its Edit and Browse buttons, all in one frame that a page lays out.
-/// The text turns red while it names nothing on disk.
+/// A field for the name of a file or folder with its Edit, Browse and Find buttons, all in one frame that a page lays
+/// out. The text turns red while it names nothing on disk. The buttons' shortcuts belong to the field that has the
+/// focus, so that several fields and the wizard's own buttons get along on one page.
 class SelectFileWidgets : public QObject
 {
     Q_OBJECT
@@ -44,6 +48,7 @@ public:
     QLineEdit* lineEdit() const { return edit; }
     /// The trimmed text names something on disk; true as long as nothing was entered.
     bool isValid() const { return valid; }
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 Q_SIGNALS:
     void ValueChanged(QString val);
@@ -53,17 +58,22 @@ public Q_SLOTS:
     void ValChanged(QString text);
     void EditFile();
     void GetAFile();
+    void FindAFile();
 
 private:
     void createButtons();
     void layOut(const Options& options);
     void takeChosen(const QString& path);
-    void showFile(const QString& name) const;
+    QPushButton* buttonFor(int key) const;
+    QString browseStart() const;
 
     bool emitEditSignal;
     bool folderMode;
     QPushButton* editButton;
     QPushButton* browseButton;
+    QPushButton* findButton;
+    /// Made when it is first asked for.
+    std::unique_ptr<FindDialog> findDialog;
     QPointer<QWidget> frameWidget;
     QComboBox* historyCombo;
     QLineEdit* edit;

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Find over 200,000 files in the dialog, against `find DIR -name PATTERN`.
+#include "app/AppRegistry.h"
+#include "dialogs/FindDialog.h"
+#include "Ratio.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv)
+{
+    QTemporaryDir home;
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
+        qputenv(name, home.path().toLocal8Bit());
+    }
+    const QApplication application(argc, argv);
+    AppRegistry registry;
+    appRegistry = &registry;
+    const QString tree = home.filePath(u"tree"_s);
+    for (int i = 0; i < 200'000; ++i) {
+        const QString folder = tree + u"/part%1/module%2"_s.arg(i % 20).arg(i % 1000);
+        if (i < 1000) {
+            QDir().mkpath(folder);
+        }
+        QFile file(folder + u"/file%1.%2"_s.arg(i).arg(i % 2 == 0 ? u"c"_s : u"h"_s));
+        if (!file.open(QIODevice::WriteOnly)) {
+            return 1;
+        }
+    }
+    FindDialog dialog;
+    dialog.Setup(u"Find"_s, u"*.c"_s);
+    dialog.findChild<QLineEdit*>()->setText(tree);
+    dialog.show();
+    qint64 found = 0;
+    const auto bare = [&] {
+        QProcess find;
+        find.start(u"find"_s, {tree, u"-name"_s, u"*.c"_s});
+        find.waitForFinished(-1);
+        found = find.readAllStandardOutput().count('\n');
+    };
+    const int result = Ratio::report(
+        "find over 200000 files", 2, [&] { dialog.findButtonClicked(); }, bare);
+    return found == 100'000 && dialog.findChild<QListWidget*>()->count() == found ? result : 1;
+}

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+class QGridLayout;
+class QLabel;
+class QPlainTextEdit;
+class QPrinter;
+class QTextBrowser;
+
+/// Shows a text: plain, as HTML with Back and Forward, or as a short message. Listed in the registry's open dialogs
+/// from its construction until its Close button is pressed or it is destroyed.
+class DisplayDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The ways of showing a text, with the numbers that launchers use.
+    enum Mode { Text = 1, Html = 2, Message = 3 };
+
+    DisplayDialog(const QString& title, int mode, int width, int height, QWidget* parent = nullptr);
+    ~DisplayDialog() override;
+
+    /// Shows the text. A large plain text appears at once and is completed in portions, so that the window stays alive.
+    void SetText(const QString& text);
+    /// Prints the whole text; a message is not printed.
+    void printTo(QPrinter& printer);
+
+public Q_SLOTS:
+    void Save() {}
+    void Print();
+    void Close();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void createView(QGridLayout& grid);
+    void createBrowser(QGridLayout& grid);
+    void createButtons(QGridLayout& grid);
+    bool LoadHtml(const QString& text);
+    void appendPortion();
+    void unlist();
+
+    int mode;
+    QPlainTextEdit* textView = nullptr;
+    QTextBrowser* htmlView = nullptr;
+    QLabel* messageLabel = nullptr;
+    /// What of a plain text is not in the view yet begins at textPosition.
+    QString pendingText;
+    qsizetype textPosition = 0;
+    QTimer portionTimer;
+};

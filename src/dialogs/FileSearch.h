@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRegularExpression>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+/// Walks a folder and all below it for files whose names match wildcard patterns. Hidden entries and symbolic links are
+/// passed over; a folder that can not be read holds nothing. Files come before the subfolders of their folder.
+class FileSearch
+{
+public:
+    class Listener
+    {
+    public:
+        virtual ~Listener() = default;
+        virtual void folderEntered(const QString& absolutePath) = 0;
+        /// Called for every matching file and every subfolder; false ends the search.
+        virtual bool goOn() = 0;
+        virtual void fileFound(const QString& absolutePath) = 0;
+    };
+
+    explicit FileSearch(const QStringList& patterns);
+
+    void run(const QString& folder, Listener& listener) const;
+
+private:
+    /// A pattern of the form "*text" needs no regular expression.
+    struct Pattern
+    {
+        QString suffix;
+        QRegularExpression expression;
+    };
+
+    bool matches(const QString& name) const;
+    bool list(const QString& folder, Listener& listener, std::vector<QString>& subFolders) const;
+
+    std::vector<Pattern> patterns;
+};

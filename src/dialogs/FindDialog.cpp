@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/FindDialog.h"
+#include "app/AppRegistry.h"
+#include "dialogs/FileSearch.h"
+#include "dialogs/MessageBox.h"
+
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 updateIntervalMs = 40;
+
+/// Brings what a search finds into the list, a portion at a time, and keeps the window alive meanwhile.
+class Progress : public FileSearch::Listener
+{
+public:
+    Progress(QProgressDialog& progressDialog, QLabel& progressLabel, QListWidget& resultList)
+        : dialog(progressDialog)
+        , label(progressLabel)
+        , list(resultList)
+    {
+        sinceUpdate.start();
+    }
+
+    ~Progress() override { list.addItems(found); }
+
+    void folderEntered(const QString& absolutePath) override { folder = absolutePath; }
+
+    bool goOn() override
+    {
+        ++count;
+        if (sinceUpdate.elapsed() >= updateIntervalMs) {
+            update();
+        }
+        return !dialog.wasCanceled();
+    }
+
+    void fileFound(const QString& absolutePath) override
+    {
+        if (!listed.contains(absolutePath)) {
+            listed.insert(absolutePath);
+            found += absolutePath;
+        }
+    }
+
+private:
+    void update()
+    {
+        label.setText(QObject::tr("searching:") + folder);
+        list.addItems(found);
+        found.clear();
+        // Lets the window paint and the user press Stop.
+        dialog.setValue(count);
+        sinceUpdate.restart();
+    }
+
+    QProgressDialog& dialog;
+    QLabel& label;
+    QListWidget& list;
+    QElapsedTimer sinceUpdate;
+    QString folder;
+    QStringList found;
+    QSet<QString> listed;
+    int count = 0;
+};
+
+} // namespace
+
+FindDialog::FindDialog(QWidget* parent)
+    : QDialog(parent)
+    , searchLocation(appRegistry->values.installPath)
+    , filesLabel(new QLabel)
+    , resultList(new QListWidget)
+    , locationEdit(new QLineEdit(searchLocation))
+    , searchButton(new QPushButton(tr("&Search")))
+    , okButton(new QPushButton(tr("&Ok")))
+{
+    setWindowTitle(tr("Search for file"));
+    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowMaximizeButtonHint);
+    setMinimumWidth(500);
+    labelFiles(nameFilters.join(u' '));
+    filesLabel->setTextFormat(Qt::PlainText);
+    filesLabel->setBuddy(resultList);
+    resultList->setUniformItemSizes(true);
+    resultList->setAccessibleName(tr("Files Located"));
+    locationEdit->setMinimumWidth(200);
+    okButton->setEnabled(false);
+    searchButton->setEnabled(!searchLocation.isEmpty());
+    layOut();
+    connect(locationEdit, &QLineEdit::textChanged, this, &FindDialog::textChanged);
+    connect(searchButton, &QPushButton::clicked, this, &FindDialog::findButtonClicked);
+    connect(resultList, &QListWidget::itemSelectionChanged, this, &FindDialog::itemSelectionChanged);
+    connect(resultList, &QListWidget::itemDoubleClicked, this, &FindDialog::itemDoubleClicked);
+    connect(okButton, &QPushButton::clicked, this, &FindDialog::okButtonClicked);
+}
+
+void FindDialog::layOut()
+{
+    auto* locationLabel = new QLabel(tr("Search location:"));
+    locationLabel->setBuddy(locationEdit);
+    auto* browseButton = new QPushButton(tr("B&rowse"));
+    connect(browseButton, &QPushButton::clicked, this, &FindDialog::browseButtonClicked);
+    auto* cancelButton = new QPushButton(tr("&Cancel"));
+    connect(cancelButton, &QPushButton::clicked, this, &FindDialog::cancelButtonClicked);
+    auto* buttons = new QGroupBox;
+    buttons->setFlat(true);
+    auto* row = new QHBoxLayout(buttons);
+    row->addWidget(okButton);
+    row->addWidget(cancelButton);
+
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(locationLabel, 0, 0, 1, 2);
+    grid->addWidget(locationEdit, 1, 0);
+    grid->addWidget(browseButton, 1, 1);
+    grid->addWidget(filesLabel, 2, 0, 1, 2);
+    grid->addWidget(resultList, 3, 0, 1, 2);
+    grid->addWidget(searchButton, 4, 0, 1, 2);
+    grid->addWidget(buttons, 5, 0, 1, 2);
+    for (QPushButton* button : {browseButton, okButton, cancelButton}) {
+        button->setAutoDefault(false);
+    }
+    searchButton->setDefault(true);
+}
+
+void FindDialog::labelFiles(const QString& patterns)
+{
+    filesLabel->setText(tr("Files Located") + u" ("_s + patterns + u"):"_s);
+}
+
+void FindDialog::Setup(const QString& caption, const QString& filter)
+{
+    static const QRegularExpression whiteSpace(u"\\s+"_s, QRegularExpression::UseUnicodePropertiesOption);
+    setWindowTitle(caption);
+    nameFilters = filter.split(whiteSpace);
+    if (nameFilters.isEmpty()) {
+        nameFilters = {u"*.*"_s};
+    }
+    labelFiles(nameFilters.join(u", "_s));
+}
+
+void FindDialog::SetSearchStart(const QString& path)
+{
+    const QFileInfo info(path);
+    if (path.isEmpty() || !info.exists()) {
+        return;
+    }
+    if (!searchLocation.isEmpty() && path.contains(searchLocation)) {
+        return;
+    }
+    locationEdit->setText(info.isDir() ? path : info.absolutePath());
+}
+
+void FindDialog::textChanged(QString text)
+{
+    searchButton->setEnabled(!text.isEmpty());
+}
+
+void FindDialog::itemSelectionChanged()
+{
+    okButton->setEnabled(!resultList->selectedItems().isEmpty());
+}
+
+void FindDialog::itemDoubleClicked(QListWidgetItem* item)
+{
+    if (item) {
+        selectedFile = item->text();
+        accept();
+    }
+}
+
+void FindDialog::browseButtonClicked()
+{
+    searchLocation =
+        QFileDialog::getExistingDirectory(this, tr("Starting Directory"), searchLocation, QFileDialog::ShowDirsOnly);
+    locationEdit->setText(searchLocation);
+    searchButton->setEnabled(!searchLocation.isEmpty());
+}
+
+void FindDialog::findButtonClicked()
+{
+    const QFileInfo location(locationEdit->text());
+    const QString title = tr("Unable to search for files");
+    if (!location.exists()) {
+        MessageBox::warn(this, title, tr("The specified search location does not exist"));
+        return;
+    }
+    if (!location.isDir()) {
+        MessageBox::warn(this, title, tr("The specified search location must be a directory"));
+        return;
+    }
+    resultList->clear();
+    search(location.filePath());
+}
+
+void FindDialog::search(const QString& folder)
+{
+    QProgressDialog dialog(tr("Searching:"), tr("Stop Search"), 0, 0, this);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setWindowTitle(tr("Find Files"));
+    dialog.setFixedWidth(500);
+    // The value is a running count, not a share of a known end.
+    dialog.setAutoReset(false);
+    dialog.setAutoClose(false);
+    dialog.setMinimumDuration(200);
+    auto* label = new QLabel(tr("Searching:"));
+    label->setAlignment(Qt::AlignLeft);
+    label->setTextFormat(Qt::PlainText);
+    dialog.setLabel(label);
+    Progress progress(dialog, *label, *resultList);
+    FileSearch(nameFilters).run(folder, progress);
+}
+
+void FindDialog::okButtonClicked()
+{
+    itemDoubleClicked(resultList->currentItem());
+}
+
+void FindDialog::cancelButtonClicked()
+{
+    selectedFile.clear();
+    reject();
+}

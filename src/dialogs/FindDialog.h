@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+#include <QString>
+#include <QStringList>
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+class QPushButton;
+
+/// Searches a folder for files that match the field's filter and lets the user pick one. Paths have forward slashes.
+class FindDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FindDialog(QWidget* parent = nullptr);
+
+    /// Sets the title and the patterns, which white space separates.
+    void Setup(const QString& caption, const QString& filter);
+    /// Proposes the folder of an existing path, unless the last search folder is an ancestor of it.
+    void SetSearchStart(const QString& path);
+    /// The file the user chose; empty after Cancel.
+    const QString& SelectedFile() const { return selectedFile; }
+
+public Q_SLOTS:
+    void textChanged(QString text);
+    void itemSelectionChanged();
+    void itemDoubleClicked(QListWidgetItem* item);
+    void browseButtonClicked();
+    void findButtonClicked();
+    void okButtonClicked();
+    void cancelButtonClicked();
+
+private:
+    void layOut();
+    void labelFiles(const QString& patterns);
+    void search(const QString& folder);
+
+    QStringList nameFilters{QStringLiteral("*.*")};
+    QString selectedFile;
+    QString searchLocation;
+    QLabel* filesLabel;
+    QListWidget* resultList;
+    QLineEdit* locationEdit;
+    QPushButton* searchButton;
+    QPushButton* okButton;
+};

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QUrl>
+
+#include <memory>
+
+class QHelpEngineCore;
+
+/// The help profile, when it is a Qt help collection (*.qhc). Another profile holds nothing.
+class HelpCollection
+{
+public:
+    explicit HelpCollection(const QString& profile);
+    ~HelpCollection();
+
+    /// Where a page is shown from: its address inside the collection, else the file's; empty when it is in neither.
+    QUrl find(const QString& pagePath) const;
+    QByteArray contents(const QUrl& page) const;
+
+private:
+    std::unique_ptr<QHelpEngineCore> engine;
+};

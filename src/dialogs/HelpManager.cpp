@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/HelpManager.h"
+#include "app/AppRegistry.h"
+#include "dialogs/AssistantClient.h"
+#include "dialogs/HelpCollection.h"
+#include "dialogs/HelpViewer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+QString HelpManager::currentHelpPage = u"genericApplication.htm"_s;
+
+HelpManager::HelpManager(QObject* parent)
+    : QObject(parent)
+    , assistant(new AssistantClient(this))
+{
+    assistant->setArguments({appRegistry->installValues.helpProfileStr, profile()});
+    if (parent) {
+        parent->installEventFilter(this);
+    }
+    connect(assistant, &AssistantClient::error, this, &HelpManager::slt_showError);
+}
+
+HelpManager::~HelpManager() = default;
+
+QString HelpManager::HelpDirectory()
+{
+    return QDir::cleanPath(appRegistry->values.helpArea + u'/' + appRegistry->installValues.helpDir);
+}
+
+QString HelpManager::profile()
+{
+    return QDir::cleanPath(HelpDirectory() + u'/' + appRegistry->installValues.helpFile);
+}
+
+bool HelpManager::HelpAvailable()
+{
+    const QString& area = appRegistry->values.helpArea;
+    return !area.isEmpty() && QFile::exists(area) && QFile::exists(profile());
+}
+
+bool HelpManager::eventFilter(QObject* /*object*/, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_F1 && key != Qt::Key_Help) {
+        return false;
+    }
+    slt_showHelp(currentHelpPage);
+    return true;
+}
+
+void HelpManager::slt_showHelp(QString helpPage, bool fullPath)
+{
+    const QString page = fullPath ? helpPage : QDir::cleanPath(HelpDirectory() + u'/' + helpPage);
+    if (!collection) {
+        collection = std::make_unique<HelpCollection>(profile());
+    }
+    const QUrl url = collection->find(page);
+    if (url.isEmpty()) {
+        slt_showError(tr("The help page %1 is not there. Install the suite's help again.").arg(page));
+        return;
+    }
+    show(url);
+}
+
+void HelpManager::show(const QUrl& page)
+{
+    if (!AssistantClient::program().isEmpty()) {
+        assistant->showPage(page);
+        return;
+    }
+    if (!viewer) {
+        viewer = std::make_unique<HelpViewer>(*collection, qobject_cast<QWidget*>(parent()));
+    }
+    viewer->showPage(page);
+}
+
+void HelpManager::slt_showHelp(QString helpPage)
+{
+    slt_showHelp(helpPage, false);
+}
+
+void HelpManager::slt_showError(QString str)
+{
+    QMessageBox box(QMessageBox::Critical, tr("Assistant Error"), str, QMessageBox::NoButton,
+                    qobject_cast<QWidget*>(parent()));
+    box.setTextFormat(Qt::PlainText);
+    QPushButton* ok = box.addButton(tr("OK"), QMessageBox::AcceptRole);
+    box.setDefaultButton(ok);
+    box.setEscapeButton(ok);
+    box.exec();
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class AssistantClient;
+class HelpCollection;
+class HelpViewer;
+
+/// Shows the suite's help: in Qt Assistant, or in a viewer of its own where that is not installed. Watches its parent
+/// for F1 and the Help key.
+class HelpManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HelpManager(QObject* parent);
+    ~HelpManager() override;
+
+    static QString HelpDirectory();
+    /// True when the suite has a help area with a profile in it.
+    static bool HelpAvailable();
+    /// The page for F1 and the wizard's help button.
+    static QString currentHelpPage;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+public Q_SLOTS:
+    /// Shows a page below the help directory, or with fullPath the page as given.
+    void slt_showHelp(QString helpPage, bool fullPath);
+    void slt_showHelp(QString helpPage);
+    void slt_showError(QString str);
+
+private:
+    static QString profile();
+    void show(const QUrl& page);
+
+    std::unique_ptr<HelpCollection> collection;
+    AssistantClient* assistant;
+    std::unique_ptr<HelpViewer> viewer;
+};

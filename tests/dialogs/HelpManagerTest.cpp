@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/HelpManager.h"
+#include "app/AppRegistry.h"
+#include "dialogs/AssistantClient.h"
+#include "dialogs/HelpCollection.h"
+#include "dialogs/HelpViewer.h"
+#include "Installation.h"
+#include "TestMain.h"
+#include "wizard/ApplicationWindow.h"
+
+#include <QProcess>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+#include <QTextBrowser>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void installHelp(const Installation& suite)
+{
+    QProcess::execute(u"cp"_s, {u"-R"_s, QStringLiteral(HELP_FOLDER "/."), suite.path(u"help"_s)});
+    suite.write(u"home/wendleTools.xml"_s, "");
+}
+
+AppRegistry& startWithHelp(Installation& suite)
+{
+    AppRegistry& registry = suite.start();
+    registry.installValues.readDocument("<x><y><wendleHelpFile>projectCreation.qhc</wendleHelpFile></y>"
+                                        "<helpProfileStr>-collectionFile</helpProfileStr></x>");
+    return registry;
+}
+
+} // namespace
+
+class HelpManagerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsInstallValues()
+    {
+        StringValues values;
+        values.readDocument("<any><deep><wendleHelpDir>h</wendleHelpDir></deep><zipFileExts>a</zipFileExts>"
+                            "<zipFileExts>b c</zipFileExts><tarFilename>gtar</tarFilename><broken>");
+        QCOMPARE(values.helpDir, u"h"_s);
+        QCOMPARE(values.helpFile, u"wendle.adp"_s);
+        QCOMPARE(values.zipFileExts, QStringList{u"b c"_s});
+        QCOMPARE(values.tarFilename, u"gtar"_s);
+    }
+
+    void isAvailableWithAProfile()
+    {
+        Installation suite;
+        AppRegistry& registry = startWithHelp(suite);
+        QVERIFY(!HelpManager::HelpAvailable());
+        installHelp(suite);
+        QVERIFY(HelpManager::HelpAvailable());
+        registry.values.helpArea.clear();
+        QVERIFY(!HelpManager::HelpAvailable());
+    }
+
+    void findsPages()
+    {
+        Installation suite;
+        installHelp(suite);
+        const HelpCollection collection(suite.path(u"help/projectCreation.qhc"_s));
+        const QUrl page = collection.find(u"/any/configuration.htm"_s);
+        QCOMPARE(page, QUrl(u"qthelp://org.kovra.projectcreation/help/configuration.htm"_s));
+        QVERIFY(collection.contents(page).contains("Incorrect Configuration File Selected"));
+        const QString own = suite.write(u"help/own.htm"_s, "<p>own</p>");
+        QCOMPARE(collection.find(own), QUrl::fromLocalFile(own));
+        QVERIFY(collection.find(u"/nowhere.htm"_s).isEmpty());
+        // A broken profile still leaves the files.
+        const HelpCollection broken(suite.write(u"help/broken.qhc"_s, "not a collection"));
+        QCOMPARE(broken.find(own), QUrl::fromLocalFile(own));
+
+        HelpViewer viewer(collection);
+        viewer.showPage(page);
+        QVERIFY(viewer.findChild<QTextBrowser*>()->toPlainText().startsWith("The configuration files"_L1));
+    }
+
+    void saysWhatFails()
+    {
+        Installation suite;
+        installHelp(suite);
+        startWithHelp(suite);
+        suite.define("<projectCreator><name>T</name></projectCreator>");
+        ApplicationWindow window(u"t"_s, u"missing page.htm"_s, {});
+        window.show();
+        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
+        // From the first press, and once per press.
+        QTest::keyClick(&window, Qt::Key_F1);
+        QCOMPARE(boxes.texts.size(), 1);
+        QVERIFY(boxes.texts.first().startsWith("Assistant Error|The help page "_L1));
+        window.ShowHelp();
+        QTest::keyClick(&window, Qt::Key_Help);
+        QCOMPARE(boxes.texts.size(), 3);
+    }
+
+    void drivesTheRealAssistant()
+    {
+        if (AssistantClient::program().isEmpty() || QStandardPaths::findExecutable(u"Xvfb"_s).isEmpty() ||
+            QStandardPaths::findExecutable(u"xwininfo"_s).isEmpty()) {
+            QSKIP("needs assistant, Xvfb and xwininfo");
+        }
+        QProcess server;
+        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+        QVERIFY(server.waitForReadyRead(20000));
+        const QByteArray display = ":" + server.readLine().trimmed();
+        const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+        qputenv("DISPLAY", display);
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        const auto windows = [&display] {
+            QProcess info;
+            info.start(u"xwininfo"_s, {u"-display"_s, QString::fromLatin1(display), u"-root"_s, u"-tree"_s});
+            info.waitForFinished();
+            return info.readAllStandardOutput();
+        };
+        Installation suite;
+        installHelp(suite);
+        {
+            AssistantClient client;
+            QSignalSpy errors(&client, &AssistantClient::error);
+            client.setArguments({u"-collectionFile"_s, suite.path(u"help/projectCreation.qhc"_s)});
+            client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/projectCreation.htm"_s));
+            QTRY_VERIFY_WITH_TIMEOUT(windows().contains("KOVRA Help"), 30000);
+            client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/configuration.htm"_s));
+            QVERIFY(errors.isEmpty());
+            // One that dies is reported, and started again with the next request.
+            auto* viewer = client.findChild<QProcess*>();
+            if (!viewer) {
+                QProcess::execute(u"pkill"_s, {u"-KILL"_s, u"-f"_s, suite.path(u"help/projectCreation.qhc"_s)});
+            }
+            QTRY_COMPARE_WITH_TIMEOUT(errors.size(), 1, 10000);
+            QVERIFY(!windows().contains("KOVRA Help"));
+            client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/projectCreation.htm"_s));
+            QTRY_VERIFY_WITH_TIMEOUT(windows().contains("KOVRA Help"), 30000);
+        }
+        QVERIFY(!windows().contains("KOVRA Help"));
+        qputenv("QT_QPA_PLATFORM", platform);
+        qunsetenv("DISPLAY");
+        server.terminate();
+        server.waitForFinished();
+    }
+};
+
+KOVRA_TEST(HelpManagerTest)
+#include "HelpManagerTest.moc"
