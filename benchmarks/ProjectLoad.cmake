@@ -1,2 +1,2 @@
 # SPDX-License-Identifier: MIT
-kovra_benchmark(project_load ProjectLoad.cpp Ratio.h)
+kovra_benchmark(project_load ProjectLoad.cpp LargeProject.h Ratio.h)

@@ -114,7 +114,7 @@ void readCrossModuleAnalysis(QXmlStreamReader& xml, CrossModuleAnalysis& analysi
     });
 }
 
-void readPage(QXmlStreamReader& xml, PageData& page, const QString& element)
+void readPage(QXmlStreamReader& xml, PageData& page, const QString& element, const TextExpander& expand)
 {
     const auto number = [&] { return xml.readElementText().toInt(); };
     readRecord(xml, element, [&](QStringView name) {
@@ -134,6 +134,8 @@ void readPage(QXmlStreamReader& xml, PageData& page, const QString& element)
             page.horizontalSpacing = number();
         } else if (name == "verticalspacing"_L1) {
             page.verticalSpacing = number();
+        } else if (name == "application"_L1) {
+            page.ReadApplication(xml, expand);
         }
     });
 }
@@ -182,7 +184,7 @@ void KOVRASettingsFile::readDocument(const QByteArray& document, const Places& p
             if (element != "display_options"_L1) {
                 page.titleAttribute = xml.attributes().value("title"_L1).toString();
             }
-            readPage(xml, page, element);
+            readPage(xml, page, element, expand);
         } else if (element == "codingStandard"_L1) {
             readCodingStandard(xml, add(codingStandards), expand);
         } else if (element == "crossModuleAnalysis"_L1) {

@@ -1,8 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMap>
 #include <QObject>
 #include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QGridLayout;
+class QXmlStreamReader;
+class RunAppData;
 
 /// One page of launcher buttons, as the definitions file lays it out. Sizes and spacings are in pixels.
 class PageData : public QObject
@@ -10,7 +19,23 @@ class PageData : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    explicit PageData(QObject* parent = nullptr);
+    ~PageData() override;
+
+    /// Reads one application element into a new launcher; expand turns its program into a path.
+    void ReadApplication(QXmlStreamReader& xml, const std::function<QString(const QString&)>& expand);
+    /// Makes a button for every launcher, with its arrows.
+    void BuildButtons(QGridLayout* grid);
+    /// True while a launched program runs or an output window is open.
+    bool ApplicationsRunning() const;
+    void StopApplications();
+    /// Stops what runs and gives every button its first state.
+    void ResetApplications();
+    void SetProjectFile(const QString& file) { projectFile = file; }
+    void SetIsORVC(bool isC) { isORVC = isC; }
+    /// Applies the condition groups that the launcher ends when it is pressed, or starts when it has succeeded.
+    void ConditionsOnActivate(RunAppData* launcher) { applyGroups(launcher, QStringLiteral("finish")); }
+    void ConditionsOnComplete(RunAppData* launcher) { applyGroups(launcher, QStringLiteral("start")); }
 
     QString titleAttribute;
     QString title;
@@ -21,7 +46,13 @@ public:
     int buttonHeight = 50;
     int horizontalSpacing = 2;
     int verticalSpacing = 2;
+    std::vector<std::unique_ptr<RunAppData>> applications;
+    /// Of each condition, what its launchers do with it.
+    QMap<QString, QMap<RunAppData*, QString>> conditions;
     /// The project the page's tools act on, and whether the C analyser's programs are meant.
     QString projectFile;
     bool isORVC = false;
+
+private:
+    void applyGroups(RunAppData* launcher, const QString& trigger);
 };

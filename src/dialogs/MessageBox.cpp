@@ -11,9 +11,10 @@ bool MessageBox::ask(QWidget* parent, const QString& title, const QString& text)
     return box.exec() == QMessageBox::Yes;
 }
 
-void MessageBox::warn(QWidget* parent, const QString& title, const QString& text)
+void MessageBox::warn(QWidget* parent, const QString& title, const QString& text, const QString& details)
 {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
+    box.setDetailedText(details);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-class QString;
+#include <QString>
+
 class QWidget;
 
 /// The program's questions and errors. Texts hold file names, so they are always shown as plain text.
@@ -10,7 +11,7 @@ namespace MessageBox {
 /// A warning with Yes (the default) and No; true for Yes.
 bool ask(QWidget* parent, const QString& title, const QString& text);
 
-/// A warning with an Ok button.
-void warn(QWidget* parent, const QString& title, const QString& text);
+/// A warning with an Ok button. Details stay behind a button until the user asks for them.
+void warn(QWidget* parent, const QString& title, const QString& text, const QString& details = {});
 
 } // namespace MessageBox

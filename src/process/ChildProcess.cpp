@@ -8,7 +8,7 @@ ChildProcess::ChildProcess(QObject* parent)
     setChildProcessModifier(&ProcessGroup::becomeLeader);
 #endif
     connect(this, &QProcess::started, this, [this] { group.adopt(processId()); });
-    connect(this, &QProcess::finished, this, [this] { group.release(); });
+    connect(this, &QProcess::finished, this, [this] { group.release(leftovers == Leftovers::Kill); });
 }
 
 ChildProcess::~ChildProcess()
@@ -17,6 +17,7 @@ ChildProcess::~ChildProcess()
         killGroup();
         waitForFinished(1000);
     }
+    group.killLeftovers();
 }
 
 void ChildProcess::terminateGroup()
@@ -34,12 +35,14 @@ void ChildProcess::killGroup()
 bool ChildProcess::stop(int killMs, int graceMs)
 {
     if (state() == QProcess::NotRunning) {
+        group.killLeftovers();
         return true;
     }
     terminateGroup();
-    if (waitForFinished(graceMs)) {
-        return true;
+    if (!waitForFinished(graceMs)) {
+        killGroup();
+        waitForFinished(killMs);
     }
-    killGroup();
-    return waitForFinished(killMs) || state() == QProcess::NotRunning;
+    group.killLeftovers();
+    return state() == QProcess::NotRunning;
 }

@@ -12,17 +12,22 @@ class ChildProcess : public QProcess
     Q_OBJECT
 
 public:
+    /// What becomes of the children that a process leaves running at its normal end.
+    enum class Leftovers { Kill, KeepUntilStopped };
+
     explicit ChildProcess(QObject* parent = nullptr);
     /// Stops what still runs.
     ~ChildProcess() override;
 
+    void setLeftovers(Leftovers policy) { leftovers = policy; }
     /// Asks the process and its children to end.
     void terminateGroup();
     /// Ends the process and its children at once.
     void killGroup();
-    /// Asks, waits graceMs, then kills and waits at most killMs. True when nothing runs any more.
+    /// Asks, waits graceMs, then kills and waits at most killMs; leftovers go too. True when nothing runs any more.
     bool stop(int killMs, int graceMs = 500);
 
 private:
+    Leftovers leftovers = Leftovers::Kill;
     ProcessGroup group;
 };

@@ -20,8 +20,10 @@ public:
     void adopt(long long processId);
     void terminate();
     void kill();
-    /// Kills what a finished leader left running and lets go.
-    void release();
+    /// Lets go of a finished leader: kills what it left running, or remembers it.
+    void release(bool killLeftovers);
+    /// Kills what was remembered.
+    void killLeftovers();
 
 private:
     struct Handle;

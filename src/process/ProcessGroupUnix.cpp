@@ -4,6 +4,7 @@
 #include <csignal>
 #include <sys/types.h>
 #include <unistd.h>
+#include <vector>
 
 #ifdef __linux__
 #include <sys/prctl.h>
@@ -12,6 +13,7 @@
 struct ProcessGroup::Handle
 {
     pid_t leader = 0;
+    std::vector<pid_t> leftovers;
 
     void signal(int number) const
     {
@@ -51,8 +53,20 @@ void ProcessGroup::kill()
     handle->signal(SIGKILL);
 }
 
-void ProcessGroup::release()
+void ProcessGroup::release(bool killNow)
 {
-    kill();
+    if (killNow) {
+        kill();
+    } else if (handle->leader > 0 && ::kill(-handle->leader, 0) == 0) {
+        handle->leftovers.push_back(handle->leader);
+    }
     handle->leader = 0;
+}
+
+void ProcessGroup::killLeftovers()
+{
+    for (const pid_t group : handle->leftovers) {
+        ::kill(-group, SIGKILL);
+    }
+    handle->leftovers.clear();
 }

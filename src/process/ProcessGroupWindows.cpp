@@ -42,7 +42,15 @@ void ProcessGroup::kill()
     TerminateJobObject(handle->job, 1);
 }
 
-void ProcessGroup::release()
+// The job holds the leftovers until it is asked.
+void ProcessGroup::release(bool killNow)
+{
+    if (killNow) {
+        kill();
+    }
+}
+
+void ProcessGroup::killLeftovers()
 {
     kill();
 }

@@ -21,6 +21,10 @@ public:
     /// Reads a project file of either dialect (or its newer backup), infers the analyser and evaluates the status. True
     /// when the file holds a project; statusText says why not.
     bool load(const QString& fileName);
+    /// The arguments for a launched tool: placeholders replaced by this project's option and list files, which are
+    /// written always. problem tells what could not be written; the tool must not be started then.
+    QStringList expandLauncherArguments(const QStringList& arguments, const QString& analyser,
+                                        const QString& extraOptionFile, QString* problem = nullptr);
     /// Decides statusText, statusOk and analysisComplete afresh.
     void evaluateStatus();
     /// True unless the project was found to be C++; one judged by its suffixes counts as C.

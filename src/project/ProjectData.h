@@ -11,6 +11,7 @@
 #include <vector>
 
 class ProjectData;
+class QTextStream;
 
 /// A source file of a project and the names of the files that the analyser writes for it. Sources with the same name in
 /// different folders share their output files when their projects share the output folder.
@@ -68,6 +69,15 @@ public:
     QStringList allSourcePaths() const;
     QStringList allMetricsPaths() const;
     QString firstExistingMetricsPath() const;
+
+    /// The options of the root project for an analyser: output folder, personalities, coding standards.
+    QString projectOptionText() const;
+    /// The temporary file with these options, written when they have changed. problem tells what could not be written.
+    QString projectOptionFile(QString& problem);
+    /// The analysed files of the tree and the cross-module analysis file.
+    void crossModuleListText(QTextStream& stream) const;
+    /// A new temporary file with that list.
+    QString crossModuleListFile(QString& problem) const;
 
     /// Calls visit for this project and all below it, each before its sub-projects, until it returns true.
     template <typename Visit>

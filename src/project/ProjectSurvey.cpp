@@ -28,6 +28,32 @@ SurveyCounts ProjectSurvey::survey(const ProjectData& root)
     return counts;
 }
 
+AnalysedFiles ProjectSurvey::analysedFiles(const ProjectData& root)
+{
+    AnalysedFiles result;
+    std::vector<const ProjectData*> order;
+    root.visitProjects([&](const ProjectData& project) {
+        order.push_back(&project);
+        probe->enterFolders(project.sourceFolder(), project.outputFolder());
+        QList<const SourceEntry*>& own = result.own[&project];
+        for (const SourceEntry& entry : project.files) {
+            if (probe->outputTime(entry.fileName(), ".met") != FileProbe::missing &&
+                probe->outputTime(entry.fileName(), ".err") != FileProbe::missing) {
+                own += &entry;
+            }
+        }
+        return false;
+    });
+    // Children stand behind their parents, so from the end every count is complete when it is handed up.
+    for (auto project = order.rbegin(); project != order.rend(); ++project) {
+        const int count = result.countBelow[*project] += int(result.own[*project].size());
+        if (*project != &root) {
+            result.countBelow[(*project)->parent] += count;
+        }
+    }
+    return result;
+}
+
 bool ProjectSurvey::isUpToDate(const SourceEntry& entry)
 {
     SurveyCounts counts;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QString>
 
 #include <memory>
@@ -22,6 +23,13 @@ struct SurveyCounts
     QString firstMetricsPath;
 };
 
+/// Which files of each project have both output files, and how many there are in it and below.
+struct AnalysedFiles
+{
+    QHash<const ProjectData*, QList<const SourceEntry*>> own;
+    QHash<const ProjectData*, int> countBelow;
+};
+
 /// Asks for every file of a project tree once, in one pass, and for nothing in a folder that does not exist.
 class ProjectSurvey
 {
@@ -30,6 +38,7 @@ public:
     ~ProjectSurvey();
 
     SurveyCounts survey(const ProjectData& root);
+    AnalysedFiles analysedFiles(const ProjectData& root);
     bool isUpToDate(const SourceEntry& entry);
 
 private:

@@ -1,21 +1,40 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/DisplayOptionsPage.h"
+#include "app/AppRegistry.h"
 #include "wizard/ApplicationWindow.h"
 #include "wizard/PageSequence.h"
 
-#include <QLabel>
-#include <QVBoxLayout>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QScrollArea>
 
 DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     : AppPage(owner, DisplayOptionsPageId)
-    , created(new QLabel)
+    , buttonGroup(new QGroupBox)
+    , buttonGrid(new QGridLayout)
+    , scrollArea(new QScrollArea)
 {
     setTitle(tr("Analyse and Display Operations"));
     setSubTitle(tr("Now that the project is created launch an application to analyse and display the project "
                    "information"));
-    created->setTextFormat(Qt::PlainText);
-    created->setWordWrap(true);
-    (new QVBoxLayout(this))->addWidget(created);
+    buttonGroup->setFlat(true);
+    if (PageData* launchers = launcherPage()) {
+        launchers->BuildButtons(buttonGrid);
+    }
+    buttonGroup->setLayout(buttonGrid);
+    // The grid has no constraint of its own, so the scroll area needs to be told how large it is.
+    buttonGroup->setMinimumSize(buttonGrid->sizeHint() + QSize(20, 20));
+    scrollArea->setWidget(buttonGroup);
+    scrollArea->setWidgetResizable(true);
+    (new QHBoxLayout(this))->addWidget(scrollArea);
+}
+
+PageData* DisplayOptionsPage::launcherPage()
+{
+    const auto& pages = appRegistry->definitions.applicationPages;
+    return pages.empty() ? nullptr : pages.front().get();
 }
 
 void DisplayOptionsPage::initializePage()
@@ -24,5 +43,16 @@ void DisplayOptionsPage::initializePage()
     window->setOption(QWizard::NoCancelButton, true);
     window->setOption(QWizard::HaveCustomButton1, true);
     window->setButtonText(QWizard::CustomButton1, tr("New Project Conversion"));
-    created->setText(tr("New project file: ") + window->ProjectFile());
+    QCoreApplication::processEvents();
+    if (PageData* launchers = launcherPage()) {
+        launchers->SetProjectFile(window->ProjectFile());
+        launchers->SetIsORVC(window->isORVC);
+    }
+}
+
+void DisplayOptionsPage::cleanupPage()
+{
+    if (PageData* launchers = launcherPage()) {
+        launchers->ResetApplications();
+    }
 }

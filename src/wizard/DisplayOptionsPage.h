@@ -3,9 +3,12 @@
 
 #include "wizard/AppPage.h"
 
-class QLabel;
+class PageData;
+class QGridLayout;
+class QGroupBox;
+class QScrollArea;
 
-/// The follow-up tools of a successful conversion.
+/// The suite's tools for the project that was just created.
 class DisplayOptionsPage : public AppPage
 {
     Q_OBJECT
@@ -14,7 +17,15 @@ public:
     explicit DisplayOptionsPage(ApplicationWindow* window);
 
     void initializePage() override;
+    void cleanupPage() override;
+    bool validatePage() override { return true; }
+    bool isComplete() const override { return true; }
 
 private:
-    QLabel* created;
+    /// The first launcher page of the definitions; the others are never shown.
+    static PageData* launcherPage();
+
+    QGroupBox* buttonGroup;
+    QGridLayout* buttonGrid;
+    QScrollArea* scrollArea;
 };

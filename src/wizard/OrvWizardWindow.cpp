@@ -2,6 +2,8 @@
 #include "wizard/OrvWizardWindow.h"
 #include "app/AppRegistry.h"
 #include "dialogs/HelpManager.h"
+#include "dialogs/MainWindow.h"
+#include "dialogs/MessageBox.h"
 #include "wizard/OrvBasicWizardPage.h"
 
 #include <QAbstractButton>
@@ -9,19 +11,15 @@
 #include <QIcon>
 #include <QPixmap>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
-
-namespace {
-
-OrvWizardWindow* currentWindow = nullptr;
-
-} // namespace
 
 OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, QWidget* parent)
     : QWizard(parent)
 {
     setWindowTitle(title);
-    currentWindow = this;
+    MainWindow::set(this);
     HelpManager::currentHelpPage = helpPage;
     setWizardStyle(QWizard::ModernStyle);
     setWindowIcon(QIcon(u":/AKOVRAIcon.xpm"_s));
@@ -41,18 +39,6 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     connect(this, &QDialog::finished, this, &OrvWizardWindow::Finished);
     resize(appRegistry->windowSize);
     move(appRegistry->windowPos);
-}
-
-OrvWizardWindow::~OrvWizardWindow()
-{
-    if (currentWindow == this) {
-        currentWindow = nullptr;
-    }
-}
-
-QWidget* OrvWizardWindow::current()
-{
-    return currentWindow;
 }
 
 bool OrvWizardWindow::validateCurrentPage()
@@ -103,6 +89,17 @@ void OrvWizardWindow::closeEvent(QCloseEvent* event)
 
 bool OrvWizardWindow::CanClose()
 {
+    const auto& pages = appRegistry->definitions.applicationPages;
+    const bool running = std::ranges::any_of(pages, [](const auto& page) { return page->ApplicationsRunning(); });
+    if (running &&
+        !MessageBox::ask(this, tr("Child Applications Still Running"),
+                         tr("Closing this application will kill child applications.\nDo you wish to close this "
+                            "application?"))) {
+        return false;
+    }
+    for (const auto& page : pages) {
+        page->StopApplications();
+    }
     appRegistry->ShutDown();
     return true;
 }

@@ -13,10 +13,6 @@ class OrvWizardWindow : public QWizard
 
 public:
     OrvWizardWindow(const QString& title, const QString& helpPage, QWidget* parent = nullptr);
-    ~OrvWizardWindow() override;
-
-    /// The one wizard window, parent of the file dialogs and message boxes of its fields; none before and after it.
-    static QWidget* current();
 
     bool validateCurrentPage() override;
     /// Asks before a running conversion is given up.

@@ -2,8 +2,8 @@
 #include "wizard/SelectFileWidgets.h"
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/FindDialog.h"
+#include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
-#include "wizard/OrvWizardWindow.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -128,7 +128,7 @@ void SelectFileWidgets::ValChanged(QString text)
 void SelectFileWidgets::GetAFile()
 {
     const QString start = browseStart();
-    QWidget* parent = OrvWizardWindow::current();
+    QWidget* parent = MainWindow::current();
     takeChosen(folderMode ? QFileDialog::getExistingDirectory(parent, caption, start, QFileDialog::ShowDirsOnly)
                           : QFileDialog::getOpenFileName(parent, caption, start, filter));
 }
@@ -144,8 +144,7 @@ void SelectFileWidgets::EditFile()
 {
     const QString name = edit->text();
     if (!QFile::exists(name)) {
-        MessageBox::warn(OrvWizardWindow::current(), tr("Edit failed"),
-                         tr("Can not edit file, the file does not exist"));
+        MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not edit file, the file does not exist"));
         return;
     }
     if (emitEditSignal) {
@@ -155,7 +154,7 @@ void SelectFileWidgets::EditFile()
     QFile file(name);
     if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Text) &&
         !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        MessageBox::warn(OrvWizardWindow::current(), tr("Edit failed"), tr("Can not open file"));
+        MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not open file"));
         return;
     }
     DisplayDialog dialog(name, DisplayDialog::Text, 600, 600);

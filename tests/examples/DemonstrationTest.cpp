@@ -9,7 +9,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPlainTextEdit>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTest>
 
 #include <csignal>
@@ -108,6 +110,54 @@ private Q_SLOTS:
         QVERIFY(options.contains("-d DEMO=<1>\n-d SECOND\n"_L1));
         QVERIFY(options.contains(u"-i \""_s + QStringLiteral(SOURCE_FOLDER) + u"/src\"\n"_s));
         wizard.press(QWizard::FinishButton);
+    }
+
+    void fromABuildToAReport()
+    {
+        if (QStandardPaths::findExecutable(u"cppcheck"_s).isEmpty()) {
+            QSKIP("needs cppcheck");
+        }
+        Demonstration suite;
+        suite.write(u"work/code/größe a.cpp"_s, "int f()\n{\n    int values[2];\n    return values[INDEX];\n}\n");
+        suite.write(u"work/code/lib/b.cpp"_s, "int g() { return 0; }\n");
+        const QString database =
+            suite.write(u"work/db.json"_s, R"([{"file": "code/größe a.cpp", "arguments": ["c++", "-DINDEX=7"]},
+                                    {"file": "code/lib/b.cpp", "arguments": ["c++"]}])");
+        const AppRegistry& registry = suite.start();
+        WizardDriver wizard;
+        BoxAnswers boxes({QMessageBox::No, QMessageBox::Yes});
+        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), databaseType());
+        wizard.button(u"Orv C++ [Project contains 'C++' Code]"_s).click();
+        wizard.press(QWizard::NextButton);
+        wizard.edit(u"Compilation database"_s).setText(database);
+        wizard.press(QWizard::NextButton);
+        wizard.press(QWizard::NextButton);
+        QTRY_COMPARE_WITH_TIMEOUT(wizard.window.currentId(), int(DisplayOptionsPageId), 30000);
+
+        QAbstractButton& results = wizard.button(u"Show results"_s);
+        QVERIFY(!results.isEnabled());
+        wizard.button(u"Analyse\nproject"_s).click();
+        QTRY_VERIFY2_WITH_TIMEOUT(results.isEnabled(), qPrintable(boxes.texts.join(u' ')), 60000);
+        QVERIFY(suite.read(u"work/p.out/größe a.cpp.err"_s).contains("arrayIndexOutOfBounds"));
+        results.click();
+        QTRY_COMPARE(registry.openDialogs.size(), 1);
+        const QString report = registry.openDialogs[0]->findChild<QTextBrowser*>()->toPlainText();
+        QVERIFY2(report.contains(u"größe a.cpp"_s) && report.contains("[arrayIndexOutOfBounds]"_L1),
+                 qPrintable(report));
+        for (const auto& [button, says] : {std::pair{u"Project status"_s, u"Analysis of this project is complete"_s},
+                                           std::pair{u"Cross-module analysis"_s, u"1  arrayIndexOutOfBounds"_s}}) {
+            wizard.button(button).click();
+            QTRY_VERIFY(wizard.window.isEnabled());
+            const auto* view = registry.openDialogs.last()->findChild<QPlainTextEdit*>();
+            QVERIFY2(view && view->toPlainText().contains(says), qPrintable(boxes.texts.join(u' ')));
+        }
+        // Open windows count: Finish asks, and closes them when the user agrees.
+        wizard.press(QWizard::FinishButton);
+        QVERIFY(wizard.window.isVisible() && registry.openDialogs.size() == 3);
+        wizard.press(QWizard::FinishButton);
+        QVERIFY(!wizard.window.isVisible());
+        QCOMPARE(boxes.texts.size(), 2);
+        QVERIFY(boxes.texts.last().startsWith("Child Applications Still Running|"_L1));
     }
 
     void convertsWithoutAWindow()

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +36,8 @@ Installation::Installation()
 Installation::~Installation()
 {
     registry.reset();
+    // What a wizard remembered must not reach the next test.
+    QSettings(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s).clear();
     qputenv("PATH", searchPath);
     for (const char* name : analyserVariables) {
         qunsetenv(name);

@@ -51,8 +51,6 @@ class ConfPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { QSettings(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s).clear(); }
-
     void refusesTheOtherAnalysersFile()
     {
         Installation suite;

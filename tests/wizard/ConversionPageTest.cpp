@@ -35,8 +35,6 @@ class ConversionPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { QSettings(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s).clear(); }
-
     void reportsTheEnd_data()
     {
         QTest::addColumn<QByteArray>("script");

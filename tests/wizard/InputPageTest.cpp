@@ -55,8 +55,6 @@ class InputPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { QSettings(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s).clear(); }
-
     void collectsEveryKind()
     {
         Installation suite;

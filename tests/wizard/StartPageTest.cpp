@@ -16,8 +16,6 @@ class StartPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { QSettings(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s).clear(); }
-
     void saysWhichDefinitionsAreMissing_data()
     {
         QTest::addColumn<QByteArray>("contents");

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// Option and list file of a project of 100,000 files, against the same stats and one write of the list.
+#include "app/AppRegistry.h"
+#include "LargeProject.h"
+#include "project/Project.h"
+#include "Ratio.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv)
+{
+    QTemporaryDir home;
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
+        qputenv(name, home.path().toLocal8Bit());
+    }
+    const QCoreApplication application(argc, argv);
+    AppRegistry registry;
+    appRegistry = &registry;
+    LargeProject large;
+    if (!large.create(home.filePath(u"project"_s))) {
+        return 1;
+    }
+    Project project(large.projectFile);
+    QByteArray list;
+    const auto ours = [&] {
+        const QStringList arguments = project.expandLauncherArguments({u"%L"_s}, u"ORVC"_s, {});
+        QFile file(arguments.first());
+        list = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    ours();
+    int found = 0;
+    const auto bare = [&] {
+        for (const QByteArray& name : large.outputs) {
+            struct stat facts = {};
+            found += int(::stat(name.constData(), &facts) == 0);
+        }
+        QFile file(home.filePath(u"list"_s));
+        if (file.open(QIODevice::WriteOnly)) {
+            file.write(list);
+        }
+    };
+    const int result = Ratio::report("option and list file for 100000 files", 2, ours, bare);
+    return found > 0 && list.count(".cpp\"\n") == 50'000 ? result : 1;
+}

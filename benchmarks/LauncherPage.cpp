@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// Opening a page of 60 launchers whose programs must be looked up, against the same page with absolute paths.
+#include "app/AppRegistry.h"
+#include "process/ExecutableLookup.h"
+#include "process/RunAppData.h"
+#include "Ratio.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void open(const QByteArray& program)
+{
+    KOVRASettingsFile settings;
+    QByteArray text = "<s><applicationPage>";
+    for (int i = 0; i < 60; ++i) {
+        text += "<application name='n'><exe>" + program + "</exe><colour>lightblue</colour></application>";
+    }
+    settings.readDocument(text + "</applicationPage></s>", {});
+    QWidget page;
+    settings.applicationPages.at(0)->BuildButtons(new QGridLayout(&page));
+    page.show();
+    QApplication::processEvents();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QTemporaryDir home;
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
+        qputenv(name, home.path().toLocal8Bit());
+    }
+    const QApplication application(argc, argv);
+    AppRegistry registry;
+    appRegistry = &registry;
+    const QByteArray absolute = FindExecutable(u"cmake"_s).toLocal8Bit();
+    return Ratio::report(
+        "page of 60 launchers by name", 1.5, [] { open("cmake"); }, [&] { open(absolute); }, 15);
+}

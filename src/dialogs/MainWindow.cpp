@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/MainWindow.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace {
+
+QPointer<QWidget> mainWindow;
+
+} // namespace
+
+QWidget* MainWindow::current()
+{
+    return mainWindow;
+}
+
+void MainWindow::set(QWidget* window)
+{
+    mainWindow = window;
+}

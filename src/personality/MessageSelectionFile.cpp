@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "personality/MessageSelectionFile.h"
+
+#include <QFile>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+bool writeMessageSelectionFile(const QStringList& messages, const QString& fileName)
+{
+    if (messages.isEmpty() || fileName.isEmpty()) {
+        return true;
+    }
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        return false;
+    }
+    const QString rule(32, u'*');
+    QTextStream stream(&file);
+    stream << rule << "\n* REMOVE ANY PREVIOUS SETTINGS *\n"
+           << rule << "\n-forgetall only\n-forgetall nomsg\n-forgetall su\n"
+           << rule << '\n'
+           << rule << "\n-only ";
+    for (qsizetype i = 0; i < messages.size(); ++i) {
+        stream << messages[i];
+        if (i + 1 < messages.size()) {
+            // The first line holds eleven, the others ten.
+            stream << (i > 0 && i % 10 == 0 ? "\n-only " : ",");
+        }
+    }
+    stream << '\n';
+    stream.flush();
+    return file.flush() && file.error() == QFile::NoError;
+}

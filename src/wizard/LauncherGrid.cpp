@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/LauncherGrid.h"
+#include "definitions/PageData.h"
+#include "dialogs/PlainText.h"
+#include "process/RunAppData.h"
+#include "wizard/ButtonStyle.h"
+
+#include <QGridLayout>
+#include <QIcon>
+#include <QLabel>
+
+#include <algorithm>
+
+namespace {
+
+int atLeastOne(int span)
+{
+    return span == 0 ? 1 : span;
+}
+
+QSize buttonSize(const PageData& page, const RunAppData& launcher)
+{
+    const int columns = atLeastOne(launcher.columnspan);
+    const int rows = atLeastOne(launcher.rowspan);
+    const int width = launcher.buttonwidth != 0 ? launcher.buttonwidth : page.buttonWidth;
+    // An arrow column lies between two button columns, so the gap there counts twice.
+    return {width * columns + 2 * (columns - 1) * page.horizontalSpacing,
+            page.buttonHeight * rows + (rows - 1) * page.verticalSpacing};
+}
+
+QPushButton* createButton(const PageData& page, RunAppData& launcher)
+{
+    auto* button = new QPushButton(launcher.name);
+    button->setFixedSize(buttonSize(page, launcher));
+    if (!launcher.image.isEmpty()) {
+        button->setIcon(QIcon(launcher.image));
+        if (launcher.name.isEmpty()) {
+            button->setIconSize({page.buttonWidth - 2, page.buttonHeight - 2});
+            button->setAccessibleName(launcher.description);
+        }
+    }
+    SetButtonStyle(button, launcher.colour);
+    if (launcher.ExecutablesFound()) {
+        QObject::connect(button, &QPushButton::clicked, &launcher, &RunAppData::Activate);
+    } else {
+        button->setEnabled(false);
+    }
+    button->setAttribute(Qt::WA_AlwaysShowToolTips);
+    button->setToolTip(
+        PlainText::toolTip(launcher.disabledReason.isEmpty() ? launcher.description : launcher.disabledReason));
+    launcher.attachButton(button);
+    if (launcher.startsDisabled) {
+        button->setEnabled(false);
+    }
+    return button;
+}
+
+void addArrow(QGridLayout& grid, const QString& image, int row, int column)
+{
+    if (!image.isEmpty()) {
+        auto* label = new QLabel;
+        SetArrowImage(label, image);
+        grid.addWidget(label, row, column);
+    }
+}
+
+} // namespace
+
+QList<LauncherCell> placeLaunchers(const QList<LauncherSpan>& spans, int columns)
+{
+    QList<LauncherCell> cells;
+    int row = 0;
+    int column = 0;
+    for (const LauncherSpan& span : spans) {
+        const int width = atLeastOne(span.columns);
+        if (column + width > columns) {
+            column = 0;
+        }
+        cells += {2 * row + 1, 2 * column + 1, 2 * atLeastOne(span.rows) - 1, 2 * width - 1};
+        column += width;
+        if (column >= columns) {
+            ++row;
+            column = 0;
+        }
+    }
+    return cells;
+}
+
+void PageData::BuildButtons(QGridLayout* grid)
+{
+    grid->setHorizontalSpacing(horizontalSpacing);
+    grid->setVerticalSpacing(verticalSpacing);
+    grid->setSizeConstraint(QLayout::SetNoConstraint);
+    QList<RunAppData*> shown;
+    QList<LauncherSpan> spans;
+    for (const auto& launcher : applications) {
+        columns = std::max(columns, launcher->columnspan);
+        if (!launcher->name.isEmpty() || !launcher->CurrentExe().isEmpty()) {
+            shown += launcher.get();
+            spans += {launcher->columnspan, launcher->rowspan};
+        }
+    }
+    const QList<LauncherCell> cells = placeLaunchers(spans, columns);
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        const auto& [row, column, rowSpan, columnSpan] = cells[i];
+        RunAppData& launcher = *shown[i];
+        grid->addWidget(createButton(*this, launcher), row, column, std::max(1, rowSpan), std::max(1, columnSpan));
+        addArrow(*grid, launcher.aboveImage, row - 1, column);
+        addArrow(*grid, launcher.belowImage, row + 1, column);
+        addArrow(*grid, launcher.leftImage, row, column - 1);
+        addArrow(*grid, launcher.rightImage, row, column + 1);
+    }
+}
