@@ -49,6 +49,18 @@ QStringList list(const QString& text)
     return text.split(separators, Qt::SkipEmptyParts);
 }
 
+// What may itself hold blanks and commas.
+QStringList parts(const QString& text)
+{
+    QStringList result;
+    for (const QString& part : text.split(u';')) {
+        if (const QString trimmed = part.trimmed(); !trimmed.isEmpty()) {
+            result += trimmed;
+        }
+    }
+    return result;
+}
+
 void takeOptions(Arguments& arguments, const QString& text)
 {
     const QStringList options = list(text);
@@ -125,8 +137,8 @@ Arguments Arguments::parse(const QStringList& commandLine)
     arguments.messagePersonality = absolute(parser.value(u"message-personality"_s));
     arguments.outputFolder = absolute(parser.value(u"output-folder"_s));
     arguments.extensions = list(parser.value(u"extensions"_s));
-    arguments.exclude = parser.value(u"exclude"_s).split(u';', Qt::SkipEmptyParts);
-    arguments.defines = parser.value(u"defines"_s).split(u';', Qt::SkipEmptyParts);
+    arguments.exclude = parts(parser.value(u"exclude"_s));
+    arguments.defines = parts(parser.value(u"defines"_s));
     arguments.onlyOwnLanguage = parser.value(u"own-language"_s) == "1"_L1;
     takeOptions(arguments, parser.value(u"options"_s));
     check(parser, arguments);

@@ -2,6 +2,7 @@
 #include "CompileDatabase.h"
 #include "CommandSplitter.h"
 #include "Failure.h"
+#include "SourceLists.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -27,12 +29,15 @@ QString position(const QByteArray& text, qsizetype offset)
 
 Failure badEntry(const QString& fileName, qsizetype index, const QString& reason)
 {
-    return {u"%1: entry %2 %3. Generate the compilation database again."_s.arg(fileName).arg(index + 1).arg(reason)};
+    return {u"%1: entry %2 %3. Generate the compilation database again."_s.arg(fileName, QString::number(index + 1),
+                                                                               reason)};
 }
 
 QString below(const QString& directory, const QString& path)
 {
-    return QDir::cleanPath(QDir::isAbsolutePath(path) ? path : directory + u'/' + path);
+    // A leading colon is a name like any other here, not one of Qt's own resources.
+    const bool isAbsolute = QDir::isAbsolutePath(path) && !path.startsWith(u':');
+    return QDir::cleanPath(isAbsolute ? path : directory + u'/' + path);
 }
 
 // The value of an option that is either joined to it or the next word; null when the word is another option.
@@ -48,9 +53,18 @@ QString optionValue(const QStringList& words, qsizetype& i, QStringView option)
     return i + 1 < words.size() ? words[++i] : QString();
 }
 
+// Elsewhere /Include may be the folder of a source.
+bool isSlashCompiler(const QString& compiler)
+{
+    static const QRegularExpression name(u"(^|[/\\\\])(cl|clang-cl|icl)(\\.exe)?$"_s,
+                                         QRegularExpression::CaseInsensitiveOption);
+    return name.match(compiler).hasMatch();
+}
+
 void readOptions(const QStringList& words, const QString& directory, SourceUnit& unit)
 {
-    static constexpr std::array includeOptions = {u"-isystem", u"-iquote", u"-idirafter", u"-I", u"/I"};
+    static constexpr std::array includeOptions = {u"-isystem", u"-iquote", u"-idirafter", u"-I"};
+    const bool hasSlashOptions = !words.isEmpty() && isSlashCompiler(words.first());
     for (qsizetype i = 1; i < words.size(); ++i) {
         if (const QString define = optionValue(words, i, u"-D"); !define.isEmpty()) {
             unit.defines += define;
@@ -61,6 +75,9 @@ void readOptions(const QStringList& words, const QString& directory, SourceUnit&
                 unit.includeFolders += below(directory, folder);
                 break;
             }
+        }
+        if (const QString folder = hasSlashOptions ? optionValue(words, i, u"/I") : QString(); !folder.isEmpty()) {
+            unit.includeFolders += below(directory, folder);
         }
     }
 }
@@ -95,10 +112,7 @@ SourceUnit readEntry(const QJsonValue& value, const QString& fileName, const QSt
 SourceUnits readCompileDatabase(const QString& fileName)
 {
     QFile file(fileName);
-    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
-        throw Failure{u"%1: can not be read (%2). Name an existing compilation database."_s.arg(
-            fileName, file.error() == QFile::NoError ? u"it is not a file"_s : file.errorString())};
-    }
+    openText(file, u"compilation database"_s);
     const QByteArray text = file.readAll();
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);

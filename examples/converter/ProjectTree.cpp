@@ -4,7 +4,6 @@
 #include "Failure.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QMap>
 #include <QSet>
@@ -30,7 +29,12 @@ QString commonFolder(const QStringList& files)
     QString common = folderOf(files.first());
     for (const QString& file : files) {
         while (!isBelow(file, common)) {
-            common = folderOf(common);
+            const QString parent = folderOf(common);
+            if (parent == common) {
+                throw Failure{
+                    u"%1 and %2 have no folder in common. Convert them separately."_s.arg(files.first(), file)};
+            }
+            common = parent;
         }
     }
     return common;
@@ -79,7 +83,7 @@ ProjectTree ProjectTree::build(const SourceUnits& units, const Arguments& argume
             ++tree.otherLanguage;
             continue;
         }
-        if (!QFile::exists(unit.path)) {
+        if (!QFileInfo(unit.path).isFile()) {
             tree.missing += unit.path;
             if (!arguments.keepMissing) {
                 continue;

@@ -108,6 +108,16 @@ private:
     QString text;
 };
 
+QString oneLine(const QString& option)
+{
+    if (option.contains(u'\n') || option.contains(u'\r')) {
+        throw Failure{
+            u"%1: this include folder or define holds a line break, which an option file can not. Change it."_s.arg(
+                QString(option).replace(u'\n', u' '))};
+    }
+    return option;
+}
+
 QString optionsText(const ProjectTree& tree, const Arguments& arguments)
 {
     QString text = optionsHeader + u'\n';
@@ -115,10 +125,10 @@ QString optionsText(const ProjectTree& tree, const Arguments& arguments)
         text += u"-via \"%1\"\n"_s.arg(arguments.analyserPersonality);
     }
     for (const QString& folder : tree.includeFolders) {
-        text += u"-i \"%1\"\n"_s.arg(folder);
+        text += u"-i \"%1\"\n"_s.arg(oneLine(folder));
     }
     for (const QString& define : tree.defines) {
-        text += u"-d %1\n"_s.arg(define);
+        text += u"-d %1\n"_s.arg(oneLine(define));
     }
     return text;
 }

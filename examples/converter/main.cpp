@@ -30,8 +30,14 @@ SourceUnits readSources(const Arguments& arguments)
         print(stdout, u"Searching "_s + arguments.sourceFolder);
         const QStringList usual =
             arguments.forC ? QStringList{u"c"_s} : QStringList{u"cpp"_s, u"cc"_s, u"cxx"_s, u"c"_s};
-        return scanFolder(arguments.sourceFolder, arguments.extensions.isEmpty() ? usual : arguments.extensions,
-                          arguments.exclude);
+        QStringList unreadable;
+        SourceUnits units =
+            scanFolder(arguments.sourceFolder, arguments.extensions.isEmpty() ? usual : arguments.extensions,
+                       arguments.exclude, unreadable);
+        for (const QString& folder : std::as_const(unreadable)) {
+            print(stdout, u"warning: %1 may not be read and is left out"_s.arg(folder));
+        }
+        return units;
     }
     print(stdout, u"Reading "_s + arguments.fileList);
     return readFileList(arguments.fileList);

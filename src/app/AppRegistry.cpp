@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QScopedValueRollback>
 #include <QTemporaryFile>
 #include <QTextStream>
 #include <QTranslator>
@@ -29,9 +30,12 @@ constexpr int shutDownWaitMs = 30000;
 // A bare name was found through PATH, so it says nothing about the folder.
 QString executablePath(const QString& argument)
 {
-    return QDir::fromNativeSeparators(argument).contains(u'/') || QFileInfo::exists(argument)
-               ? argument
-               : QCoreApplication::applicationFilePath();
+#ifdef Q_OS_WIN
+    const bool isPath = argument.contains(u'\\') || argument.contains(u'/') || QFileInfo::exists(argument);
+#else
+    const bool isPath = argument.contains(u'/');
+#endif
+    return isPath ? argument : QCoreApplication::applicationFilePath();
 }
 
 } // namespace
@@ -178,10 +182,12 @@ QString AppRegistry::CreateTempFileName(const QString& suffix)
 
 void AppRegistry::ShutDown()
 {
-    closingDown = true;
-    const QList<ChildProcess*> children = childProcesses;
-    for (ChildProcess* child : children) {
-        child->stop(shutDownWaitMs);
+    {
+        const QScopedValueRollback guard(closingDown, true);
+        const QList<ChildProcess*> children = childProcesses;
+        for (ChildProcess* child : children) {
+            child->stop(shutDownWaitMs);
+        }
     }
     for (const auto& file : tempFiles) {
         file->remove();

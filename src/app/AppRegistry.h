@@ -72,7 +72,7 @@ public:
     QStringList cppOnlyOptions;
     const QSettings::Scope settingsScope = QSettings::SystemScope;
     bool traceOn = false;
-    /// Set by ShutDown: what ends from now on was ended by us.
+    /// Set while ShutDown stops the children: what ends then was ended by us.
     bool closingDown = false;
     std::unique_ptr<QTextStream> traceStream;
     QString wendleToolsFileName = QStringLiteral("wendleTools.xml");

@@ -42,10 +42,19 @@ void StringValues::readDocument(const QByteArray& document)
             continue;
         }
         const QString name = xml.name().toString();
-        if (const auto text = texts.constFind(name); text != texts.cend()) {
-            this->*text.value() = xml.readElementText();
-        } else if (const auto list = lists.constFind(name); list != lists.cend()) {
-            this->*list.value() = {xml.readElementText()};
+        const auto text = texts.constFind(name);
+        const auto list = lists.constFind(name);
+        if (text == texts.cend() && list == lists.cend()) {
+            continue;
+        }
+        const QString value = xml.readElementText();
+        if (xml.hasError()) {
+            break;
+        }
+        if (text != texts.cend()) {
+            this->*text.value() = value;
+        } else {
+            this->*list.value() = {value};
         }
     }
 }

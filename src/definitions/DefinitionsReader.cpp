@@ -156,7 +156,12 @@ void KOVRASettingsFile::ReadFile(const QString& name)
     reportsPages.clear();
     applicationPages.clear();
     lastError = {};
-    if (!QFileInfo(located).isFile() || !file.open(QIODevice::ReadOnly)) {
+    const QFileInfo info(located);
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+        appRegistry->Trace(u"KOVRASettingsFile::ReadFile: "_s,
+                           located + (!info.exists()   ? u": it does not exist"_s
+                                      : !info.isFile() ? u": it is not a file"_s
+                                                       : u": "_s + file.errorString()));
         return;
     }
     const QByteArray document = file.readAll();

@@ -5,15 +5,24 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
-AssistantClient::AssistantClient(QObject* parent)
+namespace {
+
+constexpr qsizetype keptOutput = 2048;
+
+} // namespace
+
+AssistantClient::AssistantClient(const QString& path, QObject* parent)
     : QObject(parent)
+    , viewerPath(path)
 {
     connect(&viewer, &QProcess::errorOccurred, this, &AssistantClient::viewerFailed);
     viewer.setProcessChannelMode(QProcess::MergedChannels);
-    // Nobody reads it, and a full pipe would stop the viewer.
-    connect(&viewer, &QProcess::readyRead, this, [this] { viewer.readAll(); });
+    connect(&viewer, &QProcess::readyRead, this, &AssistantClient::readOutput);
+    connect(&viewer, &QProcess::finished, this, &AssistantClient::viewerEnded);
 }
 
 AssistantClient::~AssistantClient()
@@ -39,9 +48,27 @@ QString AssistantClient::program()
 void AssistantClient::showPage(const QUrl& page)
 {
     if (viewer.state() == QProcess::NotRunning) {
-        viewer.start(program(), QStringList{u"-enableRemoteControl"_s} + arguments);
+        output.clear();
+        viewer.start(viewerPath.isEmpty() ? program() : viewerPath, QStringList{u"-enableRemoteControl"_s} + arguments);
     }
     viewer.write("setSource " + page.toEncoded() + '\n');
+}
+
+void AssistantClient::readOutput()
+{
+    output += viewer.readAll();
+    output = output.last(std::min(keptOutput, output.size()));
+}
+
+// A viewer that does not accept its profile starts well and leaves with a complaint.
+void AssistantClient::viewerEnded(int exitCode, QProcess::ExitStatus status)
+{
+    if (closing || status != QProcess::NormalExit || exitCode == 0) {
+        return;
+    }
+    readOutput();
+    Q_EMIT error(tr("The help viewer %1 has ended with an error: %2")
+                     .arg(viewer.program(), QString::fromLocal8Bit(output).trimmed()));
 }
 
 void AssistantClient::viewerFailed(QProcess::ProcessError reason)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QProcess>
 #include <QString>
@@ -13,7 +14,8 @@ class AssistantClient : public QObject
     Q_OBJECT
 
 public:
-    explicit AssistantClient(QObject* parent = nullptr);
+    /// Drives the viewer at this path; an empty path is looked up.
+    explicit AssistantClient(const QString& path = {}, QObject* parent = nullptr);
     ~AssistantClient() override;
 
     /// Where Assistant is installed; empty where it is not.
@@ -28,8 +30,13 @@ Q_SIGNALS:
 
 private:
     void viewerFailed(QProcess::ProcessError reason);
+    void viewerEnded(int exitCode, QProcess::ExitStatus status);
+    void readOutput();
 
+    QString viewerPath;
     QProcess viewer;
+    /// The end of what the viewer said.
+    QByteArray output;
     QStringList arguments;
     bool closing = false;
 };

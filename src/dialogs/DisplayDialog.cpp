@@ -29,8 +29,8 @@ qsizetype portionEnd(const QString& text, qsizetype from, qsizetype size)
     if (text.size() - from <= size) {
         return text.size();
     }
-    const qsizetype lineEnd = text.lastIndexOf(u'\n', from + size);
-    return lineEnd > from ? lineEnd + 1 : from + size;
+    const qsizetype lineEnd = QStringView(text).sliced(from, size).lastIndexOf(u'\n');
+    return lineEnd >= 0 ? from + lineEnd + 1 : from + size;
 }
 
 QString withShortLines(QStringView text)
@@ -41,7 +41,7 @@ QString withShortLines(QStringView text)
     for (const QChar character : text) {
         lineLength = character == u'\n' ? 0 : lineLength + 1;
         result += character;
-        if (lineLength == longestLine) {
+        if (lineLength >= longestLine && !character.isHighSurrogate()) {
             result += u'\n';
             lineLength = 0;
         }

@@ -16,6 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// How many entries may pass before the listener hears of it.
+constexpr int entriesPerSign = 256;
+
 bool isPlainSuffix(QStringView pattern)
 {
     const auto isSpecial = [](QChar character) {
@@ -94,7 +97,10 @@ bool FileSearch::list(const QString& folder, Listener& listener, std::vector<QSt
     if (!stream) {
         return true;
     }
-    while (const dirent* entry = ::readdir(stream.get())) {
+    for (int seen = 1; const dirent* entry = ::readdir(stream.get()); ++seen) {
+        if (seen % entriesPerSign == 0 && !listener.keepAlive()) {
+            return false;
+        }
         if (entry->d_name[0] == '.') {
             continue;
         }
@@ -120,7 +126,11 @@ bool FileSearch::list(const QString& folder, Listener& listener, std::vector<QSt
 {
     const QFileInfoList entries =
         QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::NoSort);
+    int seen = 0;
     for (const QFileInfo& entry : entries) {
+        if (++seen % entriesPerSign == 0 && !listener.keepAlive()) {
+            return false;
+        }
         if (entry.isDir()) {
             subFolders.push_back(entry.absoluteFilePath());
         } else if (matches(entry.fileName())) {

@@ -19,6 +19,8 @@ public:
         virtual void folderEntered(const QString& absolutePath) = 0;
         /// Called for every matching file and every subfolder; false ends the search.
         virtual bool goOn() = 0;
+        /// Called now and then for what does not match; false ends the search.
+        virtual bool keepAlive() { return true; }
         virtual void fileFound(const QString& absolutePath) = 0;
     };
 

@@ -43,6 +43,11 @@ public:
     bool goOn() override
     {
         ++count;
+        return keepAlive();
+    }
+
+    bool keepAlive() override
+    {
         if (sinceUpdate.elapsed() >= updateIntervalMs) {
             update();
         }
@@ -60,7 +65,7 @@ public:
 private:
     void update()
     {
-        label.setText(QObject::tr("searching:") + folder);
+        label.setText(FindDialog::tr("searching:") + folder);
         list.addItems(found);
         found.clear();
         // Lets the window paint and the user press Stop.

@@ -7,6 +7,7 @@
 using namespace Qt::StringLiterals;
 
 HelpCollection::HelpCollection(const QString& profile)
+    : folder(QFileInfo(profile).absolutePath())
 {
     if (!profile.endsWith(".qhc"_L1) || !QFileInfo(profile).isFile()) {
         return;
@@ -22,13 +23,14 @@ HelpCollection::~HelpCollection() = default;
 
 QUrl HelpCollection::find(const QString& pagePath) const
 {
-    const QString name = QFileInfo(pagePath).fileName();
+    const QString name = folder.relativeFilePath(pagePath);
     if (engine) {
         const QStringList documents = engine->registeredDocumentations();
         for (const QString& document : documents) {
             const QList<QUrl> pages = engine->files(document, QString());
             for (const QUrl& page : pages) {
-                if (page.fileName() == name) {
+                // An address is made of the collection's virtual folder and the page's path.
+                if (page.path().section(u'/', 2) == name) {
                     return page;
                 }
             }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QString>
 #include <QUrl>
 
@@ -16,10 +17,12 @@ public:
     explicit HelpCollection(const QString& profile);
     ~HelpCollection();
 
-    /// Where a page is shown from: its address inside the collection, else the file's; empty when it is in neither.
+    /// Where a page, named by its path as if it lay beside the profile, is shown from: its address inside the
+    /// collection, else the file's; empty when it is in neither.
     QUrl find(const QString& pagePath) const;
     QByteArray contents(const QUrl& page) const;
 
 private:
+    QDir folder;
     std::unique_ptr<QHelpEngineCore> engine;
 };

@@ -19,7 +19,7 @@ QString HelpManager::currentHelpPage = u"genericApplication.htm"_s;
 
 HelpManager::HelpManager(QObject* parent)
     : QObject(parent)
-    , assistant(new AssistantClient(this))
+    , assistant(new AssistantClient({}, this))
 {
     assistant->setArguments({appRegistry->installValues.helpProfileStr, profile()});
     if (parent) {
@@ -65,7 +65,8 @@ void HelpManager::slt_showHelp(QString helpPage, bool fullPath)
     if (!collection) {
         collection = std::make_unique<HelpCollection>(profile());
     }
-    const QUrl url = collection->find(page);
+    const QUrl address(page);
+    const QUrl url = address.scheme() == "qthelp"_L1 ? address : collection->find(page);
     if (url.isEmpty()) {
         slt_showError(tr("The help page %1 is not there. Install the suite's help again.").arg(page));
         return;
@@ -75,7 +76,8 @@ void HelpManager::slt_showHelp(QString helpPage, bool fullPath)
 
 void HelpManager::show(const QUrl& page)
 {
-    if (!AssistantClient::program().isEmpty()) {
+    // Assistant shows an empty page for a file outside its collections.
+    if (page.scheme() == "qthelp"_L1 && !AssistantClient::program().isEmpty()) {
         assistant->showPage(page);
         return;
     }

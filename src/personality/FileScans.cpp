@@ -7,12 +7,14 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestText = 64LL * 1024 * 1024;
+// Personalities and metrics are small; of anything larger the beginning decides.
+constexpr qint64 largestText = 8LL * 1024 * 1024;
 
 constexpr std::array cMetricNames = {"<S>STAV1", "<S>STAV2", "<S>STAV3", "<S>STBAK", "<S>STBME",
                                      "<S>STBMO", "<S>STBMS", "<S>STBUG", "<S>STCAL"};
@@ -28,25 +30,36 @@ QByteArray readText(const QString& path)
     return file.read(largestText);
 }
 
-// Folded once, so that every entry is a plain search in the same text.
-QString readFolded(const QString& path)
-{
-    return QString::fromLocal8Bit(readText(path)).toCaseFolded();
-}
-
 bool isSetting(QStringView text, qsizetype at)
 {
     return at < text.size() && (text[at] == u'+' || text[at] == u'-' || text[at] == u' ');
 }
 
-bool containsSetting(QStringView text, QStringView option)
+// One pass over the text, stopping at its hyphens: a search for each of the options would read it 92 times.
+bool mentionsAny(QStringView text, const QStringList& options, bool onlySettings)
 {
-    for (qsizetype at = text.indexOf(option); at >= 0; at = text.indexOf(option, at + 1)) {
-        if (isSetting(text, at + option.size())) {
-            return true;
+    std::array<std::vector<QStringView>, 128> byLetter;
+    for (const QString& option : options) {
+        byLetter[option[1].unicode()].push_back(option);
+    }
+    for (qsizetype at = text.indexOf(u'-'); at >= 0 && at + 1 < text.size(); at = text.indexOf(u'-', at + 1)) {
+        const char16_t letter = text[at + 1].toCaseFolded().unicode();
+        if (letter >= byLetter.size()) {
+            continue;
+        }
+        for (const QStringView option : byLetter[letter]) {
+            if (text.sliced(at).startsWith(option, Qt::CaseInsensitive) &&
+                (!onlySettings || isSetting(text, at + option.size()))) {
+                return true;
+            }
         }
     }
     return false;
+}
+
+QString decoded(const QString& path)
+{
+    return QString::fromLocal8Bit(readText(path));
 }
 
 template <size_t count>
@@ -59,16 +72,12 @@ bool containsAny(const QByteArray& text, const std::array<const char*, count>& n
 
 bool FileScans::mentionsCOnlyOption(const QString& path)
 {
-    const QString text = readFolded(path);
-    return std::ranges::any_of(OptionTables::cOnlyOptions(),
-                               [&](const QString& option) { return containsSetting(text, option); });
+    return mentionsAny(decoded(path), OptionTables::cOnlyOptions(), true);
 }
 
 bool FileScans::mentionsCppOnlyOption(const QString& path)
 {
-    const QString text = readFolded(path);
-    return std::ranges::any_of(OptionTables::cppOnlyOptions(),
-                               [&](const QString& option) { return text.contains(option); });
+    return mentionsAny(decoded(path), OptionTables::cppOnlyOptions(), false);
 }
 
 bool FileScans::hasCMetrics(const QString& path)

@@ -2,7 +2,13 @@
 #include "process/ConversionRun.h"
 #include "app/AppRegistry.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,9 +46,7 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
     decoder = QStringDecoder(QStringConverter::System);
     running = true;
     stopping = false;
-    if (QFile old(projectFile); old.exists() && !old.remove()) {
-        finish(Outcome::NotStarted,
-               tr("The old project file can not be removed: %1. Close programs that use it.").arg(old.errorString()));
+    if (!putOldFileAside()) {
         return false;
     }
     process.start(program, arguments, QIODevice::ReadWrite);
@@ -50,6 +54,7 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
         appRegistry->Trace(program + u' ' + arguments.join(u' '));
     }
     if (process.waitForStarted(startWaitMs)) {
+        forgetOldFile();
         // Nobody answers a converter that asks: it shall see the end of its input instead of waiting for ever.
         process.closeWriteChannel();
         return true;
@@ -59,6 +64,33 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
         finish(Outcome::NotStarted, tr("%1: %2").arg(program, process.errorString()));
     }
     return false;
+}
+
+// It must not be taken for the result, but it is the user's until the conversion really runs.
+bool ConversionRun::putOldFileAside()
+{
+    QFile old(projectFileName);
+    if (!old.exists()) {
+        return true;
+    }
+    const QString aside = u"%1.old-%2"_s.arg(projectFileName).arg(QCoreApplication::applicationPid());
+    QFile::remove(aside);
+    const bool isFile = QFileInfo(projectFileName).isFile();
+    if (!isFile || !old.rename(aside)) {
+        const QString reason = isFile ? old.errorString() : tr("it is not a file");
+        finish(Outcome::NotStarted,
+               tr("The old project file can not be removed: %1. Close programs that use it.").arg(reason));
+        return false;
+    }
+    oldFile = aside;
+    return true;
+}
+
+void ConversionRun::forgetOldFile()
+{
+    if (!oldFile.isEmpty()) {
+        QFile::remove(std::exchange(oldFile, {}));
+    }
 }
 
 void ConversionRun::stop()
@@ -83,7 +115,8 @@ void ConversionRun::processFinished()
     if (!running) {
         return;
     }
-    if (stopping) {
+    // A converter that ends politely when the program closes has not done its work either.
+    if (stopping || (appRegistry && appRegistry->closingDown)) {
         finish(Outcome::Stopped, tr("The conversion was stopped."));
     } else if (process.exitStatus() != QProcess::NormalExit || process.error() != QProcess::UnknownError) {
         finish(Outcome::Failed, process.errorString());
@@ -110,6 +143,9 @@ void ConversionRun::finish(Outcome outcome, const QString& detail)
     detailText = detail;
     if (outcome == Outcome::Failed || outcome == Outcome::Stopped) {
         QFile::remove(projectFileName);
+    }
+    if (!oldFile.isEmpty()) {
+        QFile::rename(std::exchange(oldFile, {}), projectFileName);
     }
     Q_EMIT ended(outcome);
 }

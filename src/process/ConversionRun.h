@@ -27,7 +27,8 @@ public:
     explicit ConversionRun(QObject* parent = nullptr);
     ~ConversionRun() override;
 
-    /// Removes an old project file and starts the program; false when that failed, with the end already reported.
+    /// Starts the program and removes an old project file, which stays when the program can not be started; false then,
+    /// with the end already reported.
     bool start(const QString& program, const QStringList& arguments, const QString& projectFile);
     /// Stops the program with its children and removes a half-made project file.
     void stop();
@@ -45,6 +46,8 @@ Q_SIGNALS:
     void ended(ConversionRun::Outcome outcome);
 
 private:
+    bool putOldFileAside();
+    void forgetOldFile();
     void processFinished();
     void processFailed(QProcess::ProcessError error);
     void finish(Outcome outcome, const QString& detail);
@@ -53,6 +56,8 @@ private:
     QStringDecoder decoder;
     QString projectFileName;
     QString detailText;
+    /// Where the old project file waits for the program's start.
+    QString oldFile;
     Outcome result = Outcome::NotStarted;
     bool running = false;
     bool stopping = false;

@@ -7,7 +7,7 @@
 namespace {
 
 // A program that never ends its line must not fill the memory.
-constexpr qsizetype longestLine = 16 * 1024;
+constexpr qsizetype longestLine = 4 * 1024;
 
 } // namespace
 
@@ -52,14 +52,17 @@ void OutputBuffer::addLine(QString line)
     lines += std::move(line);
 }
 
-QStringList OutputBuffer::take(qsizetype maximum)
+QStringList OutputBuffer::take(qsizetype maximum, qsizetype characters)
 {
     if (lines.size() > keptLines) {
         const qsizetype surplus = lines.size() - keptLines;
         lines.remove(0, surplus);
         dropped += surplus;
     }
-    const qsizetype count = std::min(maximum, lines.size());
+    qsizetype count = 0;
+    while (count < std::min(maximum, lines.size()) && characters > 0) {
+        characters -= lines[count++].size() + 1;
+    }
     QStringList taken = lines.first(count);
     lines.remove(0, count);
     if (lines.isEmpty() && !partial.isEmpty()) {

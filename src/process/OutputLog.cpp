@@ -4,6 +4,7 @@
 void OutputLog::start(const QString& fileName)
 {
     finish();
+    cut = false;
     file.setFileName(fileName);
     if (fileName.isEmpty() || !file.open(QIODevice::WriteOnly)) {
         file.setFileName(QString());
@@ -12,9 +13,11 @@ void OutputLog::start(const QString& fileName)
 
 void OutputLog::append(const QString& text)
 {
-    if (file.isOpen() && file.pos() < largestSize) {
-        file.write(text.toLocal8Bit());
+    if (!file.isOpen()) {
+        return;
     }
+    const QByteArray bytes = text.toLocal8Bit();
+    cut = cut || file.pos() >= largestSize || file.write(bytes) != bytes.size();
 }
 
 void OutputLog::finish()

@@ -17,7 +17,10 @@ public:
     void finish();
     /// Empty when nothing could be kept.
     QString fileName() const { return file.fileName(); }
+    /// True when the log does not hold all: it is too long, or the disk is full.
+    bool isCut() const { return cut; }
 
 private:
     QFile file;
+    bool cut = false;
 };

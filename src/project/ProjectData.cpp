@@ -37,7 +37,9 @@ SourceEntry::SourceEntry(const QString& line, const ProjectData& project)
     : ownerProject(&project)
 {
     const QString text = QDir::fromNativeSeparators(line);
-    source = QDir::isAbsolutePath(text) ? text : joined(project.sourceFolder(), text);
+    source = text.isEmpty()               ? project.sourceFolder()
+             : QDir::isAbsolutePath(text) ? text
+                                          : joined(project.sourceFolder(), text);
     if (needsCleaning(text)) {
         source = QDir::cleanPath(source);
     }

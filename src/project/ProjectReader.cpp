@@ -37,8 +37,10 @@ bool ProjectReader::read()
 
 bool ProjectReader::nextLine()
 {
-    if (broken || !stream.readLineInto(&line, longestLine) || line.size() >= longestLine) {
+    // A device that can not be read further is not at its end.
+    if (ended || !stream.readLineInto(&line, longestLine) || line.size() >= longestLine) {
         broken = broken || line.size() >= longestLine;
+        ended = true;
         line = QString();
         return false;
     }
@@ -83,7 +85,7 @@ void ProjectReader::readUnversionedBody(ProjectData& project)
     project.setOutputDir(nextText());
     project.setSourceDir(nextText());
     // The line at the end of the file is never a source.
-    for (nextLine(); !broken && !stream.atEnd() && line != filesEnd; nextLine()) {
+    for (nextLine(); !ended && !stream.atEnd() && line != filesEnd; nextLine()) {
         project.files.emplaceBack(line, project);
     }
     project.messagePersonality = nextText();
@@ -101,7 +103,7 @@ void ProjectReader::readVersionedBody(ProjectData& project)
     project.compilerPersonality = nextValue();
     nextLine();
     takeAnnotations();
-    while (!broken && !stream.atEnd() && line != filesEnd) {
+    while (!ended && !stream.atEnd() && line != filesEnd) {
         project.files.emplaceBack(line, project);
         nextLine();
         takeAnnotations();
@@ -120,7 +122,7 @@ void ProjectReader::readNested(ProjectData& rootProject)
 {
     ProjectData* current = &rootProject;
     ProjectData* cursor = nullptr;
-    while (!broken && !stream.atEnd()) {
+    while (!ended && !stream.atEnd()) {
         if (line == nestedStart) {
             cursor = current;
         } else if (line == nestedEnd) {

@@ -41,5 +41,7 @@ private:
     /// The current line; null past the end.
     QString line;
     bool versioned = false;
+    /// Nothing more is read: the end, a failure, or a line that is too long.
+    bool ended = false;
     bool broken = false;
 };

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 bool ProjectTarget::createFolder(const QString& folder)
 {
@@ -11,7 +12,9 @@ bool ProjectTarget::createFolder(const QString& folder)
 
 bool ProjectTarget::isWritable(const QString& file)
 {
-    QFile probe(file);
+    // Of a link that points nowhere yet, its target is made and removed again, not the link.
+    const QFileInfo info(file);
+    QFile probe(info.isSymLink() ? info.symLinkTarget() : file);
     const bool existed = probe.exists();
     if (!probe.open(QIODevice::ReadWrite)) {
         return false;

@@ -22,6 +22,7 @@ namespace {
 constexpr auto flushInterval = 30ms;
 // What one flush may insert without the window's stalling being felt.
 constexpr int linesPerFlush = 500;
+constexpr int charactersPerFlush = 64 * 1024;
 
 } // namespace
 
@@ -39,6 +40,8 @@ ActionPage::ActionPage(ApplicationWindow* owner)
     progressBar->setRange(0, 0);
     progressBar->setValue(1);
     stopButton->setToolTip(tr("Stop the conversion program and everything it started"));
+    statusLabel->setBuddy(progressBar);
+    progressBar->setAccessibleName(tr("Progress of the conversion"));
     outputView->setAccessibleName(tr("Output of the conversion"));
     logLabel->setTextFormat(Qt::PlainText);
     logLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -50,6 +53,9 @@ ActionPage::ActionPage(ApplicationWindow* owner)
     grid->addWidget(stopButton, 1, 1);
     grid->addWidget(outputView, 2, 0, 1, 2);
     grid->addWidget(logLabel, 3, 0, 1, 2);
+    // Nobody shall stop the conversion by pressing Enter once too often.
+    stopButton->setAutoDefault(false);
+    setTabOrder(outputView, stopButton);
 
     flushTimer.setInterval(flushInterval);
     connect(&flushTimer, &QTimer::timeout, this, &ActionPage::flushOutput);
@@ -79,6 +85,8 @@ void ActionPage::initializePage()
 void ActionPage::showRunning()
 {
     finished = false;
+    // Of an earlier run; the wizard must not offer the next page on its account.
+    window->conversionDone = false;
     setSubTitle(tr("Conversion in progress..."));
     statusLabel->setText(tr("Converting Project Progress:"));
     progressBar->show();
@@ -86,6 +94,7 @@ void ActionPage::showRunning()
     logLabel->hide();
     outputView->clear();
     buffer.clear();
+    shownLines = 0;
     outputView->appendLines({tr("Conversion Started\n")});
 }
 
@@ -115,13 +124,14 @@ void ActionPage::ReadReady()
 
 void ActionPage::flushOutput()
 {
-    const QStringList lines = buffer.take(linesPerFlush);
+    const QStringList lines = buffer.take(linesPerFlush, charactersPerFlush);
+    shownLines += lines.size();
     const qint64 dropped = buffer.takeDropped();
     if (dropped > 0) {
         outputView->appendLines({tr("[%n line(s) not shown]", nullptr, int(std::min<qint64>(dropped, INT_MAX)))});
-        logLabel->setText(
-            tr("Complete output, until the wizard is closed: %1").arg(QDir::toNativeSeparators(log.fileName())));
-        logLabel->setVisible(!log.fileName().isEmpty());
+    }
+    if (dropped > 0 || shownLines > OutputView::keptLines) {
+        nameLog();
     }
     outputView->appendLines(lines);
     if (buffer.isEmpty()) {
@@ -130,6 +140,14 @@ void ActionPage::flushOutput()
             showEnd();
         }
     }
+}
+
+void ActionPage::nameLog()
+{
+    const QString text = log.isCut() ? tr("Output, without its end, until the wizard is closed: %1")
+                                     : tr("Complete output, until the wizard is closed: %1");
+    logLabel->setText(text.arg(QDir::toNativeSeparators(log.fileName())));
+    logLabel->setVisible(!log.fileName().isEmpty());
 }
 
 void ActionPage::ProcessComplete()

@@ -35,6 +35,8 @@ public Q_SLOTS:
 private:
     void showRunning();
     void flushOutput();
+    /// Says where the whole output is, once the view does not hold all of it.
+    void nameLog();
     void showEnd();
     void ConversionFinished(const QString& message, bool ok, const QString& colour);
     QString endMessage(ConversionRun::Outcome outcome) const;
@@ -48,6 +50,7 @@ private:
     ConversionRun run;
     OutputBuffer buffer;
     OutputLog log;
+    qint64 shownLines = 0;
     QTimer flushTimer;
     bool finished = false;
     /// The program has ended, some of its output is not shown yet.

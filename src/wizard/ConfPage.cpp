@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -167,7 +168,8 @@ void ConfPage::MPersonalityChanged(QString fileName)
 
 void ConfPage::accept(SelectFileWidgets& field, QString& stateField, const QString& fileName)
 {
-    if (!FileScans::isForOtherAnalyser(fileName, window->isORVC)) {
+    // What comes back after a refusal is not judged again: it may be wrong itself, and one box is enough.
+    if (restoring || !FileScans::isForOtherAnalyser(fileName, window->isORVC)) {
         stateField = field.lineEdit()->text();
         return;
     }
@@ -175,6 +177,7 @@ void ConfPage::accept(SelectFileWidgets& field, QString& stateField, const QStri
         window, tr("Incorrect Configuration File Selected"),
         tr("A %1 configuration file can not be selected when using the %2 analyser")
             .arg(ApplicationWindow::AnalyserName(!window->isORVC), ApplicationWindow::AnalyserName(window->isORVC)));
+    const QScopedValueRollback guard(restoring, true);
     field.lineEdit()->setText(stateField);
 }
 

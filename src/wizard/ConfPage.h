@@ -45,4 +45,5 @@ private:
     QWidget* complianceBox = nullptr;
     /// Says which file Next is waiting for.
     QLabel* hint;
+    bool restoring = false;
 };

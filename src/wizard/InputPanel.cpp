@@ -94,8 +94,9 @@ private:
             definition.lineEdit = field->lineEdit();
             if (isFile) {
                 definition.fileWidgets = field;
-                definition.widgets += field->frame();
             }
+            // With it the buttons of a hidden field go.
+            definition.widgets += field->frame();
             if (!isFile || presetExists) {
                 field->SetValue(start);
             }

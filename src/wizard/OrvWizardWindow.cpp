@@ -37,6 +37,7 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     connect(this, &QWizard::customButtonClicked, this, &OrvWizardWindow::CustomButtonClicked);
     connect(this, &QWizard::helpRequested, this, &OrvWizardWindow::ShowHelp);
     connect(this, &QDialog::finished, this, &OrvWizardWindow::Finished);
+    connect(this, &QWizard::currentIdChanged, this, &OrvWizardWindow::focusPage);
     resize(appRegistry->windowSize);
     move(appRegistry->windowPos);
 }
@@ -51,7 +52,7 @@ bool OrvWizardWindow::validateCurrentPage()
 
 void OrvWizardWindow::reject()
 {
-    if (confirmInterruption()) {
+    if (confirmInterruption() && confirmStop()) {
         QWizard::reject();
     }
 }
@@ -76,7 +77,7 @@ void OrvWizardWindow::ShowHelp()
 void OrvWizardWindow::Finished(int result)
 {
     if (result == QDialog::Rejected) {
-        appRegistry->ShutDown();
+        stopChildren();
     } else if (!keepSettingsCheck || keepSettingsCheck->isChecked()) {
         saveState();
     }
@@ -87,21 +88,47 @@ void OrvWizardWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(confirmInterruption() && CanClose());
 }
 
-bool OrvWizardWindow::CanClose()
+bool OrvWizardWindow::confirmStop()
 {
     const auto& pages = appRegistry->definitions.applicationPages;
     const bool running = std::ranges::any_of(pages, [](const auto& page) { return page->ApplicationsRunning(); });
-    if (running &&
-        !MessageBox::ask(this, tr("Child Applications Still Running"),
-                         tr("Closing this application will kill child applications.\nDo you wish to close this "
-                            "application?"))) {
+    return !running || MessageBox::ask(this, tr("Child Applications Still Running"),
+                                       tr("Closing this application will kill child applications.\nDo you wish to "
+                                          "close this application?"));
+}
+
+bool OrvWizardWindow::CanClose()
+{
+    if (!confirmStop()) {
         return false;
     }
-    for (const auto& page : pages) {
+    stopChildren();
+    return true;
+}
+
+void OrvWizardWindow::stopChildren()
+{
+    for (const auto& page : appRegistry->definitions.applicationPages) {
         page->StopApplications();
     }
     appRegistry->ShutDown();
-    return true;
+}
+
+// A page that hides fields may have the focus in one of them.
+void OrvWizardWindow::focusPage()
+{
+    QWidget* page = currentPage();
+    const QWidget* focused = focusWidget();
+    if (!page || (focused && page->isAncestorOf(focused) && focused->isVisible())) {
+        return;
+    }
+    for (QWidget* widget = page->nextInFocusChain(); widget != page; widget = widget->nextInFocusChain()) {
+        if (page->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            widget->setFocus();
+            return;
+        }
+    }
 }
 
 void OrvWizardWindow::saveState()

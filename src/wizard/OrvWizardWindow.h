@@ -15,7 +15,7 @@ public:
     OrvWizardWindow(const QString& title, const QString& helpPage, QWidget* parent = nullptr);
 
     bool validateCurrentPage() override;
-    /// Asks before a running conversion is given up.
+    /// Asks before a running conversion or tool is given up.
     void reject() override;
 
 public Q_SLOTS:
@@ -39,6 +39,11 @@ protected:
 
 private:
     void saveState();
+    /// True when no launched tool runs, or the user agrees to stop them.
+    bool confirmStop();
+    void stopChildren();
+    /// Gives the focus to the current page's first visible field, unless it is in one.
+    void focusPage();
 
     HelpManager* help = nullptr;
 };

@@ -11,6 +11,8 @@ OutputView::OutputView(QWidget* parent)
     setReadOnly(true);
     setOpenLinks(false);
     setUndoRedoEnabled(false);
+    // Wrapping long lines again at every change of size would stall the window.
+    setLineWrapMode(QTextEdit::NoWrap);
     document()->setMaximumBlockCount(keptLines);
 }
 

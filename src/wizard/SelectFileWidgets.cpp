@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -17,6 +18,13 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// What a window can still show with comfort.
+constexpr qint64 largestShown = 64LL * 1024 * 1024;
+
+} // namespace
 
 SelectFileWidgets::SelectFileWidgets(const QString& fieldCaption, const QString& fileFilter, const Options& options)
     : emitEditSignal(options.emitEditSignal)
@@ -48,7 +56,7 @@ void SelectFileWidgets::createButtons()
 {
     editButton = new QPushButton(QIcon(u":/editicon.xpm"_s), QString(), frameWidget);
     editButton->setToolTip(tr("Edit the specified file"));
-    editButton->setAccessibleName(tr("Edit the specified file"));
+    editButton->setAccessibleName(tr("Edit") + u": "_s + caption);
     editButton->setEnabled(false);
     browseButton = new QPushButton(tr("&Browse..."), frameWidget);
     browseButton->setToolTip(tr("Browse the file directory structure to locate the required file"));
@@ -152,13 +160,18 @@ void SelectFileWidgets::EditFile()
         return;
     }
     QFile file(name);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Text) &&
-        !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    // A pipe or a device would never end.
+    if (!QFileInfo(name).isFile() || (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Text) &&
+                                      !file.open(QIODevice::ReadOnly | QIODevice::Text))) {
         MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not open file"));
         return;
     }
     DisplayDialog dialog(name, DisplayDialog::Text, 600, 600);
-    dialog.SetText(QString::fromLocal8Bit(file.readAll()));
+    QString text = QString::fromLocal8Bit(file.read(largestShown));
+    if (!file.atEnd()) {
+        text += u'\n' + tr("[The file is larger; only its beginning is shown]");
+    }
+    dialog.SetText(text);
     file.close();
     dialog.exec();
 }

@@ -54,6 +54,8 @@ SetProductPage::~SetProductPage() = default;
 void SetProductPage::initializePage()
 {
     (window->isORVC ? cRadio : cppRadio)->setChecked(true);
+    // Hidden first, so that it comes to the front again.
+    warningBox->hide();
     warningBox->setVisible(window->noAnalyserInstalled);
 }
 

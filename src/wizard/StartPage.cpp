@@ -55,6 +55,12 @@ StartPage::StartPage(ApplicationWindow* owner)
 
     connect(nameEdit, &QLineEdit::textChanged, this, &StartPage::completeChanged);
     connect(location.lineEdit(), &QLineEdit::textChanged, this, &StartPage::completeChanged);
+    connect(typeCombo, &QComboBox::currentIndexChanged, this, [this] {
+        // Undecided until Next is pressed.
+        window->projectCreator = nullptr;
+        window->analyserFixed = false;
+        updateButtons();
+    });
 }
 
 void StartPage::fillTypes()
@@ -89,9 +95,16 @@ bool StartPage::validatePage()
     window->fileDir = location.lineEdit()->text();
     window->conversion = typeCombo->currentText();
     window->decideAnalyser(appRegistry->cInstallDir, appRegistry->cppInstallDir);
-    // Whether another page follows depends on these choices, and with it the button: Next or Finish.
-    Q_EMIT completeChanged();
+    updateButtons();
     return makeFolder() && checkProjectFile();
+}
+
+// Whether another page follows depends on the choices, and with it the button: Next or Finish. The wizard asks for that
+// only when a page is entered or declared final.
+void StartPage::updateButtons()
+{
+    setFinalPage(false);
+    Q_EMIT completeChanged();
 }
 
 bool StartPage::makeFolder()

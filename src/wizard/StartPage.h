@@ -22,6 +22,7 @@ public:
 
 private:
     void fillTypes();
+    void updateButtons();
     bool makeFolder();
     bool checkProjectFile();
 

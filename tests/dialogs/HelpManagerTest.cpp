@@ -8,6 +8,7 @@
 #include "TestMain.h"
 #include "wizard/ApplicationWindow.h"
 
+#include <QLineEdit>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -43,11 +44,12 @@ private Q_SLOTS:
     {
         StringValues values;
         values.readDocument("<any><deep><wendleHelpDir>h</wendleHelpDir></deep><zipFileExts>a</zipFileExts>"
-                            "<zipFileExts>b c</zipFileExts><tarFilename>gtar</tarFilename><broken>");
+                            "<zipFileExts>b c</zipFileExts><tarFilename>gtar</tarFilename><helpProfileStr>cut sh");
         QCOMPARE(values.helpDir, u"h"_s);
         QCOMPARE(values.helpFile, u"wendle.adp"_s);
         QCOMPARE(values.zipFileExts, QStringList{u"b c"_s});
         QCOMPARE(values.tarFilename, u"gtar"_s);
+        QCOMPARE(values.helpProfileStr, u"-profile"_s);
     }
 
     void isAvailableWithAProfile()
@@ -66,12 +68,14 @@ private Q_SLOTS:
         Installation suite;
         installHelp(suite);
         const HelpCollection collection(suite.path(u"help/projectCreation.qhc"_s));
-        const QUrl page = collection.find(u"/any/configuration.htm"_s);
+        const QUrl page = collection.find(suite.path(u"help/configuration.htm"_s));
         QCOMPARE(page, QUrl(u"qthelp://org.kovra.projectcreation/help/configuration.htm"_s));
         QVERIFY(collection.contents(page).contains("Incorrect Configuration File Selected"));
         const QString own = suite.write(u"help/own.htm"_s, "<p>own</p>");
         QCOMPARE(collection.find(own), QUrl::fromLocalFile(own));
         QVERIFY(collection.find(u"/nowhere.htm"_s).isEmpty());
+        const QString namesake = suite.write(u"other/configuration.htm"_s, "<p>other</p>");
+        QCOMPARE(collection.find(namesake), QUrl::fromLocalFile(namesake));
         // A broken profile still leaves the files.
         const HelpCollection broken(suite.write(u"help/broken.qhc"_s, "not a collection"));
         QCOMPARE(broken.find(own), QUrl::fromLocalFile(own));
@@ -90,8 +94,10 @@ private Q_SLOTS:
         ApplicationWindow window(u"t"_s, u"missing page.htm"_s, {});
         window.show();
         const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
-        // From the first press, and once per press.
-        QTest::keyClick(&window, Qt::Key_F1);
+        // From the first press, and once per press, wherever the focus is.
+        auto* field = window.currentPage()->findChild<QLineEdit*>();
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_F1);
         QCOMPARE(boxes.texts.size(), 1);
         QVERIFY(boxes.texts.first().startsWith("Assistant Error|The help page "_L1));
         window.ShowHelp();
@@ -99,11 +105,39 @@ private Q_SLOTS:
         QCOMPARE(boxes.texts.size(), 3);
     }
 
+    void tellsTheViewerWhatToShow()
+    {
+        const Installation suite;
+        const QUrl page(u"qthelp://ns/folder/ä.htm"_s);
+        {
+            AssistantClient client(
+                suite.writeScript(u"viewer"_s, "echo \"$@\" > \"$0.arguments\"; cat > \"$0.commands\""));
+            client.setArguments({u"-profile"_s, u"p"_s});
+            client.showPage(page);
+            client.showPage(page);
+            QTRY_COMPARE(suite.read(u"viewer.commands"_s).count('\n'), 2);
+        }
+        QCOMPARE(suite.read(u"viewer.arguments"_s), QByteArray("-enableRemoteControl -profile p\n"));
+        QVERIFY(suite.read(u"viewer.commands"_s).startsWith("setSource " + page.toEncoded() + '\n'));
+
+        // One that does not like its profile starts, complains and leaves; one that is not there does not start.
+        for (const QString& viewer : {suite.writeScript(u"picky"_s, "echo 'Unknown option'; exit 255"), u"/gone"_s}) {
+            AssistantClient client(viewer);
+            const QSignalSpy errors(&client, &AssistantClient::error);
+            client.showPage(page);
+            QTRY_COMPARE(errors.size(), 1);
+            const QString text = errors[0][0].toString();
+            QVERIFY2(text.contains(viewer) && (viewer == "/gone"_L1 || text.endsWith("Unknown option"_L1)),
+                     qPrintable(text));
+        }
+    }
+
     void drivesTheRealAssistant()
     {
         if (AssistantClient::program().isEmpty() || QStandardPaths::findExecutable(u"Xvfb"_s).isEmpty() ||
-            QStandardPaths::findExecutable(u"xwininfo"_s).isEmpty()) {
-            QSKIP("needs assistant, Xvfb and xwininfo");
+            QStandardPaths::findExecutable(u"xwininfo"_s).isEmpty() ||
+            QStandardPaths::findExecutable(u"pkill"_s).isEmpty()) {
+            QSKIP("needs assistant, Xvfb, xwininfo and pkill");
         }
         QProcess server;
         server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
@@ -129,10 +163,7 @@ private Q_SLOTS:
             client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/configuration.htm"_s));
             QVERIFY(errors.isEmpty());
             // One that dies is reported, and started again with the next request.
-            auto* viewer = client.findChild<QProcess*>();
-            if (!viewer) {
-                QProcess::execute(u"pkill"_s, {u"-KILL"_s, u"-f"_s, suite.path(u"help/projectCreation.qhc"_s)});
-            }
+            QProcess::execute(u"pkill"_s, {u"-KILL"_s, u"-f"_s, suite.path(u"help/projectCreation.qhc"_s)});
             QTRY_COMPARE_WITH_TIMEOUT(errors.size(), 1, 10000);
             QVERIFY(!windows().contains("KOVRA Help"));
             client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/projectCreation.htm"_s));

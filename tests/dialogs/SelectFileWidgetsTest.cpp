@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -43,7 +45,7 @@ private Q_SLOTS:
         const QString file = suite.write(u"work/ü <b>.p_c"_s, "contents");
         SelectFileWidgets field(u"Cap"_s, u"*.p_c"_s, {.withFind = true, .withHistory = true, .withEdit = true});
         field.frame()->show();
-        QPushButton& edit = button(field, u"Edit the specified file"_s);
+        QPushButton& edit = button(field, u"Edit: Cap"_s);
         const auto colour = [&] { return field.lineEdit()->palette().color(field.lineEdit()->foregroundRole()); };
         QVERIFY(field.isValid() && !edit.isEnabled());
         field.SetValue(u"/nowhere"_s);
@@ -78,18 +80,22 @@ private Q_SLOTS:
             }
         });
         watch.start(5);
-        QPushButton& edit = button(field, u"Edit the specified file"_s);
+        QPushButton& edit = button(field, u"Edit: Cap"_s);
         edit.click();
         QCOMPARE(shown, file + u"|<i>größe</i>\n"_s);
         watch.stop();
         QCOMPARE(suite.read(u"work/a.p_c"_s), QByteArray("<i>größe</i>\n"));
-        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
+        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok});
         field.SetValue(u"/nowhere"_s);
         edit.click();
         field.SetValue(suite.path(u"work"_s));
         edit.click();
+        const QString pipe = suite.path(u"work/pipe"_s);
+        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+        field.SetValue(pipe);
+        edit.click();
         QCOMPARE(boxes.texts, (QStringList{u"Edit failed|Can not edit file, the file does not exist"_s,
-                                           u"Edit failed|Can not open file"_s}));
+                                           u"Edit failed|Can not open file"_s, u"Edit failed|Can not open file"_s}));
     }
 
     void shortcutsBelongToTheFocusedField()

@@ -182,6 +182,27 @@ private Q_SLOTS:
         QVERIFY(suite.read(u"work/batch/p.prj"_s) != text);
     }
 
+    void leavesTheOtherLanguageOut()
+    {
+        const Demonstration suite;
+        for (const char* name : {"a.c", "b.cpp"}) {
+            suite.write(u"work/"_s + QLatin1String(name), "");
+        }
+        suite.write(u"work/db.json"_s, R"([{"file": "a.c"}, {"file": "b.cpp"}])");
+        for (const QString& analyser : {u"-c"_s, u"-cpp"_s}) {
+            QStringList arguments{u"-prj"_s, u"p.prj"_s, u"-overwrite"_s, u"-type"_s, databaseType(), analyser};
+            arguments += {u"-input"_s, u"Compilation database=db.json"_s};
+            if (analyser == "-cpp"_L1) {
+                arguments += {u"-input"_s, u"Only C++ sources=1"_s};
+            }
+            const Result result = suite.run(arguments);
+            QVERIFY2(result.status == 0, qPrintable(result.errors));
+            const QByteArray project = suite.read(u"work/p.prj"_s);
+            QCOMPARE(project.contains("\na.c\n"), analyser == "-c"_L1);
+            QCOMPARE(project.contains("\nb.cpp\n"), analyser == "-cpp"_L1);
+        }
+    }
+
     void saysWhatIsWrong_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -262,9 +283,10 @@ private Q_SLOTS:
     void stopsOnASignal()
     {
         const Demonstration suite;
-        suite.define("<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
-                     suite.writeScript(u"slow"_s, "echo half > \"$1\"; sleep 1000").toUtf8() +
-                     "</exe><exeargs>%PF</exeargs></projectCreator>");
+        suite.define(
+            "<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
+            suite.writeScript(u"slow"_s, "sleep 1000 & echo $! > \"$0.pid\"; echo half > \"$1\"; wait").toUtf8() +
+            "</exe><exeargs>%PF</exeargs></projectCreator>");
         QProcess program;
         Demonstration::prepare(program);
         program.start(suite.path(u"create-project"_s),
@@ -275,6 +297,9 @@ private Q_SLOTS:
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);
         QVERIFY(!QFile::exists(suite.path(u"work/s.prj"_s)));
+        const QByteArray child = suite.read(u"slow.pid"_s);
+        QVERIFY(!child.isEmpty());
+        QTRY_VERIFY(!Installation::isAlive(child));
     }
 };
 

@@ -13,13 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isAlive(const QByteArray& pid)
-{
-    // A zombie that nobody has reaped yet runs no more.
-    QFile status(u"/proc/"_s + QString::fromLatin1(pid.trimmed()) + u"/stat"_s);
-    return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
-}
-
 } // namespace
 
 class ConversionRunTest : public QObject
@@ -91,12 +84,12 @@ private Q_SLOTS:
         QVERIFY(run.start(script, {project}, project));
         QByteArray grandChild;
         QTRY_VERIFY(!(grandChild += run.takeOutput().toLatin1()).isEmpty() && QFile::exists(project));
-        QVERIFY(isAlive(grandChild));
+        QVERIFY(Installation::isAlive(grandChild));
         run.stop();
         QCOMPARE(ended.size(), 1);
         QCOMPARE(run.outcome(), ConversionRun::Outcome::Stopped);
         QVERIFY(!QFile::exists(project));
-        QTRY_VERIFY(!isAlive(grandChild));
+        QTRY_VERIFY(!Installation::isAlive(grandChild));
 
         // What a converter leaves behind at its end goes too, and so does one that runs when we are gone.
         const QString forking = suite.writeScript(u"fork"_s, "sleep 1000 >/dev/null 2>&1 &\necho $!\n");
@@ -104,14 +97,14 @@ private Q_SLOTS:
         QTRY_COMPARE(ended.size(), 2);
         const QByteArray leftBehind = run.takeOutput().toLatin1();
         QVERIFY(!leftBehind.isEmpty());
-        QTRY_VERIFY(!isAlive(leftBehind));
+        QTRY_VERIFY(!Installation::isAlive(leftBehind));
         {
             ConversionRun abandoned;
             QVERIFY(abandoned.start(script, {project}, project));
             grandChild.clear();
             QTRY_VERIFY(!(grandChild += abandoned.takeOutput().toLatin1()).isEmpty());
         }
-        QTRY_VERIFY(!isAlive(grandChild));
+        QTRY_VERIFY(!Installation::isAlive(grandChild));
     }
 
     void decodesAcrossReads()

@@ -44,12 +44,6 @@ private:
     std::unique_ptr<QWidget> holder;
 };
 
-bool isAlive(const QByteArray& pid)
-{
-    QFile status(u"/proc/"_s + QString::fromLatin1(pid.trimmed()) + u"/stat"_s);
-    return !pid.trimmed().isEmpty() && status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
-}
-
 } // namespace
 
 class LauncherTest : public QObject
@@ -229,15 +223,15 @@ private Q_SLOTS:
         const BoxAnswers none({});
         page.ResetApplications();
         QVERIFY(!appRegistry->openDialogs[0]->isVisible() && page.applications[1]->button->isEnabled());
-        QTRY_VERIFY_WITH_TIMEOUT(!tool.isRunning() && !isAlive(child), 8000);
+        QTRY_VERIFY_WITH_TIMEOUT(!tool.isRunning() && !Installation::isAlive(child), 8000);
         QVERIFY(none.texts.isEmpty());
 
         // What a tool leaves behind stays for the user, but not longer than the program.
         page.applications[2]->Activate();
         QTRY_VERIFY(!page.applications[2]->isRunning() && !(child = suite.read(u"tool3.pid"_s)).isEmpty());
-        QVERIFY(isAlive(child));
+        QVERIFY(Installation::isAlive(child));
         appRegistry->ShutDown();
-        QTRY_VERIFY(!isAlive(child));
+        QTRY_VERIFY(!Installation::isAlive(child));
     }
 };
 

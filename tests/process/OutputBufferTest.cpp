@@ -42,6 +42,9 @@ private Q_SLOTS:
         last = buffer.take(100);
         QCOMPARE(last.last(), u"end"_s);
         QVERIFY(last.first().size() <= 16 * 1024);
+        buffer.append(QString(10, u'x') + u"\n1\n2\n"_s);
+        QCOMPARE(buffer.take(100, 5).size(), 1);
+        QCOMPARE(buffer.take(100, 5).size(), 2);
     }
 };
 

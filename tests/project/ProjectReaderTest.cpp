@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "project/ProjectReader.h"
 #include "Installation.h"
 #include "project/Project.h"
 #include "TestMain.h"
@@ -8,6 +9,7 @@
 #include <QFile>
 #include <QTest>
 
+#include <algorithm>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -171,6 +173,33 @@ private Q_SLOTS:
         QVERIFY(!project.load(name));
         QCOMPARE(project.statusText, status);
         QVERIFY(!project.statusOk);
+    }
+
+    void endsWhereReadingFails()
+    {
+        // As a file on a share that went away: it neither delivers nor is at its end.
+        class Torn : public QIODevice
+        {
+        public:
+            bool atEnd() const override { return false; }
+
+        protected:
+            qint64 readData(char* data, qint64 size) override
+            {
+                const qint64 taken = std::min(size, qint64(text.size()));
+                std::copy_n(text.constData(), taken, data);
+                text.remove(0, taken);
+                return taken > 0 ? taken : -1;
+            }
+            qint64 writeData(const char*, qint64) override { return -1; }
+
+        private:
+            QByteArray text = "VersionTag\n" + versioned("torn", "a.c\nb.c\n").replace("EndContainedFilesMarker\n", "");
+        } device;
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        Project project;
+        QVERIFY(ProjectReader(device, project.root).read());
+        QCOMPARE(project.root.fileCount(), 2);
     }
 
     void copesWithDeepNesting()

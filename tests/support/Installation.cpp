@@ -73,6 +73,12 @@ void Installation::define(const QByteArray& elements) const
     write(u"xml/settings.xml"_s, "<?xml version=\"1.0\"?>\n<settings>\n" + elements + "\n</settings>\n");
 }
 
+bool Installation::isAlive(const QByteArray& pid)
+{
+    QFile status(u"/proc/"_s + QString::fromLatin1(pid.trimmed()) + u"/stat"_s);
+    return !pid.trimmed().isEmpty() && status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
+}
+
 AppRegistry& Installation::start(const QStringList& options)
 {
     registry.reset();

@@ -24,6 +24,8 @@ public:
     /// The same for a shell script that can be run.
     QString writeScript(const QString& name, const QByteArray& body) const;
     QByteArray read(const QString& name) const;
+    /// True while the process with this id, as a script wrote it, runs.
+    static bool isAlive(const QByteArray& pid);
     /// Writes xml/settings.xml around the given elements.
     void define(const QByteArray& elements) const;
     /// Starts the registry anew as the program does, with these options.

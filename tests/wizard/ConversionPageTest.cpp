@@ -5,6 +5,7 @@
 #include "wizard/PageSequence.h"
 #include "WizardDriver.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 #include <QTextBlock>
@@ -62,6 +63,8 @@ private Q_SLOTS:
         Installation suite;
         defineConversion(suite, script);
         suite.start();
+        suite.write(u"work/p.prj"_s, "old");
+        const BoxAnswers boxes({QMessageBox::Yes});
         WizardDriver wizard;
         convert(wizard, suite);
         QTRY_VERIFY(wizard.window.button(QWizard::FinishButton)->isEnabled());
@@ -74,7 +77,10 @@ private Q_SLOTS:
         QCOMPARE(format.foreground().color() == QColor(Qt::red), colour == "red"_L1);
         QVERIFY(wizard.window.testOption(QWizard::NoCancelButton));
         QCOMPARE(wizard.window.currentPage()->subTitle(), u"Conversion Operation Finished"_s);
-        QCOMPARE(QFile::exists(wizard.window.ProjectFile()), colour == "black"_L1);
+        // The old file goes when the conversion really starts.
+        const QByteArray left = script.isEmpty() ? "old" : colour == "black"_L1 ? "x\n" : "";
+        QCOMPARE(suite.read(u"work/p.prj"_s), left);
+        QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files).size(), left.isEmpty() ? 0 : 1);
         wizard.press(QWizard::FinishButton);
         QCOMPARE(wizard.window.result(), int(QDialog::Accepted));
     }
@@ -90,6 +96,10 @@ private Q_SLOTS:
         convert(wizard, suite);
         QTRY_VERIFY(wizard.output().contains("running"_L1));
         QVERIFY(!wizard.window.button(QWizard::FinishButton)->isEnabled());
+        // Enter once too often does no harm.
+        QTest::keyClick(wizard.window.focusWidget(), Qt::Key_Return);
+        QTest::keyClick(wizard.window.focusWidget(), Qt::Key_Space);
+        QVERIFY(!wizard.output().contains("stopped"_L1));
         wizard.press(QWizard::BackButton);
         QCOMPARE(wizard.window.currentId(), int(XmlPageId));
         QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
@@ -112,10 +122,33 @@ private Q_SLOTS:
         QCOMPARE(boxes.texts.size(), 3);
     }
 
+    void closingLeavesNoHalfMadeProject()
+    {
+        for (const bool byTitleBar : {true, false}) {
+            Installation suite;
+            defineConversion(suite,
+                             "trap 'exit 143' TERM; echo half > \"$1\"; echo running; while :; do sleep 0.1; done\n",
+                             "<applicationPage/>");
+            AppRegistry& registry = suite.start();
+            WizardDriver wizard;
+            const BoxAnswers boxes({QMessageBox::Yes});
+            convert(wizard, suite);
+            QTRY_VERIFY(wizard.output().contains("running"_L1));
+            if (byTitleBar) {
+                wizard.window.close();
+                QVERIFY(!wizard.window.isVisible());
+            } else {
+                registry.ShutDown();
+            }
+            QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
+            QVERIFY(!wizard.window.conversionDone);
+        }
+    }
+
     void movesOnToTheFollowUpPage()
     {
         Installation suite;
-        defineConversion(suite, "echo $$ > \"$1\"\n", "<applicationPage title=\"Tools\"/>");
+        defineConversion(suite, "test -f \"$0.broken\" || echo $$ > \"$1\"\n", "<applicationPage title=\"Tools\"/>");
         suite.start();
         WizardDriver wizard;
         convert(wizard, suite);
@@ -124,30 +157,39 @@ private Q_SLOTS:
         const QByteArray first = suite.read(u"work/p.prj"_s);
         QAbstractButton* again = wizard.window.button(QWizard::CustomButton1);
         QCOMPARE(again->text(), u"New Project Conversion"_s);
-        const BoxAnswers boxes({QMessageBox::Yes});
+        const BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Yes});
         again->click();
         QCOMPARE(wizard.window.currentId(), int(StartPageId));
         QVERIFY(QFile::exists(wizard.window.ProjectFile()));
         convert(wizard, suite);
         QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
         QVERIFY(suite.read(u"work/p.prj"_s) != first);
+
+        // One that fails after one that succeeded leads nowhere but out.
+        again->click();
+        suite.write(u"convert.broken"_s, "");
+        convert(wizard, suite);
+        QTRY_VERIFY(wizard.output().contains("not created"_L1));
+        QVERIFY(!wizard.window.button(QWizard::NextButton)->isVisible());
         wizard.press(QWizard::FinishButton);
+        QVERIFY(!wizard.window.isVisible());
     }
 
     void keepsAFloodWithinBounds()
     {
         Installation suite;
-        defineConversion(suite, "seq 1 200000; echo x > \"$1\"\n");
+        // Long lines count by their length, and what only the view drops is told as well.
+        defineConversion(suite, "seq 1 200000; head -c 3000000 /dev/zero | tr '\\0' x; echo; echo x > \"$1\"\n");
         suite.start();
         WizardDriver wizard;
         convert(wizard, suite);
         QTRY_VERIFY_WITH_TIMEOUT(wizard.window.button(QWizard::FinishButton)->isEnabled(), 30000);
-        QVERIFY(wizard.output().contains("\n200000\n"_L1));
+        QVERIFY(wizard.output().contains("\n200000\nxxx"_L1));
         QVERIFY(wizard.output().count(u'\n') < 6000);
         const QString label = wizard.labels().filter(u"Complete output"_s).value(0);
         QFile log(label.section(u": "_s, 1));
         QVERIFY2(log.open(QIODevice::ReadOnly), qPrintable(label));
-        QCOMPARE(log.readAll().count('\n'), 200000);
+        QCOMPARE(log.readAll().count('\n'), 200001);
     }
 };
 

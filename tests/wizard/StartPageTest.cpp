@@ -97,6 +97,28 @@ private Q_SLOTS:
         QCOMPARE(wizard.window.currentId(), int(StartPageId));
     }
 
+    void finishesWhereNothingFollows()
+    {
+        Installation suite;
+        suite.define("<projectCreator><name>Bare</name><orvcProject>1</orvcProject></projectCreator>"
+                     "<projectCreator><name>Full</name><orvcProject>1</orvcProject><inputData/></projectCreator>");
+        suite.start();
+        const WizardDriver wizard;
+        const QAbstractButton& finish = *wizard.window.button(QWizard::FinishButton);
+        const QAbstractButton& next = *wizard.window.button(QWizard::NextButton);
+        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Bare"_s);
+        QVERIFY(finish.isVisible() && finish.isEnabled() && !next.isVisible());
+        // Another type leads on again, and nothing was torn down in between.
+        wizard.combo(u"Original project type:"_s).setCurrentText(u"Full"_s);
+        wizard.press(QWizard::NextButton);
+        QCOMPARE(wizard.window.currentId(), int(XmlPageId));
+        QVERIFY(!finish.isVisible());
+        wizard.press(QWizard::BackButton);
+        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Bare"_s);
+        wizard.press(QWizard::FinishButton);
+        QCOMPARE(wizard.window.result(), int(QDialog::Accepted));
+    }
+
     void asksForTheAnalyserWhenItIsOpen()
     {
         Installation suite;
