@@ -4,7 +4,6 @@
 #include "wizard/ApplicationWindow.h"
 #include "wizard/PageSequence.h"
 
-#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -23,6 +22,9 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     if (PageData* launchers = launcherPage()) {
         launchers->BuildButtons(buttonGrid);
     }
+    // What room is left goes to the end, so that the arrows stay beside their buttons.
+    buttonGrid->setRowStretch(buttonGrid->rowCount(), 1);
+    buttonGrid->setColumnStretch(buttonGrid->columnCount(), 1);
     buttonGroup->setLayout(buttonGrid);
     // The grid has no constraint of its own, so the scroll area needs to be told how large it is.
     buttonGroup->setMinimumSize(buttonGrid->sizeHint() + QSize(20, 20));
@@ -43,7 +45,6 @@ void DisplayOptionsPage::initializePage()
     window->setOption(QWizard::NoCancelButton, true);
     window->setOption(QWizard::HaveCustomButton1, true);
     window->setButtonText(QWizard::CustomButton1, tr("New Project Conversion"));
-    QCoreApplication::processEvents();
     if (PageData* launchers = launcherPage()) {
         launchers->SetProjectFile(window->ProjectFile());
         launchers->SetIsORVC(window->isORVC);

@@ -23,6 +23,19 @@ void defineConversion(const Installation& suite, const QByteArray& script, const
                  more);
 }
 
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += int(event->type() == QEvent::Paint);
+        return false;
+    }
+
+    int count = 0;
+};
+
 void convert(const WizardDriver& wizard, const Installation& suite)
 {
     wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
@@ -151,8 +164,11 @@ private Q_SLOTS:
         defineConversion(suite, "test -f \"$0.broken\" || echo $$ > \"$1\"\n", "<applicationPage title=\"Tools\"/>");
         suite.start();
         WizardDriver wizard;
+        PaintCounter paints(*wizard.window.page(DisplayOptionsPageId));
         convert(wizard, suite);
         QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
+        // It is not only there, it is seen.
+        QTRY_VERIFY(paints.count > 0);
         QVERIFY(wizard.window.conversionDone);
         const QByteArray first = suite.read(u"work/p.prj"_s);
         QAbstractButton* again = wizard.window.button(QWizard::CustomButton1);
