@@ -7,10 +7,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString say(const char* text)
+// The context of the texts in the catalogues.
+class Text
 {
-    return QCoreApplication::translate("BatchArguments", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(BatchArguments)
+};
 
 // Options of the whole program: they are read elsewhere, here only their values are stepped over.
 bool isSharedSwitch(const QString& option)
@@ -28,7 +29,7 @@ void addInput(BatchArguments& batch, const QString& text)
 {
     const qsizetype separator = text.indexOf(u'=');
     if (separator < 1) {
-        batch.error = say("-input wants <name>=<value>, not \"%1\"").arg(text);
+        batch.error = Text::tr("-input wants <name>=<value>, not \"%1\"").arg(text);
         return;
     }
     batch.inputs.emplaceBack(text.first(separator), text.sliced(separator + 1));
@@ -71,9 +72,9 @@ bool takeSwitch(BatchArguments& batch, const QString& option)
 void checkConversion(BatchArguments& batch)
 {
     if (batch.projectFile.isEmpty()) {
-        batch.error = say("-prj <file> is missing: the project file to be created");
+        batch.error = Text::tr("-prj <file> is missing: the project file to be created");
     } else if (batch.type.isEmpty()) {
-        batch.error = say("-type <name> is missing: the conversion type; -batch -list-types lists them");
+        batch.error = Text::tr("-type <name> is missing: the conversion type; -batch -list-types lists them");
     }
 }
 
@@ -86,12 +87,12 @@ BatchArguments BatchArguments::parse(const QStringList& arguments)
         const QString& option = arguments[i];
         if (takesValue(option)) {
             if (i + 1 == arguments.size()) {
-                batch.error = say("%1 wants a value").arg(option);
+                batch.error = Text::tr("%1 wants a value").arg(option);
                 break;
             }
             takeValue(batch, option, arguments[++i]);
         } else if (!takeSwitch(batch, option)) {
-            batch.error = say("unknown argument \"%1\"").arg(option);
+            batch.error = Text::tr("unknown argument \"%1\"").arg(option);
         }
     }
     const bool asksForConversion = !batch.projectFile.isEmpty() || !batch.type.isEmpty() || !batch.inputs.isEmpty();
@@ -111,17 +112,17 @@ bool BatchArguments::isBatch(const QStringList& arguments)
 
 QString BatchArguments::usage()
 {
-    return say("Usage: ProjectCreation -batch -prj <file> -type <name> [options]\n"
-               "  Converts a build description to a project file without a window.\n"
-               "  -prj <file>            project file to be created\n"
-               "  -type <name>           conversion type\n"
-               "  -input <name>=<value>  value of an input of that type; may be repeated\n"
-               "  -c, -cpp               analyser, where the type and the installation leave it open\n"
-               "  -mp, -ap, -cp <file>   message, analyser and compiler personality\n"
-               "  -overwrite             replace an existing project file\n"
-               "  -file <file>           definitions file\n"
-               "  -trace, -tracefile <file>\n"
-               "       ProjectCreation -batch -list-types [--json]\n"
-               "       ProjectCreation -batch -list-inputs <type> [--json]\n"
-               "Exit status: 0 the project file was created, 1 the conversion failed, 2 wrong arguments.\n");
+    return Text::tr("Usage: ProjectCreation -batch -prj <file> -type <name> [options]\n"
+                    "  Converts a build description to a project file without a window.\n"
+                    "  -prj <file>            project file to be created\n"
+                    "  -type <name>           conversion type\n"
+                    "  -input <name>=<value>  value of an input of that type; may be repeated\n"
+                    "  -c, -cpp               analyser, where the type and the installation leave it open\n"
+                    "  -mp, -ap, -cp <file>   message, analyser and compiler personality\n"
+                    "  -overwrite             replace an existing project file\n"
+                    "  -file <file>           definitions file\n"
+                    "  -trace, -tracefile <file>\n"
+                    "       ProjectCreation -batch -list-types [--json]\n"
+                    "       ProjectCreation -batch -list-inputs <type> [--json]\n"
+                    "Exit status: 0 the project file was created, 1 the conversion failed, 2 wrong arguments.\n");
 }

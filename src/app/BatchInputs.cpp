@@ -9,10 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString say(const char* text)
+// The context of the texts in the catalogues.
+class Text
 {
-    return QCoreApplication::translate("BatchInputs", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(BatchInputs)
+};
 
 bool isYes(const QString& value)
 {
@@ -59,10 +60,10 @@ QString BatchInputs::set(const QString& name, const QString& value)
     const auto matches = std::ranges::count_if(fields, isNamed);
     const auto field = std::ranges::find_if(fields, isNamed);
     if (matches == 0) {
-        return say("the conversion type has no input \"%1\"; -batch -list-inputs <type> lists them").arg(name);
+        return Text::tr("the conversion type has no input \"%1\"; -batch -list-inputs <type> lists them").arg(name);
     }
     if (matches > 1) {
-        return say("several inputs are called \"%1\"; name the one you mean as group/input").arg(name);
+        return Text::tr("several inputs are called \"%1\"; name the one you mean as group/input").arg(name);
     }
     if (field->state.hasText) {
         field->state.text = value;
@@ -70,7 +71,7 @@ QString BatchInputs::set(const QString& name, const QString& value)
     }
     const QString answer = value.toLower();
     if (!isYes(answer) && !isNo(answer)) {
-        return say("the input \"%1\" is a switch: give it 1 or 0, not \"%2\"").arg(name, value);
+        return Text::tr("the input \"%1\" is a switch: give it 1 or 0, not \"%2\"").arg(name, value);
     }
     field->state.checked = isYes(answer);
     if (field->state.checked && field->definition->inputType == InputType::Radio) {

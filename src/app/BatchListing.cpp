@@ -11,10 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString say(const char* text)
+// The context of the texts in the catalogues.
+class Text
 {
-    return QCoreApplication::translate("BatchListing", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(BatchListing)
+};
 
 QString kind(InputType type)
 {
@@ -73,19 +74,19 @@ QString oneLine(const ArgumentDefinition& definition)
 {
     QStringList facts{kind(definition.inputType)};
     if (definition.mustBeSet) {
-        facts += definition.fileMustExist ? say("must exist") : say("must be set");
+        facts += definition.fileMustExist ? Text::tr("must exist") : Text::tr("must be set");
     }
     if (definition.cOnly || definition.cppOnly) {
-        facts += definition.cOnly ? say("Orv C only") : say("Orv C++ only");
+        facts += definition.cOnly ? Text::tr("Orv C only") : Text::tr("Orv C++ only");
     }
     if (!definition.cDefaultValue.isEmpty() && definition.cDefaultValue == definition.cppDefaultValue) {
-        facts += say("default \"%1\"").arg(definition.cDefaultValue);
+        facts += Text::tr("default \"%1\"").arg(definition.cDefaultValue);
     } else {
         if (!definition.cDefaultValue.isEmpty()) {
-            facts += say("default for C \"%1\"").arg(definition.cDefaultValue);
+            facts += Text::tr("default for C \"%1\"").arg(definition.cDefaultValue);
         }
         if (!definition.cppDefaultValue.isEmpty()) {
-            facts += say("default for C++ \"%1\"").arg(definition.cppDefaultValue);
+            facts += Text::tr("default for C++ \"%1\"").arg(definition.cppDefaultValue);
         }
     }
     return definition.displayName + u"  ["_s + facts.join(u", "_s) + u"]"_s;

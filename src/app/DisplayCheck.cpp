@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/DisplayCheck.h"
+#include "app/Translations.h"
 
 #include <QApplication>
 #include <QMutex>
 #include <QString>
+#include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
@@ -21,6 +23,15 @@ struct Message
 // Qt tells of a missing display in several messages and then aborts; they are held back until it is known which.
 std::vector<Message> heldBack;
 
+// There is no application yet that could hold a catalogue.
+QString translated(const char* text)
+{
+    QTranslator translator;
+    Translations::load(translator, Translations::userLocale());
+    const QString translation = translator.translate("DisplayCheck", text);
+    return translation.isEmpty() ? QString::fromUtf8(text) : translation;
+}
+
 void holdBack(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type != QtFatalMsg) {
@@ -28,10 +39,13 @@ void holdBack(QtMsgType type, const QMessageLogContext&, const QString& text)
         return;
     }
     const QString reason = heldBack.empty() ? text : heldBack.front().text;
-    const QByteArray display = qgetenv("DISPLAY");
-    std::fprintf(
-        stderr, "ProjectCreation: no display to open a window on (%s; DISPLAY is %s). Start it in a desktop session.\n",
-        qUtf8Printable(reason.simplified()), display.isEmpty() ? "not set" : display.constData());
+    const QString display = qEnvironmentVariable("DISPLAY");
+    const QString line =
+        translated(QT_TRANSLATE_NOOP("DisplayCheck", "no display to open a window on (%1; DISPLAY is %2). Start it in "
+                                                     "a desktop session."))
+            .arg(reason.simplified(),
+                 display.isEmpty() ? translated(QT_TRANSLATE_NOOP("DisplayCheck", "not set")) : display);
+    std::fprintf(stderr, "ProjectCreation: %s\n", qUtf8Printable(line));
     std::fflush(stderr);
     std::_Exit(EXIT_FAILURE);
 }

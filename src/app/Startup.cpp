@@ -5,6 +5,7 @@
 #include "app/CommandLine.h"
 #include "app/DisplayCheck.h"
 #include "app/StopSignals.h"
+#include "app/Translations.h"
 #include "wizard/ApplicationWindow.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ QString title()
     return QCoreApplication::translate("Startup", "Create KOVRA Project");
 }
 
+// Scripts read it, so a catalogue gives it the same text.
 QString usage()
 {
     return QCoreApplication::translate("Startup", "ProjectCreation options:\n"
@@ -53,6 +55,7 @@ QStringList toTexts(int argc, char** argv)
 int runWithoutWindow(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
+    Translations::install(Translations::userLocale());
     AppRegistry registry;
     if (!initialise(registry, application)) {
         return 0;
@@ -69,6 +72,7 @@ int Startup::run(int argc, char** argv)
         return runWithoutWindow(argc, argv);
     }
     const std::unique_ptr<QApplication> application = DisplayCheck::createApplication(argc, argv);
+    Translations::install(Translations::userLocale());
     AppRegistry registry;
     if (!initialise(registry, *application)) {
         return 0;

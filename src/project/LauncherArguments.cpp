@@ -20,7 +20,7 @@ QString viaLine(const QString& path)
 
 QString cannotWrite(const QFile& file)
 {
-    return QObject::tr("The temporary file %1 can not be written: %2. Make room in its folder or make it writable.")
+    return ProjectData::tr("The temporary file %1 can not be written: %2. Make room in its folder or make it writable.")
         .arg(file.fileName(), file.errorString());
 }
 
@@ -29,7 +29,7 @@ QString temporaryName(const QString& suffix, QString& problem)
 {
     const QString name = appRegistry->CreateTempFileName(suffix);
     if (name.isEmpty() && problem.isEmpty()) {
-        problem = QObject::tr("A temporary file can not be made in %1. Make room there or make it writable.")
+        problem = ProjectData::tr("A temporary file can not be made in %1. Make room there or make it writable.")
                       .arg(QDir::toNativeSeparators(QDir::tempPath()));
     }
     return name;

@@ -20,22 +20,22 @@ Verdict judgeFile(const QString& file, bool valid, const SurveyCounts& counts)
 {
     const QFileInfo info(file);
     if (file.isEmpty()) {
-        return {QObject::tr("Project file not selected")};
+        return {Project::tr("Project file not selected")};
     }
     if (!info.exists()) {
-        return {QObject::tr("This project file does not exist")};
+        return {Project::tr("This project file does not exist")};
     }
     if (!info.isFile()) {
-        return {QObject::tr("This is not a valid file selection")};
+        return {Project::tr("This is not a valid file selection")};
     }
     if (!valid) {
-        return {QObject::tr("This project file is not a valid KOVRA project file")};
+        return {Project::tr("This project file is not a valid KOVRA project file")};
     }
     if (counts.total == 0) {
-        return {QObject::tr("This project does not contain any source files")};
+        return {Project::tr("This project does not contain any source files")};
     }
     if (counts.existing == 0) {
-        return {QObject::tr("None of the files specified in this project exist")};
+        return {Project::tr("None of the files specified in this project exist")};
     }
     return {{}, true};
 }
@@ -44,42 +44,42 @@ QString judgeAnalysis(const SurveyCounts& counts, bool configurationChanged)
 {
     if (counts.existing != counts.total) {
         if (counts.existing == counts.upToDate) {
-            return QObject::tr(
+            return Project::tr(
                 "Some of the files specified in this project do not exist, of those that exist, analysis "
                 "is complete");
         }
         return counts.analysed != 0
-                   ? QObject::tr("Some of the files specified in this project do not exist, of those "
+                   ? Project::tr("Some of the files specified in this project do not exist, of those "
                                  "that exist, some analysis output exists")
-                   : QObject::tr("Some of the files specified in this project do not exist, no analysis "
+                   : Project::tr("Some of the files specified in this project do not exist, no analysis "
                                  "output exists");
     }
     if (counts.analysed == 0) {
-        return QObject::tr("This project has not been analysed yet");
+        return Project::tr("This project has not been analysed yet");
     }
     if (counts.analysed != counts.upToDate) {
-        return QObject::tr("Analysis of this project is out of date");
+        return Project::tr("Analysis of this project is out of date");
     }
     if (counts.analysed != counts.existing) {
-        return QObject::tr("This project has been partially analysed");
+        return Project::tr("This project has been partially analysed");
     }
-    const QString complete = QObject::tr("Analysis of this project is complete");
-    return configurationChanged ? complete + QObject::tr(", but configuration changed since last analysis") : complete;
+    const QString complete = Project::tr("Analysis of this project is complete");
+    return configurationChanged ? complete + Project::tr(", but configuration changed since last analysis") : complete;
 }
 
 QString summarise(const SurveyCounts& counts, const QString& lastAnalysis)
 {
     const auto number = [](const QString& label, int count) { return label + u' ' + QString::number(count); };
-    QString text = u"\n   "_s + number(QObject::tr("Files in project:"), counts.total);
+    QString text = u"\n   "_s + number(Project::tr("Files in project:"), counts.total);
     if (counts.existing != counts.total) {
-        text += u"    "_s + number(QObject::tr("Existing files:"), counts.existing);
+        text += u"    "_s + number(Project::tr("Existing files:"), counts.existing);
     }
     if (counts.upToDate != counts.existing) {
-        text += u"    "_s + number(QObject::tr("Analysed files:"), counts.upToDate);
+        text += u"    "_s + number(Project::tr("Analysed files:"), counts.upToDate);
     }
     if (counts.analysed != 0) {
-        text += u"\n   "_s + QObject::tr("Analysed with:") + u' ' +
-                (lastAnalysis.isEmpty() ? QObject::tr("unknown") : lastAnalysis);
+        text += u"\n   "_s + Project::tr("Analysed with:") + u' ' +
+                (lastAnalysis.isEmpty() ? Project::tr("unknown") : lastAnalysis);
     }
     return text;
 }

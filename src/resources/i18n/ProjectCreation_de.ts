@@ -1,0 +1,873 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>ActionPage</name>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>Create the Project</source>
+        <translation>Projekt erstellen</translation>
+    </message>
+    <message>
+        <source>Conversion in progress...</source>
+        <translation>Die Konvertierung läuft...</translation>
+    </message>
+    <message>
+        <source>Stop the conversion program and everything it started</source>
+        <translation>Das Konvertierungsprogramm und alles, was es gestartet hat, anhalten</translation>
+    </message>
+    <message>
+        <source>Output of the conversion</source>
+        <translation>Ausgabe der Konvertierung</translation>
+    </message>
+    <message>
+        <source>Error: No project conversion available</source>
+        <translation>Fehler: Keine Projektkonvertierung verfügbar</translation>
+    </message>
+    <message>
+        <source>Converting Project Progress:</source>
+        <translation>Fortschritt der Projektkonvertierung:</translation>
+    </message>
+    <message>
+        <source>Conversion Started
+</source>
+        <translation>Konvertierung gestartet
+</translation>
+    </message>
+    <message numerus="yes">
+        <source>[%n line(s) not shown]</source>
+        <translation>
+            <numerusform>[%n Zeile nicht angezeigt]</numerusform>
+            <numerusform>[%n Zeilen nicht angezeigt]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Complete output, until the wizard is closed: %1</source>
+        <translation>Vollständige Ausgabe, solange der Assistent geöffnet ist: %1</translation>
+    </message>
+    <message>
+        <source>New project file: </source>
+        <translation>Neue Projektdatei: </translation>
+    </message>
+    <message>
+        <source>Error: Project file [%1] not created</source>
+        <translation>Fehler: Projektdatei [%1] wurde nicht erstellt</translation>
+    </message>
+    <message>
+        <source>Error: Could not run conversion process</source>
+        <translation>Fehler: Das Konvertierungsprogramm konnte nicht ausgeführt werden</translation>
+    </message>
+    <message>
+        <source>Error: Conversion Process Failed</source>
+        <translation>Fehler: Die Konvertierung ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Conversion Operation Finished</source>
+        <translation>Die Konvertierung ist beendet</translation>
+    </message>
+    <message>
+        <source>Converting Project Status:</source>
+        <translation>Status der Projektkonvertierung:</translation>
+    </message>
+    <message>
+        <source>Conversion Complete
+</source>
+        <translation>Konvertierung abgeschlossen
+</translation>
+    </message>
+</context>
+<context>
+    <name>AppRegistry</name>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>-file &lt;file.xml&gt;: use &lt;file.xml&gt; instead of settings.xml</source>
+        <translation>-file &lt;file.xml&gt;: use &lt;file.xml&gt; instead of settings.xml</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationWindow</name>
+    <message>
+        <source>Orv C</source>
+        <translation>Orv C</translation>
+    </message>
+    <message>
+        <source>Orv C++</source>
+        <translation>Orv C++</translation>
+    </message>
+    <message>
+        <source>Conversion in progress</source>
+        <translation>Konvertierung läuft</translation>
+    </message>
+    <message>
+        <source>The conversion is still running. It will be stopped and the new project file will not be created.
+Do you wish to stop it?</source>
+        <translation>Die Konvertierung läuft noch. Sie wird angehalten, und die neue Projektdatei wird nicht erstellt.
+Möchten Sie sie anhalten?</translation>
+    </message>
+</context>
+<context>
+    <name>AssistantClient</name>
+    <message>
+        <source>The help viewer %1 could not be started: %2</source>
+        <translation>Die Hilfeanzeige %1 konnte nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <source>The help viewer %1 has ended unexpectedly. Ask for help again to restart it.</source>
+        <translation>Die Hilfeanzeige %1 wurde unerwartet beendet. Rufen Sie die Hilfe erneut auf, um sie neu zu starten.</translation>
+    </message>
+</context>
+<context>
+    <name>BatchArguments</name>
+    <message>
+        <source>-input wants &lt;name&gt;=&lt;value&gt;, not &quot;%1&quot;</source>
+        <translation>-input erwartet &lt;Name&gt;=&lt;Wert&gt;, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>-prj &lt;file&gt; is missing: the project file to be created</source>
+        <translation>-prj &lt;Datei&gt; fehlt: die zu erstellende Projektdatei</translation>
+    </message>
+    <message>
+        <source>-type &lt;name&gt; is missing: the conversion type; -batch -list-types lists them</source>
+        <translation>-type &lt;Name&gt; fehlt: die Konvertierungsart; -batch -list-types führt sie auf</translation>
+    </message>
+    <message>
+        <source>%1 wants a value</source>
+        <translation>%1 erwartet einen Wert</translation>
+    </message>
+    <message>
+        <source>unknown argument &quot;%1&quot;</source>
+        <translation>unbekanntes Argument „%1“</translation>
+    </message>
+    <message>
+        <source>Usage: ProjectCreation -batch -prj &lt;file&gt; -type &lt;name&gt; [options]
+  Converts a build description to a project file without a window.
+  -prj &lt;file&gt;            project file to be created
+  -type &lt;name&gt;           conversion type
+  -input &lt;name&gt;=&lt;value&gt;  value of an input of that type; may be repeated
+  -c, -cpp               analyser, where the type and the installation leave it open
+  -mp, -ap, -cp &lt;file&gt;   message, analyser and compiler personality
+  -overwrite             replace an existing project file
+  -file &lt;file&gt;           definitions file
+  -trace, -tracefile &lt;file&gt;
+       ProjectCreation -batch -list-types [--json]
+       ProjectCreation -batch -list-inputs &lt;type&gt; [--json]
+Exit status: 0 the project file was created, 1 the conversion failed, 2 wrong arguments.
+</source>
+        <translation>Aufruf: ProjectCreation -batch -prj &lt;Datei&gt; -type &lt;Name&gt; [Optionen]
+  Konvertiert eine Build-Beschreibung ohne Fenster in eine Projektdatei.
+  -prj &lt;Datei&gt;           zu erstellende Projektdatei
+  -type &lt;Name&gt;           Konvertierungsart
+  -input &lt;Name&gt;=&lt;Wert&gt;   Wert einer Eingabe dieser Art; mehrfach möglich
+  -c, -cpp               Analysator, wenn Art und Installation ihn offen lassen
+  -mp, -ap, -cp &lt;Datei&gt;  Konfiguration für Meldungen, Analysator und Compiler
+  -overwrite             eine vorhandene Projektdatei ersetzen
+  -file &lt;Datei&gt;          Definitionsdatei
+  -trace, -tracefile &lt;Datei&gt;
+       ProjectCreation -batch -list-types [--json]
+       ProjectCreation -batch -list-inputs &lt;Art&gt; [--json]
+Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche Argumente.
+</translation>
+    </message>
+</context>
+<context>
+    <name>BatchConversion</name>
+    <message>
+        <source>no conversion types: the definitions file %1 is missing or not of the correct format; -trace tells more</source>
+        <translation>keine Konvertierungsarten: Die Definitionsdatei %1 fehlt oder hat nicht das richtige Format; -trace sagt mehr</translation>
+    </message>
+    <message>
+        <source>there is no conversion type &quot;%1&quot;; -batch -list-types lists them</source>
+        <translation>es gibt keine Konvertierungsart „%1“; -batch -list-types führt sie auf</translation>
+    </message>
+    <message>
+        <source>-type: there is no conversion type &quot;%1&quot;; -batch -list-types lists them</source>
+        <translation>-type: Es gibt keine Konvertierungsart „%1“; -batch -list-types führt sie auf</translation>
+    </message>
+    <message>
+        <source>warning: there are no KOVRA Analysers installed on this machine</source>
+        <translation>Warnung: Auf diesem Rechner sind keine KOVRA-Analysatoren installiert</translation>
+    </message>
+    <message>
+        <source>the conversion type serves both analysers: choose with -c or -cpp</source>
+        <translation>die Konvertierungsart dient beiden Analysatoren: Wählen Sie mit -c oder -cpp</translation>
+    </message>
+    <message>
+        <source>-input: &quot;%1&quot; must name an existing file</source>
+        <translation>-input: „%1“ muss eine vorhandene Datei nennen</translation>
+    </message>
+    <message>
+        <source>-input: &quot;%1&quot; must be given</source>
+        <translation>-input: „%1“ muss angegeben werden</translation>
+    </message>
+    <message>
+        <source>%1: the configuration file %2 does not exist</source>
+        <translation>%1: Die Konfigurationsdatei %2 existiert nicht</translation>
+    </message>
+    <message>
+        <source>%1: the configuration file %2 is for the other analyser</source>
+        <translation>%1: Die Konfigurationsdatei %2 gehört zum anderen Analysator</translation>
+    </message>
+    <message>
+        <source>-prj: %1 already exists; -overwrite replaces it</source>
+        <translation>-prj: %1 existiert bereits; -overwrite ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>-prj: the folder %1 can not be created</source>
+        <translation>-prj: Der Ordner %1 kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>-prj: can not create file %1</source>
+        <translation>-prj: Die Datei %1 kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>New project file: </source>
+        <translation>Neue Projektdatei: </translation>
+    </message>
+    <message>
+        <source>Error: Project file [%1] not created</source>
+        <translation>Fehler: Projektdatei [%1] wurde nicht erstellt</translation>
+    </message>
+    <message>
+        <source>Error: Could not run conversion process</source>
+        <translation>Fehler: Das Konvertierungsprogramm konnte nicht ausgeführt werden</translation>
+    </message>
+    <message>
+        <source>Error: Conversion Process Failed</source>
+        <translation>Fehler: Die Konvertierung ist fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>BatchInputs</name>
+    <message>
+        <source>the conversion type has no input &quot;%1&quot;; -batch -list-inputs &lt;type&gt; lists them</source>
+        <translation>die Konvertierungsart hat keine Eingabe „%1“; -batch -list-inputs &lt;Art&gt; führt sie auf</translation>
+    </message>
+    <message>
+        <source>several inputs are called &quot;%1&quot;; name the one you mean as group/input</source>
+        <translation>mehrere Eingaben heißen „%1“; nennen Sie die gewünschte in der Form Gruppe/Eingabe</translation>
+    </message>
+    <message>
+        <source>the input &quot;%1&quot; is a switch: give it 1 or 0, not &quot;%2&quot;</source>
+        <translation>die Eingabe „%1“ ist ein Schalter: Geben Sie 1 oder 0 an, nicht „%2“</translation>
+    </message>
+</context>
+<context>
+    <name>BatchListing</name>
+    <message>
+        <source>must exist</source>
+        <translation>muss existieren</translation>
+    </message>
+    <message>
+        <source>must be set</source>
+        <translation>Pflichtangabe</translation>
+    </message>
+    <message>
+        <source>Orv C only</source>
+        <translation>nur Orv C</translation>
+    </message>
+    <message>
+        <source>Orv C++ only</source>
+        <translation>nur Orv C++</translation>
+    </message>
+    <message>
+        <source>default &quot;%1&quot;</source>
+        <translation>Vorgabe „%1“</translation>
+    </message>
+    <message>
+        <source>default for C &quot;%1&quot;</source>
+        <translation>Vorgabe für C „%1“</translation>
+    </message>
+    <message>
+        <source>default for C++ &quot;%1&quot;</source>
+        <translation>Vorgabe für C++ „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>BusyDialog</name>
+    <message>
+        <source>&quot;%1&quot; is running.</source>
+        <translation>„%1“ läuft.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>An&amp;halten</translation>
+    </message>
+</context>
+<context>
+    <name>ConfPage</name>
+    <message>
+        <source>Select Compiler Configuration Options</source>
+        <translation>Konfiguration für den Compiler auswählen</translation>
+    </message>
+    <message>
+        <source>*.p_c</source>
+        <translation>*.p_c</translation>
+    </message>
+    <message>
+        <source>Select Project Configuration Options</source>
+        <translation>Konfiguration für das Projekt auswählen</translation>
+    </message>
+    <message>
+        <source>*.p_a</source>
+        <translation>*.p_a</translation>
+    </message>
+    <message>
+        <source>Select Message Configuration Options</source>
+        <translation>Konfiguration für die Meldungen auswählen</translation>
+    </message>
+    <message>
+        <source>*.p_s</source>
+        <translation>*.p_s</translation>
+    </message>
+    <message>
+        <source>Compiler Configuration File:</source>
+        <translation>Konfigurationsdatei für den Compiler:</translation>
+    </message>
+    <message>
+        <source>Project Configuration Template File:</source>
+        <translation>Vorlagendatei für die Projektkonfiguration:</translation>
+    </message>
+    <message>
+        <source>Message Configuration File:</source>
+        <translation>Konfigurationsdatei für die Meldungen:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Compliance Modules:</source>
+        <translation>Compliance-Module:</translation>
+    </message>
+    <message>
+        <source>Configuration Files:</source>
+        <translation>Konfigurationsdateien:</translation>
+    </message>
+    <message>
+        <source>%1 Configuration Information</source>
+        <translation>Angaben zur Konfiguration für %1</translation>
+    </message>
+    <message>
+        <source>Specify configuration information required by the new %1 project file</source>
+        <translation>Geben Sie die Konfiguration an, die die neue Projektdatei für %1 benötigt</translation>
+    </message>
+    <message>
+        <source>To continue, name an existing file as &quot;%1&quot;.</source>
+        <translation>Um fortzufahren, geben Sie unter „%1“ eine vorhandene Datei an.</translation>
+    </message>
+    <message>
+        <source>Incorrect Configuration File Selected</source>
+        <translation>Falsche Konfigurationsdatei ausgewählt</translation>
+    </message>
+    <message>
+        <source>A %1 configuration file can not be selected when using the %2 analyser</source>
+        <translation>Eine Konfigurationsdatei für %1 kann nicht ausgewählt werden, wenn der Analysator %2 verwendet wird</translation>
+    </message>
+</context>
+<context>
+    <name>ConversionRun</name>
+    <message>
+        <source>The old project file can not be removed: %1. Close programs that use it.</source>
+        <translation>Die alte Projektdatei kann nicht entfernt werden: %1. Schließen Sie Programme, die sie verwenden.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The conversion program did not end.</source>
+        <translation>Das Konvertierungsprogramm hat sich nicht beendet.</translation>
+    </message>
+    <message>
+        <source>The conversion was stopped.</source>
+        <translation>Die Konvertierung wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>The conversion program ended with exit code %1.</source>
+        <translation>Das Konvertierungsprogramm endete mit dem Exit-Code %1.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayCheck</name>
+    <message>
+        <source>no display to open a window on (%1; DISPLAY is %2). Start it in a desktop session.</source>
+        <translation>keine Anzeige, auf der sich ein Fenster öffnen lässt (%1; DISPLAY ist %2). Starten Sie das Programm in einer Desktop-Sitzung.</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayDialog</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Drucken...</translation>
+    </message>
+    <message>
+        <source>Print Report</source>
+        <translation>Bericht drucken</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayOptionsPage</name>
+    <message>
+        <source>Analyse and Display Operations</source>
+        <translation>Analyse und Anzeige</translation>
+    </message>
+    <message>
+        <source>Now that the project is created launch an application to analyse and display the project information</source>
+        <translation>Das Projekt ist erstellt. Starten Sie nun eine Anwendung, um die Projektinformationen zu analysieren und anzuzeigen</translation>
+    </message>
+    <message>
+        <source>New Project Conversion</source>
+        <translation>Neue Projektkonvertierung</translation>
+    </message>
+</context>
+<context>
+    <name>FindDialog</name>
+    <message>
+        <source>searching:</source>
+        <translation>suche in:</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>Search for file</source>
+        <translation>Datei suchen</translation>
+    </message>
+    <message>
+        <source>Files Located</source>
+        <translation>Gefundene Dateien</translation>
+    </message>
+    <message>
+        <source>Search location:</source>
+        <translation>Suchen in:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse</source>
+        <translation>&amp;Durchsuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Starting Directory</source>
+        <translation>Startordner</translation>
+    </message>
+    <message>
+        <source>Unable to search for files</source>
+        <translation>Dateisuche nicht möglich</translation>
+    </message>
+    <message>
+        <source>The specified search location does not exist</source>
+        <translation>Der angegebene Suchort existiert nicht</translation>
+    </message>
+    <message>
+        <source>The specified search location must be a directory</source>
+        <translation>Der angegebene Suchort muss ein Ordner sein</translation>
+    </message>
+    <message>
+        <source>Searching:</source>
+        <translation>Suche:</translation>
+    </message>
+    <message>
+        <source>Stop Search</source>
+        <translation>Suche anhalten</translation>
+    </message>
+    <message>
+        <source>Find Files</source>
+        <translation>Dateien suchen</translation>
+    </message>
+</context>
+<context>
+    <name>HelpManager</name>
+    <message>
+        <source>The help page %1 is not there. Install the suite&apos;s help again.</source>
+        <translation>Die Hilfeseite %1 ist nicht vorhanden. Installieren Sie die Hilfe der Suite erneut.</translation>
+    </message>
+    <message>
+        <source>Assistant Error</source>
+        <translation>Fehler der Hilfeanzeige</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>HelpViewer</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>OrvWizardWindow</name>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>Child Applications Still Running</source>
+        <translation>Gestartete Anwendungen laufen noch</translation>
+    </message>
+    <message>
+        <source>Closing this application will kill child applications.
+Do you wish to close this application?</source>
+        <translation>Wenn Sie diese Anwendung schließen, werden die von ihr gestarteten Anwendungen beendet.
+Möchten Sie diese Anwendung schließen?</translation>
+    </message>
+</context>
+<context>
+    <name>Project</name>
+    <message>
+        <source>Project file not selected</source>
+        <translation>Keine Projektdatei ausgewählt</translation>
+    </message>
+    <message>
+        <source>This project file does not exist</source>
+        <translation>Diese Projektdatei existiert nicht</translation>
+    </message>
+    <message>
+        <source>This is not a valid file selection</source>
+        <translation>Diese Dateiauswahl ist ungültig</translation>
+    </message>
+    <message>
+        <source>This project file is not a valid KOVRA project file</source>
+        <translation>Diese Projektdatei ist keine gültige KOVRA-Projektdatei</translation>
+    </message>
+    <message>
+        <source>This project does not contain any source files</source>
+        <translation>Dieses Projekt enthält keine Quelldateien</translation>
+    </message>
+    <message>
+        <source>None of the files specified in this project exist</source>
+        <translation>Keine der in diesem Projekt angegebenen Dateien existiert</translation>
+    </message>
+    <message>
+        <source>Some of the files specified in this project do not exist, of those that exist, analysis is complete</source>
+        <translation>Einige der in diesem Projekt angegebenen Dateien existieren nicht, die Analyse der vorhandenen ist vollständig</translation>
+    </message>
+    <message>
+        <source>Some of the files specified in this project do not exist, of those that exist, some analysis output exists</source>
+        <translation>Einige der in diesem Projekt angegebenen Dateien existieren nicht, zu den vorhandenen liegen teilweise Analyseergebnisse vor</translation>
+    </message>
+    <message>
+        <source>Some of the files specified in this project do not exist, no analysis output exists</source>
+        <translation>Einige der in diesem Projekt angegebenen Dateien existieren nicht, Analyseergebnisse liegen nicht vor</translation>
+    </message>
+    <message>
+        <source>This project has not been analysed yet</source>
+        <translation>Dieses Projekt wurde noch nicht analysiert</translation>
+    </message>
+    <message>
+        <source>Analysis of this project is out of date</source>
+        <translation>Die Analyse dieses Projekts ist veraltet</translation>
+    </message>
+    <message>
+        <source>This project has been partially analysed</source>
+        <translation>Dieses Projekt wurde teilweise analysiert</translation>
+    </message>
+    <message>
+        <source>Analysis of this project is complete</source>
+        <translation>Die Analyse dieses Projekts ist vollständig</translation>
+    </message>
+    <message>
+        <source>, but configuration changed since last analysis</source>
+        <translation>, aber die Konfiguration wurde seit der letzten Analyse geändert</translation>
+    </message>
+    <message>
+        <source>Files in project:</source>
+        <translation>Dateien im Projekt:</translation>
+    </message>
+    <message>
+        <source>Existing files:</source>
+        <translation>Vorhandene Dateien:</translation>
+    </message>
+    <message>
+        <source>Analysed files:</source>
+        <translation>Analysierte Dateien:</translation>
+    </message>
+    <message>
+        <source>Analysed with:</source>
+        <translation>Analysiert mit:</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectData</name>
+    <message>
+        <source>The temporary file %1 can not be written: %2. Make room in its folder or make it writable.</source>
+        <translation>Die temporäre Datei %1 kann nicht geschrieben werden: %2. Schaffen Sie Platz in ihrem Ordner, oder machen Sie ihn beschreibbar.</translation>
+    </message>
+    <message>
+        <source>A temporary file can not be made in %1. Make room there or make it writable.</source>
+        <translation>In %1 kann keine temporäre Datei angelegt werden. Schaffen Sie dort Platz, oder machen Sie den Ordner beschreibbar.</translation>
+    </message>
+</context>
+<context>
+    <name>RunAppData</name>
+    <message>
+        <source>No data returned from process</source>
+        <translation>Der Prozess hat keine Daten geliefert</translation>
+    </message>
+    <message>
+        <source>[The output is cut here: %1 more bytes are not shown]</source>
+        <translation>[Die Ausgabe ist hier abgeschnitten: %1 weitere Bytes werden nicht angezeigt]</translation>
+    </message>
+    <message>
+        <source>Failed to Start</source>
+        <translation>Start fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Process Crashed</source>
+        <translation>Prozess abgestürzt</translation>
+    </message>
+    <message>
+        <source>Process Failed</source>
+        <translation>Prozess fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>running...</source>
+        <translation>läuft...</translation>
+    </message>
+    <message>
+        <source>Disabled, could not locate required executables:</source>
+        <translation>Deaktiviert, benötigte Programme wurden nicht gefunden:</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>This application is already running</source>
+        <translation>Diese Anwendung läuft bereits</translation>
+    </message>
+    <message>
+        <source>A temporary file can not be written in %1. Make room there or make it writable.</source>
+        <translation>In %1 kann keine temporäre Datei geschrieben werden. Schaffen Sie dort Platz, oder machen Sie den Ordner beschreibbar.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectFileWidgets</name>
+    <message>
+        <source>Edit the specified file</source>
+        <translation>Die angegebene Datei bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Browse the file directory structure to locate the required file</source>
+        <translation>Die Ordner durchblättern, um die benötigte Datei auszuwählen</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>S&amp;uchen...</translation>
+    </message>
+    <message>
+        <source>Perform a search on the file directory structure to locate the required file</source>
+        <translation>Die Ordner nach der benötigten Datei durchsuchen</translation>
+    </message>
+    <message>
+        <source>Edit failed</source>
+        <translation>Bearbeiten nicht möglich</translation>
+    </message>
+    <message>
+        <source>Can not edit file, the file does not exist</source>
+        <translation>Die Datei kann nicht bearbeitet werden, sie existiert nicht</translation>
+    </message>
+    <message>
+        <source>Can not open file</source>
+        <translation>Die Datei kann nicht geöffnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>SetProductPage</name>
+    <message>
+        <source>Orv C [Project is &apos;C&apos; Code Only]</source>
+        <translation>Orv C [Projekt enthält nur C-Code]</translation>
+    </message>
+    <message>
+        <source>Orv C++ [Project contains &apos;C++&apos; Code]</source>
+        <translation>Orv C++ [Projekt enthält C++-Code]</translation>
+    </message>
+    <message>
+        <source>Select KOVRA Analyser Tool</source>
+        <translation>KOVRA-Analysator auswählen</translation>
+    </message>
+    <message>
+        <source>Specify which Orv tool will be used to analyse the source code.</source>
+        <translation>Geben Sie an, welches Orv-Werkzeug den Quellcode analysieren soll.</translation>
+    </message>
+    <message>
+        <source>You need to select which of the KOVRA analyser tools you will be using to analyse the newly created project. 
+
+Orv C and Orv C++ operate with different configuration settings so it is important to specify which of these analysers you will be using. 
+
+If your project is purely &apos;C&apos; code then select Orv C. 
+
+If your project is a mixture of &apos;C&apos; and &apos;C++&apos; code then select Orv C++ or create separate projects for the &apos;C&apos; and &apos;C++&apos; parts of your project.</source>
+        <translation>Wählen Sie aus, mit welchem der KOVRA-Analysatoren Sie das neu erstellte Projekt analysieren werden. 
+
+Orv C und Orv C++ arbeiten mit unterschiedlichen Konfigurationen. Daher ist es wichtig anzugeben, welchen der beiden Analysatoren Sie verwenden werden. 
+
+Wenn Ihr Projekt ausschließlich aus C-Code besteht, wählen Sie Orv C. 
+
+Wenn Ihr Projekt C- und C++-Code enthält, wählen Sie Orv C++, oder erstellen Sie getrennte Projekte für den C- und den C++-Teil Ihres Projekts.</translation>
+    </message>
+    <message>
+        <source>KOVRA Analyser</source>
+        <translation>KOVRA-Analysator</translation>
+    </message>
+    <message>
+        <source>&lt;font color=&apos;red&apos;&gt;&lt;U&gt;WARNING&lt;/U&gt;&lt;P&gt;There are no KOVRA Analysers installed on this machine.&lt;/font&gt;</source>
+        <translation>&lt;font color=&apos;red&apos;&gt;&lt;U&gt;WARNUNG&lt;/U&gt;&lt;P&gt;Auf diesem Rechner sind keine KOVRA-Analysatoren installiert.&lt;/font&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>Select Directory</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>*</source>
+        <translation>*</translation>
+    </message>
+    <message>
+        <source>Project Information</source>
+        <translation>Projektangaben</translation>
+    </message>
+    <message>
+        <source>Specify new project name and conversion project type</source>
+        <translation>Geben Sie den Namen des neuen Projekts und die Art des zu konvertierenden Projekts an</translation>
+    </message>
+    <message>
+        <source>Name of project to be created:</source>
+        <translation>Name des neuen Projekts:</translation>
+    </message>
+    <message>
+        <source>Location for new project file:</source>
+        <translation>Ort der neuen Projektdatei:</translation>
+    </message>
+    <message>
+        <source>Original project type:</source>
+        <translation>Art des ursprünglichen Projekts:</translation>
+    </message>
+    <message>
+        <source>&lt;P&gt;An error has occured:&lt;P&gt;For this application to operate successfully it requires an xml data file:&lt;P&gt;&lt;b&gt;&lt;i&gt;%1&lt;/i&gt;&lt;/b&gt;.&lt;P&gt;This file is not of the correct format or could not be located.</source>
+        <translation>&lt;P&gt;Ein Fehler ist aufgetreten:&lt;P&gt;Diese Anwendung benötigt für ihre Arbeit eine XML-Datei:&lt;P&gt;&lt;b&gt;&lt;i&gt;%1&lt;/i&gt;&lt;/b&gt;.&lt;P&gt;Diese Datei hat nicht das richtige Format oder wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The selected location for the new project file does not exist.
+Do you wish to create this directory?
+</source>
+        <translation>Der ausgewählte Ort für die neue Projektdatei existiert nicht.
+Möchten Sie diesen Ordner erstellen?
+</translation>
+    </message>
+    <message>
+        <source>The selected location can not be created.
+</source>
+        <translation>Der ausgewählte Ort kann nicht erstellt werden.
+</translation>
+    </message>
+    <message>
+        <source>Project file already exists</source>
+        <translation>Projektdatei existiert bereits</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite this file?</source>
+        <translation>Möchten Sie diese Datei überschreiben?</translation>
+    </message>
+    <message>
+        <source>Can not overwrite file:</source>
+        <translation>Datei kann nicht überschrieben werden:</translation>
+    </message>
+    <message>
+        <source>Can not create file:</source>
+        <translation>Datei kann nicht erstellt werden:</translation>
+    </message>
+    <message>
+        <source>Project File can not be created</source>
+        <translation>Projektdatei kann nicht erstellt werden</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>Create KOVRA Project</source>
+        <translation>KOVRA-Projekt erstellen</translation>
+    </message>
+    <message>
+        <source>ProjectCreation options:
+-file &lt;file&gt;: xml definition file
+-cpp: Create a Orv C++ file
+-c: Create a Orv C file
+-prj &lt;file&gt;: project file to be created
+-mp &lt;file&gt;: Message Personality
+-ap &lt;file&gt;: Analyser Personality
+-cp &lt;file&gt;: Compiler Personality
+</source>
+        <translation>ProjectCreation options:
+-file &lt;file&gt;: xml definition file
+-cpp: Create a Orv C++ file
+-c: Create a Orv C file
+-prj &lt;file&gt;: project file to be created
+-mp &lt;file&gt;: Message Personality
+-ap &lt;file&gt;: Analyser Personality
+-cp &lt;file&gt;: Compiler Personality
+</translation>
+    </message>
+</context>
+<context>
+    <name>XmlPage</name>
+    <message>
+        <source>Project Conversion Information</source>
+        <translation>Angaben zur Projektkonvertierung</translation>
+    </message>
+    <message>
+        <source>Specify Information that identifies project to be converted</source>
+        <translation>Geben Sie an, welches Projekt konvertiert werden soll</translation>
+    </message>
+    <message>
+        <source>To continue, name an existing file or folder in &quot;%1&quot;.</source>
+        <translation>Um fortzufahren, geben Sie unter „%1“ eine vorhandene Datei oder einen vorhandenen Ordner an.</translation>
+    </message>
+    <message>
+        <source>To continue, fill in &quot;%1&quot;.</source>
+        <translation>Um fortzufahren, füllen Sie „%1“ aus.</translation>
+    </message>
+</context>
+</TS>
