@@ -771,7 +771,7 @@ Wenn Ihr Projekt C- und C++-Code enthält, wählen Sie Orv C++, oder erstellen S
     </message>
     <message>
         <source>Specify new project name and conversion project type</source>
-        <translation>Geben Sie den Namen des neuen Projekts und die Art des zu konvertierenden Projekts an</translation>
+        <translation>Legen Sie den Namen des neuen Projekts und die Art der Konvertierung fest</translation>
     </message>
     <message>
         <source>Name of project to be created:</source>
