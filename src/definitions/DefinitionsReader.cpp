@@ -42,7 +42,8 @@ void readProjectCreator(QXmlStreamReader& xml, ProjectCreatorData& creator, cons
         } else if (name == "exe"_L1) {
             creator.exe = expand(xml.readElementText());
         } else if (name == "exeargs"_L1) {
-            creator.exeArgs = xml.readElementText().split(whiteSpace(), Qt::SkipEmptyParts);
+            // Simplified text has single blanks between its words.
+            creator.exeArgs = xml.readElementText().simplified().split(u' ', Qt::SkipEmptyParts);
         } else if (name == "orvcProject"_L1) {
             creator.orvcProject |= xml.readElementText().toInt() != 0;
         } else if (name == "orvcppProject"_L1) {

@@ -8,12 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array platformNames = {u"WINDOWS_PLATFORM", u"LINUX", u"SOLARIS", u"HP"};
+constexpr std::array<QStringView, 4> platformNames = {u"WINDOWS_PLATFORM", u"LINUX", u"SOLARIS", u"HP"};
 
 bool isForeignPlatform(QStringView name, QStringView platform)
 {
-    return name != platform &&
-           std::ranges::any_of(platformNames, [&](const char16_t* known) { return name == QStringView(known); });
+    return std::ranges::find(platformNames, name) != platformNames.end() && name != platform;
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -31,7 +32,7 @@ void readInputType(QXmlStreamReader& xml, ArgumentDefinition& definition)
     definition.cOnly = analyser == "C_ONLY"_L1;
     definition.cppOnly = analyser == "CPP_ONLY"_L1;
     const QString text = xml.readElementText();
-    const auto known = std::ranges::find(inputTypes, text, [](const auto& entry) { return QString(entry.first); });
+    const auto known = std::ranges::find_if(inputTypes, [&](const auto& entry) { return text == entry.first; });
     if (known != inputTypes.end()) {
         definition.inputType = known->second;
     }
@@ -62,8 +63,17 @@ void readMustBeSet(QXmlStreamReader& xml, ArgumentDefinition& definition)
 
 QString valueKey(const ArgumentDefinition& definition, const ProjectCreatorData& creator)
 {
-    static const QRegularExpression nonWord(u"\\W+"_s, QRegularExpression::UseUnicodePropertiesOption);
-    return QString(definition.displayName + definition.argument + creator.name).remove(nonWord);
+    const QString text = definition.displayName + definition.argument + creator.name;
+    if (std::ranges::any_of(text, [](QChar character) { return character.unicode() > 127; })) {
+        static const QRegularExpression nonWord(u"\\W+"_s, QRegularExpression::UseUnicodePropertiesOption);
+        return QString(text).remove(nonWord);
+    }
+    // The same for plain names, which a large file has thousands of.
+    QString key;
+    key.reserve(text.size());
+    std::ranges::copy_if(text, std::back_inserter(key),
+                         [](QChar character) { return character.isLetterOrNumber() || character == u'_'; });
+    return key;
 }
 
 } // namespace

@@ -36,7 +36,10 @@ QString withEnvironmentValue(QString text, const QStringList& environment)
 
 QString ExpandPlaceholders(const QString& text, const Places& places, const QStringList& environment)
 {
-    const std::pair<QLatin1StringView, QString> folders[] = {
+    if (!text.contains(u'%')) {
+        return text;
+    }
+    const std::pair<QLatin1StringView, const QString&> folders[] = {
         {"%I%"_L1, places.installPath}, {"%ORVC%"_L1, places.cInstallDir}, {"%ORVCPP%"_L1, places.cppInstallDir}};
     for (const auto& [placeholder, folder] : folders) {
         if (text.contains(placeholder)) {
@@ -46,8 +49,5 @@ QString ExpandPlaceholders(const QString& text, const Places& places, const QStr
     if (text.contains("%R%"_L1)) {
         return settingsValue(text);
     }
-    if (text.contains(u'%')) {
-        return withEnvironmentValue(text, environment);
-    }
-    return text;
+    return withEnvironmentValue(text, environment);
 }
