@@ -27,12 +27,11 @@ bool isSharedWithValue(const QString& option)
 
 void addInput(BatchArguments& batch, const QString& text)
 {
-    const qsizetype separator = text.indexOf(u'=');
-    if (separator < 1) {
+    if (text.indexOf(u'=') < 1) {
         batch.error = Text::tr("-input wants <name>=<value>, not \"%1\"").arg(text);
         return;
     }
-    batch.inputs.emplaceBack(text.first(separator), text.sliced(separator + 1));
+    batch.inputs += text;
 }
 
 void takeValue(BatchArguments& batch, const QString& option, const QString& value)

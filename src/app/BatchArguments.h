@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QList>
 #include <QString>
 #include <QStringList>
-
-#include <utility>
 
 /// What the command line asks of a conversion without a window.
 struct BatchArguments
@@ -16,8 +13,8 @@ struct BatchArguments
     QString projectFile;
     /// The conversion type's name.
     QString type;
-    /// Input names with their values, as given.
-    QList<std::pair<QString, QString>> inputs;
+    /// Inputs as given, <name>=<value>; the name may hold a "=" itself.
+    QStringList inputs;
     bool overwrite = false;
     bool json = false;
     /// What is wrong with the command line; empty when nothing is.

@@ -87,6 +87,9 @@ QString BatchConversion::prepare(const BatchArguments& batch, const QStringList&
         problem = chooseAnalyser(arguments);
     }
     if (problem.isEmpty()) {
+        problem = checkName(batch.projectFile);
+    }
+    if (problem.isEmpty()) {
         problem = fillInputs(batch);
     }
     if (problem.isEmpty()) {
@@ -116,14 +119,30 @@ QString BatchConversion::chooseAnalyser(const QStringList& arguments)
     if (state.noAnalyserInstalled) {
         complain(tr("warning: there are no KOVRA Analysers installed on this machine"));
     }
+    const qsizetype c = arguments.lastIndexOf(u"-c"_s);
+    const qsizetype cpp = arguments.lastIndexOf(u"-cpp"_s);
+    if (c != cpp && (c > cpp) != state.isORVC) {
+        return tr("%1: this conversion type or installation allows only the other analyser")
+            .arg(c > cpp ? u"-c"_s : u"-cpp"_s);
+    }
     return state.analyserFixed ? QString() : tr("the conversion type serves both analysers: choose with -c or -cpp");
+}
+
+// A name holds no further dot and ends in .prj, as one made of the wizard's first page does.
+QString BatchConversion::checkName(const QString& projectFile) const
+{
+    const QString asked = QDir::cleanPath(QFileInfo(projectFile).absoluteFilePath());
+    if (!state.fileName.isEmpty() && QDir::fromNativeSeparators(state.ProjectFile()) == asked) {
+        return {};
+    }
+    return tr("-prj: %1 can not be the project file; it would become %2").arg(projectFile, state.ProjectFile());
 }
 
 QString BatchConversion::fillInputs(const BatchArguments& batch)
 {
     BatchInputs inputs(state.projectCreator->inputData, state.isORVC);
-    for (const auto& [name, value] : batch.inputs) {
-        const QString problem = inputs.set(name, value);
+    for (const QString& input : batch.inputs) {
+        const QString problem = inputs.set(input);
         if (!problem.isEmpty()) {
             return u"-input: "_s + problem;
         }

@@ -24,6 +24,7 @@ private:
     QString prepare(const BatchArguments& batch, const QStringList& arguments);
     QString chooseType(const QString& type);
     QString chooseAnalyser(const QStringList& arguments);
+    QString checkName(const QString& projectFile) const;
     QString fillInputs(const BatchArguments& batch);
     QString checkPersonalities();
     int convert(const BatchArguments& batch);

@@ -27,12 +27,13 @@ bool isNo(const QString& value)
 
 } // namespace
 
-BatchInputs::BatchInputs(const ArgumentDefinitions& definitions, bool isC)
+BatchInputs::BatchInputs(const ArgumentDefinitions& definitions, bool forC)
+    : isC(forC)
 {
-    collect(definitions, {}, isC);
+    collect(definitions, {});
 }
 
-void BatchInputs::collect(const ArgumentDefinitions& definitions, const QString& path, bool isC)
+void BatchInputs::collect(const ArgumentDefinitions& definitions, const QString& path)
 {
     for (const auto& definition : definitions) {
         const QString ownPath = path + definition->displayName;
@@ -47,36 +48,71 @@ void BatchInputs::collect(const ArgumentDefinitions& definitions, const QString&
             state.text = preset;
         }
         fields.append({definition.get(), ownPath, &definitions, state});
-        collect(definition->children, ownPath + u'/', isC);
+        // Of several presets the last one holds, as among buttons that exclude each other.
+        if (state.checked && definition->inputType == InputType::Radio) {
+            choose(fields.last());
+        }
+        collect(definition->children, ownPath + u'/');
     }
 }
 
-QString BatchInputs::set(const QString& name, const QString& value)
+// A whole path names one field; a field's own name is enough where it is the only one of the chosen analyser.
+QList<BatchInputs::Field*> BatchInputs::named(const QString& name)
 {
-    const auto isNamed = [&](const Field& field) {
-        return field.definition->inputType != InputType::Group &&
-               (field.path == name || field.definition->displayName == name);
-    };
-    const auto matches = std::ranges::count_if(fields, isNamed);
-    const auto field = std::ranges::find_if(fields, isNamed);
-    if (matches == 0) {
-        return Text::tr("the conversion type has no input \"%1\"; -batch -list-inputs <type> lists them").arg(name);
+    QList<Field*> byPath;
+    QList<Field*> byName;
+    QList<Field*> hidden;
+    for (Field& field : fields) {
+        if (field.definition->inputType == InputType::Group ||
+            (field.path != name && field.definition->displayName != name)) {
+            continue;
+        }
+        (field.definition->isHiddenFor(isC) ? hidden : field.path == name ? byPath : byName) += &field;
     }
-    if (matches > 1) {
+    return !byPath.isEmpty() ? byPath : !byName.isEmpty() ? byName : hidden;
+}
+
+QString BatchInputs::set(const QString& input)
+{
+    QList<Field*> found;
+    qsizetype separator = -1;
+    do {
+        separator = input.indexOf(u'=', separator + 1);
+        found = separator < 0 ? QList<Field*>() : named(input.first(separator));
+    } while (separator >= 0 && found.isEmpty());
+    if (found.isEmpty()) {
+        return Text::tr("the conversion type has no input \"%1\"; -batch -list-inputs <type> lists them")
+            .arg(input.section(u'=', 0, 0));
+    }
+    const QString name = input.first(separator);
+    Field& field = *found.first();
+    if (field.definition->isHiddenFor(isC)) {
+        return Text::tr("the input \"%1\" is for the other analyser").arg(name);
+    }
+    if (found.size() > 1) {
         return Text::tr("several inputs are called \"%1\"; name the one you mean as group/input").arg(name);
     }
-    if (field->state.hasText) {
-        field->state.text = value;
+    if (field.state.hasText) {
+        field.state.text = input.sliced(separator + 1);
         return {};
     }
+    return setSwitch(field, input.sliced(separator + 1));
+}
+
+QString BatchInputs::setSwitch(Field& field, const QString& value)
+{
     const QString answer = value.toLower();
+    const QString& name = field.definition->displayName;
     if (!isYes(answer) && !isNo(answer)) {
         return Text::tr("the input \"%1\" is a switch: give it 1 or 0, not \"%2\"").arg(name, value);
     }
-    field->state.checked = isYes(answer);
-    if (field->state.checked && field->definition->inputType == InputType::Radio) {
-        choose(*field);
+    if (field.definition->inputType == InputType::Radio) {
+        if (isNo(answer)) {
+            return Text::tr("the input \"%1\" is one of a choice: give 1 to the one you want").arg(name);
+        }
+        choose(field);
     }
+    field.state.checked = isYes(answer);
     return {};
 }
 

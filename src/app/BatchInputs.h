@@ -15,9 +15,9 @@ class BatchInputs
 public:
     BatchInputs(const ArgumentDefinitions& definitions, bool isC);
 
-    /// Gives the field with this name (of a group's field: also "group/field") its value. An empty text on success,
-    /// else what is wrong.
-    QString set(const QString& name, const QString& value);
+    /// Takes <name>=<value>, where the name is a field's path ("group/field") or its own name. An empty text on
+    /// success, else what is wrong.
+    QString set(const QString& input);
     /// What the fields hold: the values given, else the defaults.
     FieldSource source() const;
 
@@ -31,8 +31,11 @@ private:
         FieldState state;
     };
 
-    void collect(const ArgumentDefinitions& definitions, const QString& path, bool isC);
+    void collect(const ArgumentDefinitions& definitions, const QString& path);
+    QList<Field*> named(const QString& name);
+    QString setSwitch(Field& field, const QString& value);
     void choose(Field& radio);
 
     QList<Field> fields;
+    bool isC;
 };

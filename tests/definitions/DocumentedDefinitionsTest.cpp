@@ -62,7 +62,7 @@ private Q_SLOTS:
         QVERIFY(creator.inputData.at(0)->fileMustExist && creator.inputData.at(1)->mustBeSet);
 
         BatchInputs inputs(creator.inputData, true);
-        QCOMPARE(inputs.set(u"File list"_s, u"files.txt"_s) + inputs.set(u"Order/Sorted"_s, u"1"_s), QString());
+        QCOMPARE(inputs.set(u"File list=files.txt"_s) + inputs.set(u"Order/Sorted=1"_s), QString());
         for (const auto& input : creator.inputData) {
             InputValues::value(*input, inputs.source(), true);
         }

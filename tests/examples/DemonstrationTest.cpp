@@ -221,6 +221,12 @@ private Q_SLOTS:
         row("unknown type", target + QStringList{u"-type"_s, u"x"_s}, 2, u"no conversion type \"x\""_s);
         row("analyser open", target + list.first(2), 2, u"-c or -cpp"_s);
         row("unknown input", target + list + QStringList{u"-input"_s, u"x=1"_s}, 2, u"no input \"x\""_s);
+        row("no name", QStringList{u"-prj"_s, u"new/"_s} + list, 2, u"-prj: new/ can not be the project file"_s);
+        row("two endings", QStringList{u"-prj"_s, u"new.v2.prj"_s} + list, 2, u"it would become "_s);
+        row("one of a choice", target + list + QStringList{u"-input"_s, u"Absolute=0"_s}, 2, u"one of a choice"_s);
+        row("other analyser's input",
+            target + QStringList{u"-type"_s, databaseType(), u"-c"_s, u"-input"_s, u"Only C++ sources=1"_s}, 2,
+            u"for the other analyser"_s);
         row("no switch", target + list + QStringList{u"-input"_s, u"Absolute=maybe"_s}, 2, u"give it 1 or 0"_s);
         row("must exist", target + list, 2, u"\"File list\" must name an existing file"_s);
         row("personality missing",
