@@ -66,7 +66,10 @@ void ProcessGroup::release(bool killNow)
 void ProcessGroup::killLeftovers()
 {
     for (const pid_t group : handle->leftovers) {
-        ::kill(-group, SIGKILL);
+        // While the group lives, no new process gets its leader's number: one that has it leads a group of others.
+        if (::kill(group, 0) != 0) {
+            ::kill(-group, SIGKILL);
+        }
     }
     handle->leftovers.clear();
 }

@@ -198,7 +198,7 @@ void RunAppData::ActivateComplete()
     awaitingEnd = false;
     lockWindow(false);
     markRunning(false);
-    if (terminated) {
+    if (terminated || appRegistry->closingDown) {
         return;
     }
     QWidget* window = MainWindow::current();

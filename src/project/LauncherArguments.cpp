@@ -2,6 +2,7 @@
 #include "app/AppRegistry.h"
 #include "definitions/PathHelpers.h"
 #include "project/Project.h"
+#include "project/ProjectReader.h"
 #include "project/ProjectSurvey.h"
 
 #include <QFile>
@@ -101,6 +102,7 @@ QString ProjectData::crossModuleListFile(QString& problem) const
         return fileName;
     }
     QTextStream stream(&file);
+    stream.setEncoding(ProjectReader::encoding);
     crossModuleListText(stream);
     stream.flush();
     if (!file.flush() || file.error() != QFile::NoError) {
