@@ -1,15 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/HelpCollection.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QHelpEngineCore>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Told by its first bytes: a collection may have any name, and the engine would turn an empty file into one.
+bool isDatabase(const QString& profile)
+{
+    QFile file(profile);
+    return file.open(QIODevice::ReadOnly) && file.read(15) == "SQLite format 3";
+}
+
+} // namespace
+
 HelpCollection::HelpCollection(const QString& profile)
     : folder(QFileInfo(profile).absolutePath())
 {
-    if (!profile.endsWith(".qhc"_L1) || !QFileInfo(profile).isFile()) {
+    if (!QFileInfo(profile).isFile() || !isDatabase(profile)) {
         return;
     }
     engine = std::make_unique<QHelpEngineCore>(profile);

@@ -10,13 +10,14 @@
 
 class QHelpEngineCore;
 
-/// The help profile, when it is a Qt help collection (*.qhc). Another profile holds nothing.
+/// The help profile, when it is a Qt help collection, whatever it is called. Another profile holds nothing.
 class HelpCollection
 {
 public:
     explicit HelpCollection(const QString& profile);
     ~HelpCollection();
 
+    bool isCollection() const { return engine != nullptr; }
     /// Where a page, named by its path as if it lay beside the profile, is shown from: its address inside the
     /// collection, else the file's; empty when it is in neither.
     QUrl find(const QString& pagePath) const;

@@ -21,7 +21,6 @@ HelpManager::HelpManager(QObject* parent)
     : QObject(parent)
     , assistant(new AssistantClient({}, this))
 {
-    assistant->setArguments({appRegistry->installValues.helpProfileStr, profile()});
     if (parent) {
         parent->installEventFilter(this);
     }
@@ -38,6 +37,14 @@ QString HelpManager::HelpDirectory()
 QString HelpManager::profile()
 {
     return QDir::cleanPath(HelpDirectory() + u'/' + appRegistry->installValues.helpFile);
+}
+
+QStringList HelpManager::ViewerArguments(const HelpCollection& collection)
+{
+    const QString& given = appRegistry->installValues.helpProfileStr;
+    // Qt Assistant no longer knows the switch of the old profiles.
+    const bool outdated = collection.isCollection() && given == StringValues().helpProfileStr;
+    return {outdated ? u"-collectionFile"_s : given, profile()};
 }
 
 bool HelpManager::HelpAvailable()
@@ -78,6 +85,7 @@ void HelpManager::show(const QUrl& page)
 {
     // Assistant shows an empty page for a file outside its collections.
     if (page.scheme() == "qthelp"_L1 && !AssistantClient::program().isEmpty()) {
+        assistant->setArguments(ViewerArguments(*collection));
         assistant->showPage(page);
         return;
     }

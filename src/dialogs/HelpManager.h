@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -23,6 +24,8 @@ public:
     static QString HelpDirectory();
     /// True when the suite has a help area with a profile in it.
     static bool HelpAvailable();
+    /// How Qt Assistant is told of the profile.
+    static QStringList ViewerArguments(const HelpCollection& collection);
     /// The page for F1 and the wizard's help button.
     static QString currentHelpPage;
 

@@ -85,6 +85,34 @@ private Q_SLOTS:
         QVERIFY(viewer.findChild<QTextBrowser*>()->toPlainText().startsWith("The configuration files"_L1));
     }
 
+    void takesACollectionUnderTheDefaultName()
+    {
+        Installation suite;
+        installHelp(suite);
+        const QString profile = suite.path(u"help/wendle.adp"_s);
+        QVERIFY(QFile::rename(suite.path(u"help/projectCreation.qhc"_s), profile));
+        AppRegistry& registry = suite.start();
+        QVERIFY(HelpManager::HelpAvailable());
+        const HelpCollection collection(profile);
+        QCOMPARE(collection.find(suite.path(u"help/startPage.htm"_s)).scheme(), u"qthelp"_s);
+        QCOMPARE(HelpManager::ViewerArguments(collection), (QStringList{u"-collectionFile"_s, profile}));
+        registry.installValues.helpProfileStr = u"-own"_s;
+        QCOMPARE(HelpManager::ViewerArguments(collection), (QStringList{u"-own"_s, profile}));
+    }
+
+    void leavesAnOldProfileAlone()
+    {
+        Installation suite;
+        for (const QByteArray& contents : {QByteArray("<assistantconfig/>"), QByteArray()}) {
+            const QString profile = suite.write(u"help/wendle.adp"_s, contents);
+            suite.start();
+            const HelpCollection collection(profile);
+            QVERIFY(!collection.isCollection());
+            QCOMPARE(HelpManager::ViewerArguments(collection), (QStringList{u"-profile"_s, profile}));
+            QCOMPARE(suite.read(u"help/wendle.adp"_s), contents);
+        }
+    }
+
     void saysWhatFails()
     {
         Installation suite;
@@ -154,16 +182,19 @@ private Q_SLOTS:
         };
         Installation suite;
         installHelp(suite);
+        suite.start();
+        const QString profile = suite.path(u"help/wendle.adp"_s);
+        QVERIFY(QFile::rename(suite.path(u"help/projectCreation.qhc"_s), profile));
         {
             AssistantClient client;
             QSignalSpy errors(&client, &AssistantClient::error);
-            client.setArguments({u"-collectionFile"_s, suite.path(u"help/projectCreation.qhc"_s)});
+            client.setArguments(HelpManager::ViewerArguments(HelpCollection(profile)));
             client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/projectCreation.htm"_s));
             QTRY_VERIFY_WITH_TIMEOUT(windows().contains("KOVRA Help"), 30000);
             client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/configuration.htm"_s));
             QVERIFY(errors.isEmpty());
             // One that dies is reported, and started again with the next request.
-            QProcess::execute(u"pkill"_s, {u"-KILL"_s, u"-f"_s, suite.path(u"help/projectCreation.qhc"_s)});
+            QProcess::execute(u"pkill"_s, {u"-KILL"_s, u"-f"_s, profile});
             QTRY_COMPARE_WITH_TIMEOUT(errors.size(), 1, 10000);
             QVERIFY(!windows().contains("KOVRA Help"));
             client.showPage(QUrl(u"qthelp://org.kovra.projectcreation/help/projectCreation.htm"_s));
