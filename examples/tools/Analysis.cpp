@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QSaveFile>
 
@@ -47,40 +48,64 @@ QByteArray measures(const QString& source, const QByteArray& messages, bool forC
            QByteArray::number(lines) + '\n';
 }
 
-bool analyse(const SourceEntry& entry, const ToolOptions& options, bool forC)
+bool analyse(const QString& source, const QString& output, const ToolOptions& options, bool forC)
 {
-    QDir().mkpath(entry.owner().outputFolder());
+    std::printf("%s\n", qPrintable(source));
+    std::fflush(stdout);
+    QDir().mkpath(QFileInfo(output).absolutePath());
     QProcess analyser;
-    analyser.start(u"cppcheck"_s, analyserArguments(options, entry.sourcePath(), forC));
+    analyser.start(u"cppcheck"_s, analyserArguments(options, source, forC));
     if (!analyser.waitForFinished(-1) || analyser.exitStatus() != QProcess::NormalExit || analyser.exitCode() != 0) {
-        std::fprintf(stderr, "%s: %s\n%s", qPrintable(entry.sourcePath()), qPrintable(analyser.errorString()),
+        std::fprintf(stderr, "%s: %s\n%s", qPrintable(source), qPrintable(analyser.errorString()),
                      analyser.readAll().constData());
         return false;
     }
     const QByteArray messages = analyser.readAllStandardError();
-    return write(entry.errorPath(), messages) &&
-           write(entry.metricsPath(), measures(entry.sourcePath(), messages, forC));
+    if (!write(output + u".err"_s, messages) || !write(output + u".met"_s, measures(source, messages, forC))) {
+        std::fprintf(stderr, "%s: its results can not be written\n", qPrintable(output));
+        return false;
+    }
+    return true;
 }
 
-} // namespace
+int analyseList(const ToolOptions& options, bool forC)
+{
+    int failed = 0;
+    for (const ToolOptions::Source& source : options.sources) {
+        const QString output = source.outputFolder + u'/' + QFileInfo(source.path).fileName();
+        failed += int(!analyse(source.path, output, options, forC));
+    }
+    return failed;
+}
 
 int analyseProject(const ToolOptions& options, bool forC)
 {
     const Project project(options.projectFile);
     if (!project.statusOk) {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(options.projectFile), qPrintable(project.statusText));
-        return 1;
+        throw QString(options.projectFile + u": "_s + project.statusText);
     }
     int failed = 0;
     project.root.visitProjects([&](const ProjectData& part) {
         for (const SourceEntry& entry : part.files) {
             if (QFile::exists(entry.sourcePath()) && !entry.isUpToDate()) {
-                std::printf("%s\n", qPrintable(entry.sourcePath()));
-                std::fflush(stdout);
-                failed += int(!analyse(entry, options, forC));
+                const QString output = part.outputFolder() + u'/' + entry.fileName().toString();
+                failed += int(!analyse(entry.sourcePath(), output, options, forC));
             }
         }
         return false;
     });
     return failed;
+}
+
+} // namespace
+
+int analyseSources(const ToolOptions& options, bool forC)
+{
+    if (!options.projectFile.isEmpty()) {
+        return analyseProject(options, forC);
+    }
+    if (options.sources.isEmpty()) {
+        throw u"nothing to analyse: give a project with -prj or sources with -list"_s;
+    }
+    return analyseList(options, forC);
 }

@@ -26,9 +26,9 @@ public:
             } else if (word == "-outputpath"_L1) {
                 options.outputFolder = value();
             } else if (word == "-i"_L1) {
-                options.includeFolders += value();
+                addTo(options.includeFolders, value());
             } else if (word == "-d"_L1) {
-                options.defines += value();
+                addTo(options.defines, value());
             } else if (word == "-cmaf"_L1) {
                 options.crossModuleFile = value();
             } else if (isList && !word.startsWith(u'-')) {
@@ -38,6 +38,13 @@ public:
     }
 
 private:
+    static void addTo(QStringList& list, const QString& value)
+    {
+        if (!value.isEmpty()) {
+            list += value;
+        }
+    }
+
     void readFile(const QString& name, bool isList)
     {
         if (seen.contains(name)) {
@@ -56,15 +63,20 @@ private:
         }
     }
 
+    static bool isQuoted(const QString& text)
+    {
+        return text.size() > 1 && text.startsWith(u'"') && text.endsWith(u'"');
+    }
+
     // An option and its value, which is quoted when it is a path.
     static QStringList words(const QString& line)
     {
-        if (line.startsWith(u'"')) {
-            return {line.sliced(1, line.size() - 2)};
+        if (!line.startsWith(u'-')) {
+            return {isQuoted(line) ? line.sliced(1, line.size() - 2) : line};
         }
         const QString option = line.section(u' ', 0, 0);
         const QString value = line.section(u' ', 1).trimmed();
-        return {option, value.startsWith(u'"') && value.size() > 1 ? value.sliced(1, value.size() - 2) : value};
+        return {option, isQuoted(value) ? value.sliced(1, value.size() - 2) : value};
     }
 
     QSet<QString> seen;

@@ -2,6 +2,7 @@
 #include "Reports.h"
 #include "OptionFiles.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -28,7 +29,7 @@ QString htmlReport(const ToolOptions& options)
     for (const ToolOptions::Source& source : options.sources) {
         const QStringList messages = messagesOf(source);
         total += messages.size();
-        rows += u"<h3>%1 (%2)</h3>\n<ul>\n"_s.arg(source.path.toHtmlEscaped()).arg(messages.size());
+        rows += u"<h3>%1 (%2)</h3>\n<ul>\n"_s.arg(source.path.toHtmlEscaped(), QString::number(messages.size()));
         for (const QString& message : messages) {
             rows += u"<li>"_s + message.toHtmlEscaped() + u"</li>\n"_s;
         }
@@ -63,10 +64,22 @@ QString crossModuleReport(const ToolOptions& options)
             text += paths.join(u"  "_s) + u'\n';
         }
     }
+    if (options.crossModuleFile.isEmpty()) {
+        return text;
+    }
+    QDir().mkpath(QFileInfo(options.crossModuleFile).absolutePath());
     QSaveFile file(options.crossModuleFile);
-    if (!options.crossModuleFile.isEmpty() && file.open(QIODevice::WriteOnly)) {
-        file.write(text.toUtf8());
-        file.commit();
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.commit()) {
+        throw QString(options.crossModuleFile + u": "_s + file.errorString());
     }
     return text;
+}
+
+QString messageCount(const ToolOptions& options)
+{
+    qsizetype total = 0;
+    for (const ToolOptions::Source& source : options.sources) {
+        total += messagesOf(source).size();
+    }
+    return u"%1 messages in %2 analysed files"_s.arg(total).arg(options.sources.size());
 }

@@ -9,5 +9,8 @@ struct ToolOptions;
 QString htmlReport(const ToolOptions& options);
 
 /// What concerns several sources at once: how often each message occurs, and sources that share a name. Also written to
-/// the cross-module analysis file.
+/// the cross-module analysis file; throws a QString when that can not be written.
 QString crossModuleReport(const ToolOptions& options);
+
+/// One line: how many messages there are.
+QString messageCount(const ToolOptions& options);

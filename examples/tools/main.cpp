@@ -24,17 +24,19 @@ void print(const QString& text)
 int run(const QString& tool, const ToolOptions& options)
 {
     if (tool == "orvc"_L1 || tool == "orvcpp"_L1) {
-        const int failed = analyseProject(options, tool == "orvc"_L1);
+        const int failed = analyseSources(options, tool == "orvc"_L1);
         return failed == 0 ? 0 : 3;
     }
     if (tool == "orvstatus"_L1) {
         print(Project(options.projectFile).statusText + u'\n');
     } else if (tool == "orvreport"_L1) {
         print(htmlReport(options));
+    } else if (tool == "orvcount"_L1) {
+        print(messageCount(options));
     } else if (tool == "orvcma"_L1) {
         print(crossModuleReport(options));
     } else {
-        std::fprintf(stderr, "start this program as orvc, orvcpp, orvstatus, orvreport or orvcma\n");
+        std::fprintf(stderr, "start this program as orvc, orvcpp, orvstatus, orvreport, orvcount or orvcma\n");
         return 2;
     }
     return 0;

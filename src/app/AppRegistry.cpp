@@ -5,6 +5,7 @@
 #include "personality/OptionTables.h"
 #include "process/ChildProcess.h"
 #include "process/ProcessEnvironment.h"
+#include "process/StrayProcesses.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -26,6 +27,7 @@ AppRegistry* appRegistry = nullptr;
 namespace {
 
 constexpr int shutDownWaitMs = 30000;
+constexpr int strayGraceMs = 500;
 
 // A bare name was found through PATH, so it says nothing about the folder.
 QString executablePath(const QString& argument)
@@ -47,6 +49,7 @@ AppRegistry::AppRegistry(QObject* parent)
 
 AppRegistry::~AppRegistry()
 {
+    removeTempFiles();
     traceStream.reset();
     if (appRegistry == this) {
         appRegistry = nullptr;
@@ -170,14 +173,14 @@ QString AppRegistry::CreateTempFileName(const QString& suffix)
     if (!suffix.isEmpty()) {
         fileTemplate += suffix.startsWith(u'.') ? suffix : u'.' + suffix;
     }
-    auto file = std::make_unique<QTemporaryFile>(fileTemplate);
-    if (!file->open()) {
+    // Kept by name: an object for each would hold a file descriptor until the end.
+    QTemporaryFile file(fileTemplate);
+    file.setAutoRemove(false);
+    if (!file.open()) {
         return {};
     }
-    const QString name = file->fileName();
-    file->close();
-    tempFiles.push_back(std::move(file));
-    return name;
+    tempFiles += file.fileName();
+    return file.fileName();
 }
 
 void AppRegistry::ShutDown()
@@ -188,14 +191,21 @@ void AppRegistry::ShutDown()
         for (ChildProcess* child : children) {
             child->stop(shutDownWaitMs);
         }
+        StrayProcesses::stop(strayGraceMs);
     }
-    for (const auto& file : tempFiles) {
-        file->remove();
-    }
+    removeTempFiles();
     const QList<QDialog*> dialogs = openDialogs;
     for (QDialog* dialog : dialogs) {
         dialog->done(QDialog::Rejected);
     }
+}
+
+void AppRegistry::removeTempFiles()
+{
+    for (const QString& name : std::as_const(tempFiles)) {
+        QFile::remove(name);
+    }
+    tempFiles.clear();
 }
 
 QString AppRegistry::DefinitionsFileName() const

@@ -15,13 +15,11 @@
 #include <QStringList>
 
 #include <memory>
-#include <vector>
 
 class ChildProcess;
 class QCoreApplication;
 class QDialog;
 class QFile;
-class QTemporaryFile;
 class QTextStream;
 
 /// The state of one run and the services that every part shares: command line, trace, temporary files, settings
@@ -62,7 +60,8 @@ public:
     PersistedValues values;
     StringValues installValues;
     KOVRASettingsFile definitions;
-    std::vector<std::unique_ptr<QTemporaryFile>> tempFiles;
+    /// Names of the temporary files, removed at shutdown.
+    QStringList tempFiles;
     QList<ChildProcess*> childProcesses;
     QList<QDialog*> openDialogs;
     QString exePath;
@@ -84,6 +83,7 @@ Q_SIGNALS:
 
 private:
     void openTraceFile(const QString& name);
+    void removeTempFiles();
 
     std::unique_ptr<QFile> traceFile;
 };

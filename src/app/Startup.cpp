@@ -6,6 +6,7 @@
 #include "app/DisplayCheck.h"
 #include "app/StopSignals.h"
 #include "app/Translations.h"
+#include "process/StrayProcesses.h"
 #include "wizard/ApplicationWindow.h"
 
 #include <QApplication>
@@ -60,13 +61,16 @@ int runWithoutWindow(int argc, char** argv)
     if (!initialise(registry, application)) {
         return 0;
     }
-    return BatchConversion().execute(QCoreApplication::arguments());
+    const int status = BatchConversion().execute(QCoreApplication::arguments());
+    registry.ShutDown();
+    return status;
 }
 
 } // namespace
 
 int Startup::run(int argc, char** argv)
 {
+    StrayProcesses::adopt();
     const QStringList arguments = toTexts(argc, argv);
     if (CommandLine::endsProgram(arguments) || BatchArguments::isBatch(arguments)) {
         return runWithoutWindow(argc, argv);
@@ -82,7 +86,8 @@ int Startup::run(int argc, char** argv)
     const StopSignals stopSignals;
     QObject::connect(&stopSignals, &StopSignals::received, &registry, [&registry] {
         registry.ShutDown();
-        QCoreApplication::quit();
+        // Not quit(): it would ask the windows, and the wizard would ask the user.
+        QCoreApplication::exit(0);
     });
     return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -28,6 +29,10 @@ public:
     void BuildButtons(QGridLayout* grid);
     /// True while a launched program runs or an output window is open.
     bool ApplicationsRunning() const;
+    /// The same without the windows.
+    bool ProgramsRunning() const;
+    /// The launchers after whose success this one is enabled, by name.
+    QStringList StartersOf(RunAppData* launcher) const;
     void StopApplications();
     /// Stops what runs and gives every button its first state.
     void ResetApplications();

@@ -17,6 +17,7 @@ bool writeMessageSelectionFile(const QStringList& messages, const QString& fileN
     }
     const QString rule(32, u'*');
     QTextStream stream(&file);
+    stream.setEncoding(QStringConverter::System);
     stream << rule << "\n* REMOVE ANY PREVIOUS SETTINGS *\n"
            << rule << "\n-forgetall only\n-forgetall nomsg\n-forgetall su\n"
            << rule << '\n'

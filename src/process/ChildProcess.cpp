@@ -17,7 +17,7 @@ ChildProcess::~ChildProcess()
         killGroup();
         waitForFinished(1000);
     }
-    group.killLeftovers();
+    group.endLeftovers();
 }
 
 void ChildProcess::terminateGroup()
@@ -35,7 +35,7 @@ void ChildProcess::killGroup()
 bool ChildProcess::stop(int killMs, int graceMs)
 {
     if (state() == QProcess::NotRunning) {
-        group.killLeftovers();
+        group.endLeftovers();
         return true;
     }
     terminateGroup();
@@ -43,6 +43,6 @@ bool ChildProcess::stop(int killMs, int graceMs)
         killGroup();
         waitForFinished(killMs);
     }
-    group.killLeftovers();
+    group.endLeftovers();
     return state() == QProcess::NotRunning;
 }

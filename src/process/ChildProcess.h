@@ -20,6 +20,8 @@ public:
     ~ChildProcess() override;
 
     void setLeftovers(Leftovers policy) { leftovers = policy; }
+    /// True while something runs that an earlier run left behind and that was kept.
+    bool hasLeftovers() { return state() == QProcess::NotRunning && group.hasLeftovers(); }
     /// Asks the process and its children to end.
     void terminateGroup();
     /// Ends the process and its children at once.

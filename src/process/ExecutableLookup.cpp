@@ -8,7 +8,11 @@
 
 using namespace Qt::StringLiterals;
 
-QString FindExecutable(const QString& program)
+namespace {
+
+ExecutableAnswers* currentAnswers = nullptr;
+
+QString lookUp(const QString& program)
 {
     if (QFile::exists(program)) {
         return program;
@@ -26,4 +30,29 @@ QString FindExecutable(const QString& program)
         }
     }
     return {};
+}
+
+} // namespace
+
+QString FindExecutable(const QString& program)
+{
+    if (!currentAnswers) {
+        return lookUp(program);
+    }
+    auto answer = currentAnswers->known.find(program);
+    if (answer == currentAnswers->known.end()) {
+        answer = currentAnswers->known.insert(program, lookUp(program));
+    }
+    return *answer;
+}
+
+ExecutableAnswers::ExecutableAnswers()
+    : outer(currentAnswers)
+{
+    currentAnswers = this;
+}
+
+ExecutableAnswers::~ExecutableAnswers()
+{
+    currentAnswers = outer;
 }

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
+#include "definitions/PageData.h"
 #include "dialogs/BusyDialog.h"
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
+#include "dialogs/PlainText.h"
 #include "process/RunAppData.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -19,18 +23,50 @@ namespace {
 
 // A quick tool needs no window that offers to stop it.
 constexpr auto busyDelay = 700ms;
-// What a window can still show with comfort.
-constexpr qsizetype largestOutput = 64 * 1024 * 1024;
 constexpr qsizetype keptErrors = 64 * 1024;
+// A window lays out each line; many short ones cost more than their bytes.
+constexpr int shownLines = 500'000;
 constexpr int windowWidth = 600;
 constexpr int windowHeight = 600;
 constexpr int messageHeight = 70;
+
+// What a window of the mode can show without stalling.
+qsizetype largestOutput(int displayMode)
+{
+    switch (displayMode) {
+    case RunAppData::MessageDisplay:
+        return 16 * 1024;
+    case RunAppData::HtmlDisplay:
+        return 1024 * 1024;
+    default:
+        return 16 * 1024 * 1024;
+    }
+}
+
+// The length of the first lines.
+qsizetype lengthOfLines(const QByteArray& text, int lines)
+{
+    qsizetype end = 0;
+    for (; lines > 0 && end < text.size(); --lines) {
+        const qsizetype lineEnd = text.indexOf('\n', end);
+        end = lineEnd < 0 ? text.size() : lineEnd + 1;
+    }
+    return end;
+}
 
 } // namespace
 
 QString RunAppData::title() const
 {
     return QString(name).replace(u'\n', u' ');
+}
+
+void RunAppData::clearOutput()
+{
+    output.clear();
+    errors.clear();
+    outputIsCut = false;
+    outputLog.start({});
 }
 
 // Taken as it comes: a full pipe would stop the tool, and an endless one must not fill the memory.
@@ -40,9 +76,31 @@ void RunAppData::readOutput()
     if (displayMode == NoDisplay) {
         return;
     }
-    const qsizetype taken = std::min(bytes.size(), largestOutput - output.size());
-    output += bytes.first(taken);
-    outputDropped += bytes.size() - taken;
+    if (outputIsCut) {
+        outputLog.append(bytes);
+        return;
+    }
+    output += bytes;
+    if (output.size() > largestOutput(displayMode)) {
+        cutOutput(largestOutput(displayMode));
+    }
+}
+
+void RunAppData::cutOutput(qsizetype size)
+{
+    if (!outputIsCut) {
+        outputIsCut = true;
+        outputLog.start(appRegistry->CreateTempFileName(displayMode == HtmlDisplay ? u".html"_s : u".txt"_s));
+        outputLog.append(output);
+    }
+    output.truncate(size);
+}
+
+QString RunAppData::cutNote() const
+{
+    const QString file = QDir::toNativeSeparators(outputLog.fileName());
+    return file.isEmpty() ? tr("[The output is longer than this and could not be kept]")
+                          : tr("[The output is longer than this. Until the wizard is closed it is in %1]").arg(file);
 }
 
 void RunAppData::readErrors()
@@ -60,10 +118,13 @@ bool RunAppData::showOutput()
         MessageBox::warn(MainWindow::current(), title(), tr("No data returned from process"));
         return false;
     }
-    QString text = QString::fromLocal8Bit(output);
-    output.clear();
-    if (outputDropped > 0) {
-        text += u'\n' + tr("[The output is cut here: %1 more bytes are not shown]").arg(outputDropped);
+    if (const qsizetype size = lengthOfLines(output, shownLines); size < output.size()) {
+        cutOutput(size);
+    }
+    outputLog.finish();
+    QString text = QString::fromLocal8Bit(std::exchange(output, {}));
+    if (outputIsCut) {
+        text += displayMode == HtmlDisplay ? u"<p>"_s + cutNote().toHtmlEscaped() : u'\n' + cutNote();
     }
     auto* dialog = new DisplayDialog(title(), displayMode, windowWidth,
                                      displayMode == MessageDisplay ? messageHeight : windowHeight);
@@ -118,6 +179,27 @@ void RunAppData::markRunning(bool isRunning)
     if (!button) {
         return;
     }
-    button->setText(isRunning ? name + u'\n' + tr("running...") : name);
-    stopAction->setEnabled(isRunning);
+    button->setText(isRunning ? title() + u'\n' + tr("running...") : name);
+    stopAction->setVisible(isRunning);
+    updateToolTip();
+}
+
+void RunAppData::enableButton(bool enabled)
+{
+    button->setEnabled(enabled);
+    updateToolTip();
+}
+
+// A grey button says what it waits for.
+void RunAppData::updateToolTip()
+{
+    QString text = disabledReason.isEmpty() ? description : disabledReason;
+    const QStringList starters = page ? page->StartersOf(this) : QStringList();
+    if (stopAction->isVisible()) {
+        text = tr("Running. Its context menu stops it.");
+    } else if (disabledReason.isEmpty() && !button->isEnabled() && !starters.isEmpty()) {
+        const QString wait = tr("Available once this has succeeded: %1").arg(starters.join(u", "_s));
+        text = text.isEmpty() ? wait : text + u'\n' + wait;
+    }
+    button->setToolTip(PlainText::toolTip(text));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
 #include "definitions/PageData.h"
+#include "process/ExecutableLookup.h"
 #include "process/RunAppData.h"
 
 #include <algorithm>
@@ -16,9 +17,12 @@ PageData::~PageData() = default;
 
 bool PageData::ApplicationsRunning() const
 {
-    return !applications.empty() &&
-           (!appRegistry->openDialogs.isEmpty() ||
-            std::ranges::any_of(applications, [](const auto& launcher) { return launcher->isRunning(); }));
+    return !applications.empty() && (!appRegistry->openDialogs.isEmpty() || ProgramsRunning());
+}
+
+bool PageData::ProgramsRunning() const
+{
+    return std::ranges::any_of(applications, [](const auto& launcher) { return launcher->isAlive(); });
 }
 
 void PageData::StopApplications()
@@ -30,21 +34,23 @@ void PageData::StopApplications()
 
 void PageData::ResetApplications()
 {
+    const ExecutableAnswers answers;
     for (const auto& launcher : applications) {
         launcher->Terminate();
         if (!launcher->button) {
             continue;
         }
         if (launcher->startsDisabled) {
-            launcher->button->setEnabled(false);
+            launcher->enableButton(false);
         } else if (launcher->ExecutablesFound()) {
-            launcher->button->setEnabled(true);
+            launcher->enableButton(true);
         }
     }
 }
 
 void PageData::applyGroups(RunAppData* launcher, const QString& trigger)
 {
+    const ExecutableAnswers answers;
     for (const auto& group : std::as_const(conditions)) {
         if (group.value(launcher) != trigger) {
             continue;
@@ -55,10 +61,27 @@ void PageData::applyGroups(RunAppData* launcher, const QString& trigger)
                 continue;
             }
             if (member.value() == "disable"_L1) {
-                target->button->setEnabled(false);
+                target->enableButton(false);
             } else if (member.value() == "enable"_L1 && target->ExecutablesFound()) {
-                target->button->setEnabled(true);
+                target->enableButton(true);
             }
         }
     }
+}
+
+QStringList PageData::StartersOf(RunAppData* launcher) const
+{
+    QStringList names;
+    for (const auto& group : conditions) {
+        if (group.value(launcher) != "enable"_L1) {
+            continue;
+        }
+        for (auto member = group.cbegin(); member != group.cend(); ++member) {
+            if (member.value() == "start"_L1) {
+                names += member.key()->title();
+            }
+        }
+    }
+    names.removeDuplicates();
+    return names;
 }

@@ -11,12 +11,11 @@ void OutputLog::start(const QString& fileName)
     }
 }
 
-void OutputLog::append(const QString& text)
+void OutputLog::append(const QByteArray& bytes)
 {
     if (!file.isOpen()) {
         return;
     }
-    const QByteArray bytes = text.toLocal8Bit();
     cut = cut || file.pos() >= largestSize || file.write(bytes) != bytes.size();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QFile>
 #include <QString>
 
@@ -13,7 +14,7 @@ public:
     /// Starts a new log; without a name nothing is kept.
     void start(const QString& fileName);
     /// Adds output as it came.
-    void append(const QString& text);
+    void append(const QByteArray& bytes);
     void finish();
     /// Empty when nothing could be kept.
     QString fileName() const { return file.fileName(); }

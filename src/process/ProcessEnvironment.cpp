@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QProcessEnvironment>
 
 #include <algorithm>
 #include <array>
@@ -75,6 +76,24 @@ void putIntoOwnEnvironment(const QStringList& environment, const QStringList& be
     }
 }
 
+// The system's text of a variable may not give its bytes back, so what did not change is left alone.
+QProcessEnvironment withBytesOf(QProcessEnvironment inherited, const QStringList& environment,
+                                const QStringList& before)
+{
+    for (const QString& entry : before) {
+        if (!environment.contains(entry)) {
+            inherited.remove(entry.section(u'=', 0, 0));
+        }
+    }
+    for (const QString& entry : environment) {
+        const qsizetype separator = entry.indexOf(u'=');
+        if (separator > 0 && !before.contains(entry)) {
+            inherited.insert(entry.first(separator), entry.sliced(separator + 1));
+        }
+    }
+    return inherited;
+}
+
 void traceFlag(bool analyserVariables)
 {
     if (appRegistry->traceStream) {
@@ -132,7 +151,7 @@ void SetProcessEnvironment(QProcess* process, bool analyserVariables)
             appRegistry->Trace(u"SetToEnvValue:"_s, name + value);
         });
     if (process) {
-        process->setEnvironment(environment);
+        process->setProcessEnvironment(withBytesOf(QProcessEnvironment::systemEnvironment(), environment, before));
     } else {
         putIntoOwnEnvironment(environment, before);
     }

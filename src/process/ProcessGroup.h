@@ -22,8 +22,10 @@ public:
     void kill();
     /// Lets go of a finished leader: kills what it left running, or remembers it.
     void release(bool killLeftovers);
-    /// Kills what was remembered.
-    void killLeftovers();
+    /// True while something that was remembered runs.
+    bool hasLeftovers();
+    /// Asks what was remembered to end, and kills what has not after half a second.
+    void endLeftovers();
 
 private:
     struct Handle;

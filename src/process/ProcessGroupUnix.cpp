@@ -1,14 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "process/ProcessGroup.h"
+#include "process/StrayProcesses.h"
 
+#include <chrono>
 #include <csignal>
 #include <sys/types.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
 #ifdef __linux__
 #include <sys/prctl.h>
 #endif
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto leftoverPatience = 500ms;
+constexpr auto pollInterval = 10ms;
+
+} // namespace
 
 struct ProcessGroup::Handle
 {
@@ -19,6 +31,13 @@ struct ProcessGroup::Handle
     {
         if (leader > 0) {
             ::kill(-leader, number);
+        }
+    }
+
+    void signalLeftovers(int number) const
+    {
+        for (const pid_t group : leftovers) {
+            ::kill(-group, number);
         }
     }
 };
@@ -58,18 +77,32 @@ void ProcessGroup::release(bool killNow)
     if (killNow) {
         kill();
     } else if (handle->leader > 0 && ::kill(-handle->leader, 0) == 0) {
+        hasLeftovers();
         handle->leftovers.push_back(handle->leader);
     }
     handle->leader = 0;
 }
 
-void ProcessGroup::killLeftovers()
+// While a group lives, no new process gets its leader's number: where one has it, the group is another program's.
+bool ProcessGroup::hasLeftovers()
 {
-    for (const pid_t group : handle->leftovers) {
-        // While the group lives, no new process gets its leader's number: one that has it leads a group of others.
-        if (::kill(group, 0) != 0) {
-            ::kill(-group, SIGKILL);
-        }
+    StrayProcesses::reap();
+    std::erase_if(handle->leftovers, [](pid_t group) { return ::kill(group, 0) == 0 || ::kill(-group, 0) != 0; });
+    return !handle->leftovers.empty();
+}
+
+void ProcessGroup::endLeftovers()
+{
+    const auto deadline = std::chrono::steady_clock::now() + leftoverPatience;
+    if (hasLeftovers()) {
+        handle->signalLeftovers(SIGTERM);
     }
-    handle->leftovers.clear();
+    while (hasLeftovers()) {
+        if (std::chrono::steady_clock::now() >= deadline) {
+            handle->signalLeftovers(SIGKILL);
+            handle->leftovers.clear();
+            return;
+        }
+        std::this_thread::sleep_for(pollInterval);
+    }
 }

@@ -50,7 +50,14 @@ void ProcessGroup::release(bool killNow)
     }
 }
 
-void ProcessGroup::killLeftovers()
+bool ProcessGroup::hasLeftovers()
+{
+    JOBOBJECT_BASIC_ACCOUNTING_INFORMATION facts = {};
+    return QueryInformationJobObject(handle->job, JobObjectBasicAccountingInformation, &facts, sizeof facts, nullptr) &&
+           facts.ActiveProcesses > 0;
+}
+
+void ProcessGroup::endLeftovers()
 {
     kill();
 }

@@ -48,7 +48,8 @@ bool StartProcess(QProcess& process, const QString& program, const QStringList& 
                   bool analyserVariables)
 {
     const QString found = FindExecutable(program);
-    const QString path = found.isEmpty() ? program : found;
+    // The child changes its folder before it looks for the program.
+    const QString path = found.isEmpty() ? program : QFileInfo(found).absoluteFilePath();
     SetProcessEnvironment(&process, analyserVariables);
     if (runInProgramFolder) {
         process.setWorkingDirectory(QFileInfo(path).absolutePath());
@@ -56,6 +57,7 @@ bool StartProcess(QProcess& process, const QString& program, const QStringList& 
     traceStart(process, path, arguments);
     process.start(path, arguments, QIODevice::ReadWrite);
     if (!process.waitForStarted(startWaitMs)) {
+        process.kill();
         return false;
     }
     qDebug("STARTED");
@@ -65,8 +67,6 @@ bool StartProcess(QProcess& process, const QString& program, const QStringList& 
 RunAppData::RunAppData(PageData* owner)
     : page(owner)
 {
-    // A viewer that a tool leaves behind is what the user asked for; it goes when the program does.
-    process.setLeftovers(ChildProcess::Leftovers::KeepUntilStopped);
     appRegistry->childProcesses += &process;
     busyTimer.setSingleShot(true);
     connect(&process, &QProcess::finished, this, &RunAppData::ActivateComplete);
@@ -113,10 +113,11 @@ void RunAppData::attachButton(QPushButton* pushButton)
 {
     button = pushButton;
     stopAction = new QAction(tr("Stop"), pushButton);
-    stopAction->setEnabled(false);
+    stopAction->setVisible(false);
     connect(stopAction, &QAction::triggered, this, &RunAppData::Stop);
     pushButton->addAction(stopAction);
     pushButton->setContextMenuPolicy(Qt::ActionsContextMenu);
+    updateToolTip();
 }
 
 void RunAppData::Activate()
@@ -132,16 +133,20 @@ void RunAppData::Activate()
         return;
     }
     terminated = false;
-    output.clear();
-    errors.clear();
-    outputDropped = 0;
+    clearOutput();
+    // Loading a large project takes its time: the user sees from the press on that something happens.
+    lockWindow(busyCursor);
     QStringList arguments;
-    if (!prepareArguments(arguments)) {
+    const QString problem = prepareArguments(arguments);
+    if (!problem.isEmpty()) {
+        lockWindow(false);
+        MessageBox::warn(MainWindow::current(), title(), problem);
         return;
     }
-    lockWindow(busyCursor);
     awaitingEnd = true;
     markRunning(true);
+    // A viewer that a tool leaves behind is what the user asked for; it goes when the program does.
+    process.setLeftovers(ChildProcess::Leftovers::KeepUntilStopped);
     if (!StartProcess(process, CurrentExe(), arguments, runFromExeDir, true)) {
         ActivateComplete();
         return;
@@ -149,11 +154,12 @@ void RunAppData::Activate()
     process.closeWriteChannel();
 }
 
-bool RunAppData::prepareArguments(QStringList& arguments)
+QString RunAppData::prepareArguments(QStringList& arguments)
 {
     QString messageFile;
-    if (!prepareMessageFile(messageFile)) {
-        return false;
+    QString problem = prepareMessageFile(messageFile);
+    if (!problem.isEmpty()) {
+        return problem;
     }
     // A page without a project of its own works on the one the suite used last.
     Project own;
@@ -163,31 +169,25 @@ bool RunAppData::prepareArguments(QStringList& arguments)
     }
     Project& project = ownProject ? own : appRegistry->values.project;
     const bool isC = ownProject ? page->isORVC : project.isCAnalyser();
-    QString problem;
     arguments = project.expandLauncherArguments(exeargs, ProductNames::of(isC).shortName, messageFile, &problem);
-    if (!problem.isEmpty()) {
-        MessageBox::warn(MainWindow::current(), title(), problem);
-    }
-    return problem.isEmpty();
+    return problem;
 }
 
-bool RunAppData::prepareMessageFile(QString& fileName)
+QString RunAppData::prepareMessageFile(QString& fileName)
 {
     PersistedValues& values = appRegistry->values;
     if (!values.useMessageViewerMessages) {
-        return true;
+        return {};
     }
     if (!values.project.isCAnalyser()) {
         values.cMessages = values.cppMessages;
     }
     fileName = appRegistry->CreateTempFileName(u".via"_s);
     if (!fileName.isEmpty() && writeMessageSelectionFile(values.cMessages, fileName)) {
-        return true;
+        return {};
     }
-    MessageBox::warn(MainWindow::current(), title(),
-                     tr("A temporary file can not be written in %1. Make room there or make it writable.")
-                         .arg(QDir::toNativeSeparators(QDir::tempPath())));
-    return false;
+    return tr("A temporary file can not be written in %1. Make room there or make it writable.")
+        .arg(QDir::toNativeSeparators(QDir::tempPath()));
 }
 
 void RunAppData::ActivateComplete()
@@ -237,6 +237,8 @@ void RunAppData::Stop()
     if (process.processId() == 0) {
         return;
     }
+    // Its children may not listen although it does.
+    process.setLeftovers(ChildProcess::Leftovers::Kill);
     process.terminateGroup();
     QTimer::singleShot(killDelay, &process, [this, pid = process.processId()] {
         if (process.processId() == pid) {

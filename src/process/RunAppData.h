@@ -2,6 +2,7 @@
 #pragma once
 
 #include "process/ChildProcess.h"
+#include "process/OutputLog.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -32,10 +33,15 @@ public:
     /// Looks the program and its dependencies up; what is missing is told in disabledReason.
     bool ExecutablesFound();
     bool isRunning() const { return process.state() != QProcess::NotRunning; }
+    /// The same, or something runs that an earlier run left behind.
+    bool isAlive() { return isRunning() || process.hasLeftovers(); }
+    /// The name in one line.
+    QString title() const;
     /// Stops the run and closes all output windows.
     void Terminate();
     /// Marks the button while the tool runs, and offers Stop in its context menu.
     void attachButton(QPushButton* pushButton);
+    void enableButton(bool enabled);
 
 public Q_SLOTS:
     void Activate();
@@ -73,20 +79,27 @@ public:
     PageData* page;
 
 private:
-    bool prepareArguments(QStringList& arguments);
-    bool prepareMessageFile(QString& fileName);
+    /// Both give an empty text on success, else what went wrong.
+    QString prepareArguments(QStringList& arguments);
+    QString prepareMessageFile(QString& fileName);
+    void clearOutput();
     void readOutput();
+    /// Keeps so much of the output for the window and all of it in a file.
+    void cutOutput(qsizetype size);
     void readErrors();
     bool showOutput();
     void showFailure();
     void lockWindow(bool locked);
     void markRunning(bool isRunning);
-    QString title() const;
+    void updateToolTip();
+    /// What follows the shown part of too long an output.
+    QString cutNote() const;
 
     bool awaitingEnd = false;
     bool locked = false;
     QByteArray output;
-    qint64 outputDropped = 0;
+    bool outputIsCut = false;
+    OutputLog outputLog;
     QByteArray errors;
     QPointer<QAction> stopAction;
     QPointer<QDialog> busyDialog;

@@ -64,6 +64,8 @@ QString ProjectData::projectOptionFile(QString& problem)
     if (text != lastViaText && !viaFilePath.isEmpty()) {
         QFile file(viaFilePath);
         const QByteArray bytes = text.toLocal8Bit();
+        // A file that could be written only in part holds neither text.
+        lastViaText.clear();
         if (file.open(QIODevice::WriteOnly | QIODevice::Text) && file.write(bytes) == bytes.size() && file.flush()) {
             lastViaText = text;
         } else {

@@ -115,7 +115,7 @@ void ActionPage::cleanupPage()
 void ActionPage::ReadReady()
 {
     const QString text = run.takeOutput();
-    log.append(text);
+    log.append(text.toLocal8Bit());
     buffer.append(text);
     if (!flushTimer.isActive()) {
         flushTimer.start();

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QScrollArea>
 
 DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
@@ -26,11 +27,22 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     buttonGrid->setRowStretch(buttonGrid->rowCount(), 1);
     buttonGrid->setColumnStretch(buttonGrid->columnCount(), 1);
     buttonGroup->setLayout(buttonGrid);
+    // A disabled button gets no menu of its own, but its tool may run all the same.
+    buttonGroup->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(buttonGroup, &QWidget::customContextMenuRequested, this, &DisplayOptionsPage::showButtonMenu);
     // The grid has no constraint of its own, so the scroll area needs to be told how large it is.
     buttonGroup->setMinimumSize(buttonGrid->sizeHint() + QSize(20, 20));
     scrollArea->setWidget(buttonGroup);
     scrollArea->setWidgetResizable(true);
     (new QHBoxLayout(this))->addWidget(scrollArea);
+}
+
+void DisplayOptionsPage::showButtonMenu(const QPoint& position)
+{
+    const QWidget* button = buttonGroup->childAt(position);
+    if (button && !button->actions().isEmpty()) {
+        QMenu::exec(button->actions(), buttonGroup->mapToGlobal(position), nullptr, buttonGroup);
+    }
 }
 
 PageData* DisplayOptionsPage::launcherPage()

@@ -22,6 +22,7 @@ public:
     bool isComplete() const override { return true; }
 
 private:
+    void showButtonMenu(const QPoint& position);
     /// The first launcher page of the definitions; the others are never shown.
     static PageData* launcherPage();
 

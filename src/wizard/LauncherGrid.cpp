@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/LauncherGrid.h"
 #include "definitions/PageData.h"
-#include "dialogs/PlainText.h"
+#include "process/ExecutableLookup.h"
 #include "process/RunAppData.h"
 #include "wizard/ButtonStyle.h"
 
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
@@ -13,15 +14,18 @@
 
 namespace {
 
-int atLeastOne(int span)
+constexpr int largestSpan = 100;
+
+// The layout does not check its cells.
+int usableSpan(int span)
 {
-    return span == 0 ? 1 : span;
+    return std::clamp(span, 1, largestSpan);
 }
 
 QSize buttonSize(const PageData& page, const RunAppData& launcher)
 {
-    const int columns = atLeastOne(launcher.columnspan);
-    const int rows = atLeastOne(launcher.rowspan);
+    const int columns = usableSpan(launcher.columnspan);
+    const int rows = usableSpan(launcher.rowspan);
     const int width = launcher.buttonwidth != 0 ? launcher.buttonwidth : page.buttonWidth;
     // An arrow column lies between two button columns, so the gap there counts twice.
     return {width * columns + 2 * (columns - 1) * page.horizontalSpacing,
@@ -36,7 +40,8 @@ QPushButton* createButton(const PageData& page, RunAppData& launcher)
         button->setIcon(QIcon(launcher.image));
         if (launcher.name.isEmpty()) {
             button->setIconSize({page.buttonWidth - 2, page.buttonHeight - 2});
-            button->setAccessibleName(launcher.description);
+            button->setAccessibleName(launcher.description.isEmpty() ? QFileInfo(launcher.CurrentExe()).baseName()
+                                                                     : launcher.description);
         }
     }
     SetButtonStyle(button, launcher.colour);
@@ -46,12 +51,10 @@ QPushButton* createButton(const PageData& page, RunAppData& launcher)
         button->setEnabled(false);
     }
     button->setAttribute(Qt::WA_AlwaysShowToolTips);
-    button->setToolTip(
-        PlainText::toolTip(launcher.disabledReason.isEmpty() ? launcher.description : launcher.disabledReason));
-    launcher.attachButton(button);
     if (launcher.startsDisabled) {
         button->setEnabled(false);
     }
+    launcher.attachButton(button);
     return button;
 }
 
@@ -72,11 +75,11 @@ QList<LauncherCell> placeLaunchers(const QList<LauncherSpan>& spans, int columns
     int row = 0;
     int column = 0;
     for (const LauncherSpan& span : spans) {
-        const int width = atLeastOne(span.columns);
+        const int width = usableSpan(span.columns);
         if (column + width > columns) {
             column = 0;
         }
-        cells += {2 * row + 1, 2 * column + 1, 2 * atLeastOne(span.rows) - 1, 2 * width - 1};
+        cells += {2 * row + 1, 2 * column + 1, 2 * usableSpan(span.rows) - 1, 2 * width - 1};
         column += width;
         if (column >= columns) {
             ++row;
@@ -88,13 +91,14 @@ QList<LauncherCell> placeLaunchers(const QList<LauncherSpan>& spans, int columns
 
 void PageData::BuildButtons(QGridLayout* grid)
 {
+    const ExecutableAnswers answers;
     grid->setHorizontalSpacing(horizontalSpacing);
     grid->setVerticalSpacing(verticalSpacing);
     grid->setSizeConstraint(QLayout::SetNoConstraint);
     QList<RunAppData*> shown;
     QList<LauncherSpan> spans;
     for (const auto& launcher : applications) {
-        columns = std::max(columns, launcher->columnspan);
+        columns = std::max(columns, usableSpan(launcher->columnspan));
         if (!launcher->name.isEmpty() || !launcher->CurrentExe().isEmpty()) {
             shown += launcher.get();
             spans += {launcher->columnspan, launcher->rowspan};
@@ -104,7 +108,7 @@ void PageData::BuildButtons(QGridLayout* grid)
     for (qsizetype i = 0; i < shown.size(); ++i) {
         const auto& [row, column, rowSpan, columnSpan] = cells[i];
         RunAppData& launcher = *shown[i];
-        grid->addWidget(createButton(*this, launcher), row, column, std::max(1, rowSpan), std::max(1, columnSpan));
+        grid->addWidget(createButton(*this, launcher), row, column, rowSpan, columnSpan);
         addArrow(*grid, launcher.aboveImage, row - 1, column);
         addArrow(*grid, launcher.belowImage, row + 1, column);
         addArrow(*grid, launcher.leftImage, row, column - 1);

@@ -12,7 +12,7 @@ struct LauncherCell
     int columnSpan = 1;
 };
 
-/// What the placement needs to know of a launcher; a span of 0 counts as 1.
+/// What the placement needs to know of a launcher; a span counts as 1 at least and 100 at most.
 struct LauncherSpan
 {
     int columns = 1;

@@ -52,7 +52,7 @@ bool OrvWizardWindow::validateCurrentPage()
 
 void OrvWizardWindow::reject()
 {
-    if (confirmInterruption() && confirmStop()) {
+    if (confirmInterruption() && confirmStop(&PageData::ProgramsRunning)) {
         QWizard::reject();
     }
 }
@@ -88,10 +88,10 @@ void OrvWizardWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(confirmInterruption() && CanClose());
 }
 
-bool OrvWizardWindow::confirmStop()
+bool OrvWizardWindow::confirmStop(bool (PageData::*isBusy)() const)
 {
     const auto& pages = appRegistry->definitions.applicationPages;
-    const bool running = std::ranges::any_of(pages, [](const auto& page) { return page->ApplicationsRunning(); });
+    const bool running = std::ranges::any_of(pages, [&](const auto& page) { return (page.get()->*isBusy)(); });
     return !running || MessageBox::ask(this, tr("Child Applications Still Running"),
                                        tr("Closing this application will kill child applications.\nDo you wish to "
                                           "close this application?"));
@@ -99,7 +99,7 @@ bool OrvWizardWindow::confirmStop()
 
 bool OrvWizardWindow::CanClose()
 {
-    if (!confirmStop()) {
+    if (!confirmStop(&PageData::ApplicationsRunning)) {
         return false;
     }
     stopChildren();

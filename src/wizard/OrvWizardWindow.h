@@ -4,6 +4,7 @@
 #include <QWizard>
 
 class HelpManager;
+class PageData;
 class QAbstractButton;
 
 /// The wizard frame of the suite: look, custom button, closing and what is kept when the wizard finishes.
@@ -39,8 +40,8 @@ protected:
 
 private:
     void saveState();
-    /// True when no launched tool runs, or the user agrees to stop them.
-    bool confirmStop();
+    /// True when no launcher page is busy, or the user agrees to stop what runs.
+    bool confirmStop(bool (PageData::*isBusy)() const);
     void stopChildren();
     /// Gives the focus to the current page's first visible field, unless it is in one.
     void focusPage();

@@ -168,7 +168,7 @@ private Q_SLOTS:
             QSKIP("needs assistant, Xvfb, xwininfo and pkill");
         }
         QProcess server;
-        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
         QVERIFY(server.waitForReadyRead(20000));
         const QByteArray display = ":" + server.readLine().trimmed();
         const QByteArray platform = qgetenv("QT_QPA_PLATFORM");

@@ -160,6 +160,37 @@ private Q_SLOTS:
         QVERIFY(boxes.texts.last().startsWith("Child Applications Still Running|"_L1));
     }
 
+    void analysesAList()
+    {
+        if (QStandardPaths::findExecutable(u"cppcheck"_s).isEmpty()) {
+            QSKIP("needs cppcheck");
+        }
+        const Demonstration suite;
+        const QString source = suite.write(u"work/a%2.cpp"_s, "int f() { int v[2]; return v[7]; }\n");
+        const QString out = suite.path(u"work/out"_s);
+        const QString list =
+            suite.write(u"work/sources.lst"_s, "* a comment\n-outputpath \"" + out.toUtf8() + "\"\n\"" +
+                                                   source.toUtf8() + "\"\n-cmaf \"" + out.toUtf8() + "/deep/p\"\n");
+        const auto tool = [&](const QString& name, const QStringList& arguments) {
+            QProcess process;
+            process.start(suite.path(name), arguments);
+            process.waitForFinished();
+            return std::pair{process.exitCode(), QString::fromUtf8(process.readAll())};
+        };
+        const QString options = suite.write(u"work/odd.via"_s, "\"\n-d\n");
+        QCOMPARE(tool(u"orvcpp/bin/orvcpp"_s, {u"-via"_s, options, u"-list"_s, list}).first, 0);
+        QVERIFY(suite.read(u"work/out/a%2.cpp.err"_s).contains("arrayIndexOutOfBounds"));
+        QVERIFY(QFile::exists(out + u"/a%2.cpp.met"_s));
+        const qsizetype messages = suite.read(u"work/out/a%2.cpp.err"_s).count('\n');
+        QCOMPARE(tool(u"bin/orvcount"_s, {u"-list"_s, list}),
+                 std::pair(0, u"%1 messages in 1 analysed files"_s.arg(messages)));
+        QVERIFY(
+            tool(u"bin/orvreport"_s, {u"-list"_s, list}).second.contains(u"/a%2.cpp ("_s + QString::number(messages)));
+        QCOMPARE(tool(u"bin/orvcma"_s, {u"-list"_s, list}).first, 0);
+        QVERIFY(suite.read(u"work/out/deep/p"_s).contains("arrayIndexOutOfBounds"));
+        QVERIFY(tool(u"orvcpp/bin/orvcpp"_s, {}).first != 0);
+    }
+
     void convertsWithoutAWindow()
     {
         const Demonstration suite;

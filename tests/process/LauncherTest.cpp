@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
+#include "dialogs/BusyDialog.h"
 #include "Installation.h"
 #include "process/ExecutableLookup.h"
 #include "process/RunAppData.h"
+#include "process/StrayProcesses.h"
 #include "TestMain.h"
 #include "wizard/LauncherGrid.h"
 
@@ -13,6 +15,12 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+
+#include <algorithm>
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +67,7 @@ private Q_SLOTS:
         QTest::newRow("row by row") << QList<int>{1, 1, 1, 1} << 3 << u"1,1 1,3 1,5 3,1"_s;
         QTest::newRow("back to the row's start") << QList<int>{2, 2, 1} << 3 << u"1,1 1,1 1,5"_s;
         QTest::newRow("zero is one") << QList<int>{0, 3} << 3 << u"1,1 1,1"_s;
+        QTest::newRow("nonsense") << QList<int>{-1, 900000000, 1} << 100 << u"1,1 1,1 3,1"_s;
     }
 
     void placesButtons()
@@ -135,6 +144,8 @@ private Q_SLOTS:
                                << QString() << false;
         QTest::newRow("failed") << QByteArray("echo reason >&2; exit 3") << QByteArray("text")
                                 << u"Process Failed [3]"_s << QString() << false;
+        QTest::newRow("not executable") << QByteArray() << QByteArray("cursor") << u"Failed to Start"_s << QString()
+                                        << false;
         QTest::newRow("crashed") << QByteArray("kill -SEGV $$") << QByteArray("none") << u"Process Crashed"_s
                                  << QString() << false;
         QTest::newRow("closes its output early")
@@ -155,9 +166,14 @@ private Q_SLOTS:
             suite.application(2, "", "<condition name='G' action='enable'/>"));
         RunAppData& tool = *page.applications[0];
         const BoxAnswers boxes({QMessageBox::Ok});
-        QVERIFY(!page.applications[1]->button->isEnabled());
+        const QPushButton& next = *page.applications[1]->button;
+        QVERIFY(!next.isEnabled());
+        QCOMPARE(next.toolTip(), u"Available once this has succeeded: Tool 1"_s);
+        if (script.isEmpty()) {
+            QFile::setPermissions(tool.cppExe, QFile::ReadOwner);
+        }
         tool.button->click();
-        QVERIFY(tool.button->text().endsWith("running..."_L1));
+        QVERIFY(script.isEmpty() || tool.button->text() == "Tool 1\nrunning..."_L1);
         QTRY_VERIFY(!tool.isRunning() && !tool.button->text().contains("running"_L1));
         QTRY_COMPARE(boxes.texts, box.isEmpty() ? QStringList{} : QStringList{u"Tool 1|"_s + box});
         QCOMPARE(page.applications[1]->button->isEnabled(), succeeds);
@@ -166,6 +182,13 @@ private Q_SLOTS:
             QCOMPARE(appRegistry->openDialogs[0]->findChild<QPlainTextEdit*>()->toPlainText(), shown);
         }
         QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(next.toolTip().isEmpty(), succeeds);
+        if (!box.isEmpty()) {
+            // The end of the road shows the way: what ran, and what it said.
+            const QString& details = boxes.details[0];
+            QVERIFY2(box.startsWith("No data"_L1) || details.contains(tool.cppExe), qPrintable(details));
+            QCOMPARE(details.contains("reason"_L1), script.contains("reason"));
+        }
     }
 
     void startFailsOnce()
@@ -182,18 +205,95 @@ private Q_SLOTS:
         QVERIFY(!QApplication::overrideCursor());
     }
 
+    void nothingStartsWithoutItsFiles_data()
+    {
+        QTest::addColumn<bool>("full");
+        QTest::newRow("no folder") << false;
+        QTest::newRow("full") << true;
+    }
+
     void nothingStartsWithoutItsFiles()
     {
+        QFETCH(const bool, full);
         Launchers suite;
         const PageData& page = suite.define(suite.application(1, "touch \"$0.ran\""));
         const QByteArray folder = qgetenv("TMPDIR");
-        qputenv("TMPDIR", suite.write(u"work/file"_s, "").toLocal8Bit());
+        rlimit old = {};
+        ::getrlimit(RLIMIT_FSIZE, &old);
+        if (full) {
+            // As on a full disk, files can be made but not written.
+            std::signal(SIGXFSZ, SIG_IGN);
+            const rlimit none = {0, old.rlim_max};
+            ::setrlimit(RLIMIT_FSIZE, &none);
+        } else {
+            qputenv("TMPDIR", suite.write(u"work/file"_s, "").toLocal8Bit());
+        }
         const BoxAnswers boxes({QMessageBox::Ok});
         page.applications[0]->button->click();
+        ::setrlimit(RLIMIT_FSIZE, &old);
         qputenv("TMPDIR", folder);
         QCOMPARE(boxes.texts.size(), 1);
-        QVERIFY2(boxes.texts[0].contains("A temporary file can not be made in "_L1), qPrintable(boxes.texts[0]));
+        QVERIFY2(boxes.texts[0].contains(full ? " can not be written: "_L1 : "A temporary file can not be made in "_L1),
+                 qPrintable(boxes.texts[0]));
         QVERIFY(!page.applications[0]->isRunning() && !QFile::exists(suite.path(u"tool1.ran"_s)));
+    }
+
+    void showsTheBeginningOfAFlood_data()
+    {
+        QTest::addColumn<QByteArray>("mode");
+        QTest::newRow("text") << QByteArray("text");
+        QTest::newRow("html") << QByteArray("html");
+        QTest::newRow("message") << QByteArray("message");
+    }
+
+    void showsTheBeginningOfAFlood()
+    {
+        QFETCH(const QByteArray, mode);
+        Launchers suite;
+        const PageData& page = suite.define(suite.application(1, "yes '<p>word</p>' | head -c 100000000",
+                                                              "<displayoutput>" + mode + "</displayoutput>"));
+        page.applications[0]->button->click();
+        QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), 1, 60000);
+        const QStringList files = QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s});
+        const auto isWhole = [](const QString& name) {
+            return QFileInfo(QDir::tempPath() + u'/' + name).size() == 100000000;
+        };
+        const auto whole = std::ranges::find_if(files, isWhole);
+        QVERIFY(whole != files.end());
+        const QDialog& dialog = *appRegistry->openDialogs[0];
+        const auto shows = [&] {
+            const auto* text = dialog.findChild<QPlainTextEdit*>();
+            const auto* browser = dialog.findChild<QTextBrowser*>();
+            const QString shown = text      ? text->document()->lastBlock().text()
+                                  : browser ? browser->document()->lastBlock().text()
+                                            : dialog.findChild<QLabel*>()->text();
+            return shown.contains(*whole);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(shows(), 30000);
+        // Nothing stays behind, neither of this nor of the option and list files.
+        appRegistry->ShutDown();
+        QCOMPARE(QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}), QStringList());
+    }
+
+    void givesTheToolItsPlaceAndItsMessages()
+    {
+        Launchers suite;
+        PageData& page = suite.define(
+            suite.application(1, "pwd > \"$0.out\"; echo \"$ORVCPPPATH\" >> \"$0.out\"; cat \"$4\" >> \"$0.out\"",
+                              "<runFromExeDir>1</runFromExeDir><exeargs>%P+</exeargs>"));
+        appRegistry->values.useMessageViewerMessages = true;
+        appRegistry->values.cMessages = {u"7"_s};
+        appRegistry->values.cppMessages = {u"8"_s};
+        for (const bool isC : {true, false}) {
+            // The list is chosen by the suite's current project.
+            appRegistry->values.project.projectType = isC ? ProjectType::C : ProjectType::Cpp;
+            page.applications[0]->button->click();
+            QTRY_VERIFY(!page.applications[0]->isRunning());
+            const QByteArray said = suite.read(u"tool1.out"_s);
+            QVERIFY2(said.startsWith(suite.path(u"."_s).chopped(2).toUtf8() + '\n' + suite.path(u"orvcpp"_s).toUtf8()),
+                     said.constData());
+            QVERIFY2(said.endsWith(isC ? "-only 7\n" : "-only 8\n"), said.constData());
+        }
     }
 
     void stopsWhatItStarted()
@@ -206,7 +306,13 @@ private Q_SLOTS:
                               "<condition name='G' action='finish'/>") +
             suite.application(2, "echo hello",
                               "<displayoutput>message</displayoutput><condition name='G' action='disable'/>") +
-            suite.application(3, "sleep 1000 & echo $! > \"$0.pid\""));
+            suite.application(3, "sleep 1000 & echo $! > \"$0.pid\"") +
+            suite.application(
+                4, "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\nwait\n",
+                "<displayoutput>cursor</displayoutput>") +
+            suite.application(
+                5, "setsid sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &"));
+        StrayProcesses::adopt();
         RunAppData& tool = *page.applications[0];
         tool.button->click();
         QVERIFY(!page.applications[1]->button->isEnabled());
@@ -226,12 +332,25 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!tool.isRunning() && !Installation::isAlive(child), 8000);
         QVERIFY(none.texts.isEmpty());
 
-        // What a tool leaves behind stays for the user, but not longer than the program.
+        // One that listens, with a child that does not, stopped by the window that locks the wizard.
+        page.applications[3]->button->click();
+        QTRY_VERIFY(!(child = suite.read(u"tool4.pid"_s)).isEmpty());
+        const auto busy = [] { return qobject_cast<BusyDialog*>(QApplication::activeWindow()); };
+        QTRY_VERIFY(busy());
+        QVERIFY(QApplication::overrideCursor());
+        busy()->reject();
+        QTRY_VERIFY(!page.applications[3]->isRunning() && !Installation::isAlive(child));
+        QVERIFY(none.texts.isEmpty() && !QApplication::overrideCursor());
+
+        // What a tool leaves behind stays for the user, but not longer than the program, wherever it went.
+        page.applications[4]->Activate();
+        QByteArray daemon;
+        QTRY_VERIFY(!page.applications[4]->isRunning() && !(daemon = suite.read(u"tool5.pid"_s)).isEmpty());
         page.applications[2]->Activate();
         QTRY_VERIFY(!page.applications[2]->isRunning() && !(child = suite.read(u"tool3.pid"_s)).isEmpty());
-        QVERIFY(Installation::isAlive(child));
+        QVERIFY(Installation::isAlive(child) && Installation::isAlive(daemon) && page.ProgramsRunning());
         appRegistry->ShutDown();
-        QTRY_VERIFY(!Installation::isAlive(child));
+        QVERIFY(!Installation::isAlive(child) && !Installation::isAlive(daemon) && !page.ProgramsRunning());
     }
 };
 

@@ -106,6 +106,7 @@ void BoxAnswers::answer()
         return;
     }
     texts += box->windowTitle() + u'|' + box->text();
+    details += box->detailedText();
     // An unexpected box must not hang the test: it gets the answer that changes least.
     const QMessageBox::StandardButton choice = answers.isEmpty() ? QMessageBox::NoButton : answers.takeFirst();
     if (QAbstractButton* button = box->button(choice)) {

@@ -45,6 +45,8 @@ public:
     ~BoxAnswers();
 
     QStringList texts;
+    /// What stands behind the "Show Details" of each box.
+    QStringList details;
 
 private:
     void answer();

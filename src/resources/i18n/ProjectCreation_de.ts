@@ -78,6 +78,14 @@
         <translation>Konvertierung abgeschlossen
 </translation>
     </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>Fortschritt der Konvertierung</translation>
+    </message>
+    <message>
+        <source>Output, without its end, until the wizard is closed: %1</source>
+        <translation>Ausgabe ohne ihr Ende, solange der Assistent geöffnet ist: %1</translation>
+    </message>
 </context>
 <context>
     <name>AppRegistry</name>
@@ -120,6 +128,10 @@ Möchten Sie sie anhalten?</translation>
     <message>
         <source>The help viewer %1 has ended unexpectedly. Ask for help again to restart it.</source>
         <translation>Die Hilfeanzeige %1 wurde unerwartet beendet. Rufen Sie die Hilfe erneut auf, um sie neu zu starten.</translation>
+    </message>
+    <message>
+        <source>The help viewer %1 has ended with an error: %2</source>
+        <translation>Der Hilfebetrachter %1 hat sich mit einem Fehler beendet: %2</translation>
     </message>
 </context>
 <context>
@@ -241,6 +253,14 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
         <source>Error: Conversion Process Failed</source>
         <translation>Fehler: Die Konvertierung ist fehlgeschlagen</translation>
     </message>
+    <message>
+        <source>%1: this conversion type or installation allows only the other analyser</source>
+        <translation>%1: diese Konvertierungsart oder Installation erlaubt nur den anderen Analysator</translation>
+    </message>
+    <message>
+        <source>-prj: %1 can not be the project file; it would become %2</source>
+        <translation>-prj: %1 kann nicht die Projektdatei sein; es würde %2 daraus</translation>
+    </message>
 </context>
 <context>
     <name>BatchInputs</name>
@@ -255,6 +275,14 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
     <message>
         <source>the input &quot;%1&quot; is a switch: give it 1 or 0, not &quot;%2&quot;</source>
         <translation>die Eingabe „%1“ ist ein Schalter: Geben Sie 1 oder 0 an, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>the input &quot;%1&quot; is for the other analyser</source>
+        <translation>die Eingabe „%1“ gehört zum anderen Analysator</translation>
+    </message>
+    <message>
+        <source>the input &quot;%1&quot; is one of a choice: give 1 to the one you want</source>
+        <translation>die Eingabe „%1“ ist Teil einer Auswahl: Geben Sie der gewünschten den Wert 1</translation>
     </message>
 </context>
 <context>
@@ -391,6 +419,10 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
     <message>
         <source>The conversion program ended with exit code %1.</source>
         <translation>Das Konvertierungsprogramm endete mit dem Exit-Code %1.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
     </message>
 </context>
 <context>
@@ -641,10 +673,6 @@ Möchten Sie diese Anwendung schließen?</translation>
         <translation>Der Prozess hat keine Daten geliefert</translation>
     </message>
     <message>
-        <source>[The output is cut here: %1 more bytes are not shown]</source>
-        <translation>[Die Ausgabe ist hier abgeschnitten: %1 weitere Bytes werden nicht angezeigt]</translation>
-    </message>
-    <message>
         <source>Failed to Start</source>
         <translation>Start fehlgeschlagen</translation>
     </message>
@@ -675,6 +703,22 @@ Möchten Sie diese Anwendung schließen?</translation>
     <message>
         <source>A temporary file can not be written in %1. Make room there or make it writable.</source>
         <translation>In %1 kann keine temporäre Datei geschrieben werden. Schaffen Sie dort Platz, oder machen Sie den Ordner beschreibbar.</translation>
+    </message>
+    <message>
+        <source>[The output is longer than this and could not be kept]</source>
+        <translation>[Die Ausgabe ist länger und konnte nicht aufbewahrt werden]</translation>
+    </message>
+    <message>
+        <source>[The output is longer than this. Until the wizard is closed it is in %1]</source>
+        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie in %1]</translation>
+    </message>
+    <message>
+        <source>Running. Its context menu stops it.</source>
+        <translation>Läuft. Das Kontextmenü hält das Werkzeug an.</translation>
+    </message>
+    <message>
+        <source>Available once this has succeeded: %1</source>
+        <translation>Verfügbar, sobald dies gelungen ist: %1</translation>
     </message>
 </context>
 <context>
@@ -710,6 +754,14 @@ Möchten Sie diese Anwendung schließen?</translation>
     <message>
         <source>Can not open file</source>
         <translation>Die Datei kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>[The file is larger; only its beginning is shown]</source>
+        <translation>[Die Datei ist größer; nur ihr Anfang wird gezeigt]</translation>
     </message>
 </context>
 <context>
