@@ -23,6 +23,10 @@ QString gradient(const QColor& colour)
 
 void SetButtonStyle(QPushButton* button, const QString& colour)
 {
+    // The usual grey of a disabled text can not be read on most colours.
+    QPalette palette = button->palette();
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(105, 105, 105));
+    button->setPalette(palette);
     QColor base(235, 235, 235);
     if (const QColor wanted(colour); !colour.isEmpty() && wanted.isValid()) {
         base = wanted;
