@@ -97,7 +97,7 @@ SourceUnit readEntry(const QJsonValue& value, const QString& fileName, const QSt
     QStringList words;
     if (entry["arguments"_L1].isArray()) {
         const QJsonArray arguments = entry["arguments"_L1].toArray();
-        for (const QJsonValue& argument : arguments) {
+        for (const auto& argument : arguments) {
             words += argument.toString();
         }
     } else {

@@ -22,7 +22,7 @@ QString FindInstallation(const QString& product, const QString& variable)
     QStringList versions = SettingsStore::childGroups(product);
     if (!versions.isEmpty()) {
         versions.sort();
-        const QString path = SettingsStore::openForReading(product)->value(versions.last() + u"/Path"_s).toString();
+        QString path = SettingsStore::openForReading(product)->value(versions.last() + u"/Path"_s).toString();
         if (!path.isEmpty() && QFile::exists(path)) {
             return path;
         }

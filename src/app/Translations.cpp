@@ -5,6 +5,9 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include <memory>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -13,12 +16,18 @@ namespace {
 QString messagesLocale()
 {
     for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const QString value = qEnvironmentVariable(name);
+        QString value = qEnvironmentVariable(name);
         if (!value.isEmpty()) {
             return value;
         }
     }
     return {};
+}
+
+void keep(std::unique_ptr<QTranslator> translator)
+{
+    translator->setParent(QCoreApplication::instance());
+    QCoreApplication::installTranslator(translator.release());
 }
 
 } // namespace
@@ -47,17 +56,14 @@ QString Translations::load(QTranslator& translator, const QLocale& locale)
 
 void Translations::install(const QLocale& locale)
 {
-    auto* own = new QTranslator(QCoreApplication::instance());
+    auto own = std::make_unique<QTranslator>();
     const QString language = load(*own, locale);
     if (language.isEmpty()) {
-        delete own;
         return;
     }
-    auto* qt = new QTranslator(QCoreApplication::instance());
+    auto qt = std::make_unique<QTranslator>();
     if (qt->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(qt);
-    } else {
-        delete qt;
+        keep(std::move(qt));
     }
-    QCoreApplication::installTranslator(own);
+    keep(std::move(own));
 }

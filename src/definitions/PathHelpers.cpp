@@ -32,7 +32,7 @@ QString LocateFile(const QString& path, const QString& xmlArea)
     }
     const QString fileName = QFileInfo(path).fileName();
     for (const QString& folder : {xmlArea, QDir::homePath(), QDir::currentPath()}) {
-        const QString candidate = AbsoluteJoin(folder, fileName);
+        QString candidate = AbsoluteJoin(folder, fileName);
         if (!fileName.isEmpty() && QFile::exists(candidate)) {
             return candidate;
         }

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr qsizetype portionSize = 128 * 1024;
+constexpr qsizetype portionSize = 128LL * 1024;
 // A view lays out a line as a whole; a longer one would stall it.
 constexpr qsizetype longestLine = 10'000;
 

@@ -170,7 +170,7 @@ void FindDialog::SetSearchStart(const QString& path)
     locationEdit->setText(info.isDir() ? path : info.absolutePath());
 }
 
-void FindDialog::textChanged(QString text)
+void FindDialog::textChanged(const QString& text)
 {
     searchButton->setEnabled(!text.isEmpty());
 }

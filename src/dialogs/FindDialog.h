@@ -27,7 +27,7 @@ public:
     const QString& SelectedFile() const { return selectedFile; }
 
 public Q_SLOTS:
-    void textChanged(QString text);
+    void textChanged(const QString& text);
     void itemSelectionChanged();
     void itemDoubleClicked(QListWidgetItem* item);
     void browseButtonClicked();

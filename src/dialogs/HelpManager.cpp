@@ -66,7 +66,7 @@ bool HelpManager::eventFilter(QObject* /*object*/, QEvent* event)
     return true;
 }
 
-void HelpManager::slt_showHelp(QString helpPage, bool fullPath)
+void HelpManager::slt_showHelp(const QString& helpPage, bool fullPath)
 {
     const QString page = fullPath ? helpPage : QDir::cleanPath(HelpDirectory() + u'/' + helpPage);
     if (!collection) {
@@ -95,12 +95,12 @@ void HelpManager::show(const QUrl& page)
     viewer->showPage(page);
 }
 
-void HelpManager::slt_showHelp(QString helpPage)
+void HelpManager::slt_showHelp(const QString& helpPage)
 {
     slt_showHelp(helpPage, false);
 }
 
-void HelpManager::slt_showError(QString str)
+void HelpManager::slt_showError(const QString& str)
 {
     QMessageBox box(QMessageBox::Critical, tr("Assistant Error"), str, QMessageBox::NoButton,
                     qobject_cast<QWidget*>(parent()));

@@ -33,9 +33,9 @@ public:
 
 public Q_SLOTS:
     /// Shows a page below the help directory, or with fullPath the page as given.
-    void slt_showHelp(QString helpPage, bool fullPath);
-    void slt_showHelp(QString helpPage);
-    void slt_showError(QString str);
+    void slt_showHelp(const QString& helpPage, bool fullPath);
+    void slt_showHelp(const QString& helpPage);
+    void slt_showError(const QString& str);
 
 private:
     static QString profile();

@@ -18,13 +18,13 @@ QString lookUp(const QString& program)
         return program;
     }
     // What the command `which` would print, without a process for every question.
-    const QString onPath = QStandardPaths::findExecutable(program);
+    QString onPath = QStandardPaths::findExecutable(program);
     if (!onPath.isEmpty()) {
         return onPath;
     }
     for (const QString& folder :
          {appRegistry->values.binArea, appRegistry->cInstallDir + u"/bin"_s, appRegistry->cppInstallDir + u"/bin"_s}) {
-        const QString candidate = JoinPath(folder, program);
+        QString candidate = JoinPath(folder, program);
         if (QFile::exists(candidate)) {
             return candidate;
         }

@@ -23,7 +23,7 @@ namespace {
 
 // A quick tool needs no window that offers to stop it.
 constexpr auto busyDelay = 700ms;
-constexpr qsizetype keptErrors = 64 * 1024;
+constexpr qsizetype keptErrors = 64LL * 1024;
 // A window lays out each line; many short ones cost more than their bytes.
 constexpr int shownLines = 500'000;
 constexpr int windowWidth = 600;
@@ -35,11 +35,11 @@ qsizetype largestOutput(int displayMode)
 {
     switch (displayMode) {
     case RunAppData::MessageDisplay:
-        return 16 * 1024;
+        return 16LL * 1024;
     case RunAppData::HtmlDisplay:
-        return 1024 * 1024;
+        return 1024LL * 1024;
     default:
-        return 16 * 1024 * 1024;
+        return 16LL * 1024 * 1024;
     }
 }
 

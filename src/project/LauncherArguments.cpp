@@ -28,7 +28,7 @@ QString cannotWrite(const QFile& file)
 /// A new temporary file's name; without one problem says why.
 QString temporaryName(const QString& suffix, QString& problem)
 {
-    const QString name = appRegistry->CreateTempFileName(suffix);
+    QString name = appRegistry->CreateTempFileName(suffix);
     if (name.isEmpty() && problem.isEmpty()) {
         problem = ProjectData::tr("A temporary file can not be made in %1. Make room there or make it writable.")
                       .arg(QDir::toNativeSeparators(QDir::tempPath()));
@@ -94,7 +94,7 @@ void ProjectData::crossModuleListText(QTextStream& stream) const
 
 QString ProjectData::crossModuleListFile(QString& problem) const
 {
-    const QString fileName = temporaryName(u".lst"_s, problem);
+    QString fileName = temporaryName(u".lst"_s, problem);
     QFile file(fileName);
     if (fileName.isEmpty()) {
         return {};

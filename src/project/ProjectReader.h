@@ -17,7 +17,7 @@ public:
     /// The one place that decides how project files are encoded.
     static constexpr QStringConverter::Encoding encoding = QStringConverter::System;
     /// A longer line is no project file's.
-    static constexpr qint64 longestLine = 1024 * 1024;
+    static constexpr qint64 longestLine = 1024LL * 1024;
 
     ProjectReader(QIODevice& device, ProjectData& root);
 

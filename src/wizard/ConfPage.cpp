@@ -151,17 +151,17 @@ void ConfPage::updateHint()
                           : QString());
 }
 
-void ConfPage::CPersonalityChanged(QString fileName)
+void ConfPage::CPersonalityChanged(const QString& fileName)
 {
     accept(compilerField, window->compilerPersonality, fileName);
 }
 
-void ConfPage::APersonalityChanged(QString fileName)
+void ConfPage::APersonalityChanged(const QString& fileName)
 {
     accept(analyserField, window->analyserPersonality, fileName);
 }
 
-void ConfPage::MPersonalityChanged(QString fileName)
+void ConfPage::MPersonalityChanged(const QString& fileName)
 {
     accept(messageField, window->messagePersonality, fileName);
 }

@@ -21,9 +21,9 @@ public:
     bool isComplete() const override;
 
 public Q_SLOTS:
-    void CPersonalityChanged(QString fileName);
-    void APersonalityChanged(QString fileName);
-    void MPersonalityChanged(QString fileName);
+    void CPersonalityChanged(const QString& fileName);
+    void APersonalityChanged(const QString& fileName);
+    void MPersonalityChanged(const QString& fileName);
     void ComplianceChanged(int index);
 
 private:

@@ -123,7 +123,7 @@ void SelectFileWidgets::SetReadOnly(bool readOnly)
     findButton->setVisible(!readOnly);
 }
 
-void SelectFileWidgets::ValChanged(QString text)
+void SelectFileWidgets::ValChanged(const QString& text)
 {
     Q_EMIT ValueChanged(text);
     editButton->setEnabled(!text.isEmpty());

@@ -55,7 +55,7 @@ Q_SIGNALS:
     void EditFile(QString fileName);
 
 public Q_SLOTS:
-    void ValChanged(QString text);
+    void ValChanged(const QString& text);
     void EditFile();
     void GetAFile();
     void FindAFile();
