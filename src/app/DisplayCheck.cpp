@@ -21,7 +21,11 @@ struct Message
 };
 
 // Qt tells of a missing display in several messages and then aborts; they are held back until it is known which.
-std::vector<Message> heldBack;
+std::vector<Message>& heldBack()
+{
+    static std::vector<Message> messages;
+    return messages;
+}
 
 // There is no application yet that could hold a catalogue.
 QString translated(const char* text)
@@ -35,10 +39,10 @@ QString translated(const char* text)
 void holdBack(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type != QtFatalMsg) {
-        heldBack.push_back({type, text});
+        heldBack().push_back({type, text});
         return;
     }
-    const QString reason = heldBack.empty() ? text : heldBack.front().text;
+    const QString reason = heldBack().empty() ? text : heldBack().front().text;
     const QString display = qEnvironmentVariable("DISPLAY");
     const QString line =
         translated(QT_TRANSLATE_NOOP("DisplayCheck", "no display to open a window on (%1; DISPLAY is %2). Start it in "
@@ -52,7 +56,7 @@ void holdBack(QtMsgType type, const QMessageLogContext&, const QString& text)
 
 void replay()
 {
-    for (const Message& message : std::exchange(heldBack, {})) {
+    for (const Message& message : std::exchange(heldBack(), {})) {
         if (message.type == QtDebugMsg || message.type == QtInfoMsg) {
             qDebug("%s", qUtf8Printable(message.text));
         } else {

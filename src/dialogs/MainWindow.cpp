@@ -6,16 +6,20 @@
 
 namespace {
 
-QPointer<QWidget> mainWindow;
+QPointer<QWidget>& mainWindow()
+{
+    static QPointer<QWidget> window;
+    return window;
+}
 
 } // namespace
 
 QWidget* MainWindow::current()
 {
-    return mainWindow;
+    return mainWindow();
 }
 
 void MainWindow::set(QWidget* window)
 {
-    mainWindow = window;
+    mainWindow() = window;
 }

@@ -52,7 +52,7 @@ public:
 
 Q_SIGNALS:
     void ValueChanged(QString val);
-    void EditFile(QString fileName);
+    void EditFile(QString fileName); // clazy:exclude=overloaded-signal
 
 public Q_SLOTS:
     void ValChanged(const QString& text);
