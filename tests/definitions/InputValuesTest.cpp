@@ -51,81 +51,53 @@ private Q_SLOTS:
         QHash<QString, FieldState> states{{u"a"_s, toggle(true)}, {u"b"_s, toggle(false)}, {u"c"_s, toggle(true)},
                                           {u"d"_s, text(u"D"_s)}, {u"e"_s, text(u"E"_s)},  {u"f"_s, toggle(true)}};
         const FieldSource source = [&](const ArgumentDefinition& field) { return states.value(field.displayName); };
-
         QCOMPARE(InputValues::value(group, source, false), u"-a,c,D,E+f"_s);
         QVERIFY(group.value.isEmpty() && group.children[0]->value.isEmpty());
         states[u"c"_s] = toggle(true, false);
         states[u"d"_s] = text(u"hidden"_s, false);
         QCOMPARE(InputValues::value(group, source, true), u"-a,E+f"_s);
         QCOMPARE(group.value, u"-a,E+f"_s);
-        QCOMPARE(group.children[0]->value, u"1"_s);
-        QCOMPARE(group.children[1]->value, u"0"_s);
+        QCOMPARE(group.children[0]->value + group.children[1]->value, u"10"_s);
         QVERIFY(group.children[2]->value.isEmpty() && group.children[3]->value.isEmpty());
         // What is nested deeper is joined but not remembered.
         QVERIFY(inner.children[0]->value.isEmpty());
     }
 
-    void switches_data()
-    {
-        QTest::addColumn<QString>("output");
-        QTest::addColumn<bool>("checked");
-        QTest::addColumn<bool>("active");
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("remembered");
-        QTest::newRow("checked") << QString() << true << true << u"1"_s << u"1"_s;
-        QTest::newRow("unchecked") << QString() << false << true << u"0"_s << u"0"_s;
-        QTest::newRow("output, checked") << u"-x"_s << true << true << u"-x"_s << u"1"_s;
-        QTest::newRow("output, unchecked") << u"-x"_s << false << true << QString() << u"0"_s;
-        QTest::newRow("hidden") << u"-x"_s << true << false << QString() << QString();
-    }
-
     void switches()
     {
-        QFETCH(const QString, output);
-        QFETCH(const bool, checked);
-        QFETCH(const bool, active);
-        QFETCH(const QString, value);
-        QFETCH(const QString, remembered);
-        ArgumentDefinitions list;
-        ArgumentDefinition& check = add(list, InputType::Check, u"c"_s, output);
-        check.value = u"old"_s;
-        QCOMPARE(InputValues::value(
-                     check, [&](const auto&) { return toggle(checked, active); }, true),
-                 value);
-        QCOMPARE(check.value, remembered);
-    }
-
-    void completeness_data()
-    {
-        QTest::addColumn<InputType>("type");
-        QTest::addColumn<bool>("mustBeSet");
-        QTest::addColumn<bool>("mustExist");
-        QTest::addColumn<QString>("entered");
-        QTest::addColumn<bool>("complete");
-        const QString here = QCoreApplication::applicationFilePath();
-        QTest::newRow("optional, empty") << InputType::File << false << false << QString() << true;
-        QTest::newRow("needed, blanks only") << InputType::Edit << true << false << u" \t "_s << false;
-        QTest::newRow("needed, given") << InputType::Edit << true << false << u"x"_s << true;
-        QTest::newRow("must exist, missing") << InputType::File << true << true << u"/nowhere"_s << false;
-        QTest::newRow("must exist, there") << InputType::File << true << true << here << true;
-        QTest::newRow("an edit never must exist") << InputType::Edit << true << true << u"/nowhere"_s << true;
+        // Of the last text the first part goes into the command, the second is remembered.
+        const std::tuple<QString, FieldState, QString> rows[] = {{{}, toggle(true), u"1|1"_s},
+                                                                 {{}, toggle(false), u"0|0"_s},
+                                                                 {u"-x"_s, toggle(true), u"-x|1"_s},
+                                                                 {u"-x"_s, toggle(false), u"|0"_s},
+                                                                 {u"-x"_s, toggle(true, false), u"|"_s}};
+        for (const auto& [output, state, values] : rows) {
+            ArgumentDefinitions list;
+            ArgumentDefinition& check = add(list, InputType::Check, u"c"_s, output);
+            check.value = u"old"_s;
+            const FieldSource source = [field = state](const auto&) { return field; };
+            QCOMPARE(InputValues::value(check, source, true) + u'|' + check.value, values);
+        }
     }
 
     void completeness()
     {
-        QFETCH(const InputType, type);
-        QFETCH(const bool, mustBeSet);
-        QFETCH(const bool, mustExist);
-        QFETCH(const QString, entered);
-        QFETCH(const bool, complete);
-        ArgumentDefinitions list;
-        add(list, InputType::Edit, u"optional"_s);
-        ArgumentDefinition& field = add(list, type, u"f"_s);
-        field.mustBeSet = mustBeSet;
-        field.fileMustExist = mustExist;
-        const ArgumentDefinition* missing =
-            InputValues::firstIncomplete(list, [&](const auto&) { return text(entered); });
-        QCOMPARE(missing, complete ? nullptr : &field);
+        const std::tuple<const char*, InputType, bool, bool, FieldState, bool> rows[] = {
+            {"optional, empty", InputType::File, false, false, text({}), true},
+            {"needed, blanks only", InputType::Edit, true, false, text(u" \t "_s), false},
+            {"needed, given", InputType::Edit, true, false, text(u"x"_s), true},
+            {"must exist, missing", InputType::File, true, true, text(u"/nowhere"_s), false},
+            {"must exist, there", InputType::File, true, true, text(QCoreApplication::applicationFilePath()), true},
+            {"an edit never must exist", InputType::Edit, true, true, text(u"/nowhere"_s), true}};
+        for (const auto& [name, type, mustBeSet, mustExist, state, complete] : rows) {
+            ArgumentDefinitions list;
+            add(list, InputType::Edit, u"optional"_s);
+            ArgumentDefinition& field = add(list, type, u"f"_s);
+            field.mustBeSet = mustBeSet;
+            field.fileMustExist = mustExist;
+            const FieldSource source = [entered = state](const auto&) { return entered; };
+            QVERIFY2(InputValues::firstIncomplete(list, source) == (complete ? nullptr : &field), name);
+        }
     }
 };
 

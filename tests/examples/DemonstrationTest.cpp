@@ -20,54 +20,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Result
-{
-    int status;
-    QString output;
-    QString errors;
-};
-
 /// The demonstration suite, installed by its own script.
 class Demonstration : public Installation
 {
 public:
     Demonstration()
     {
-        if (QProcess::execute(QStringLiteral(INSTALL_DEMO),
-                              {path(u"."_s), u"--build-dir"_s, QStringLiteral(BUILD_FOLDER)}) != 0) {
+        const QStringList arguments{path(u"."_s), u"--build-dir"_s, QStringLiteral(BUILD_FOLDER)};
+        if (runProgram(QStringLiteral(INSTALL_DEMO), arguments).status != 0) {
             qFatal("the demonstration suite can not be installed");
         }
     }
 
-    /// The program as a user would start it, without a display and a home.
-    Result run(const QStringList& arguments) const
+    /// A conversion without a window, as a user would start it; the command is divided as a shell does.
+    ProgramResult run(const QString& command) const
     {
-        QProcess program;
-        prepare(program);
-        program.start(path(u"create-project"_s), QStringList{u"-batch"_s} + arguments);
-        if (!program.waitForFinished()) {
-            return {-1, {}, program.errorString()};
-        }
-        return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
-                QString::fromUtf8(program.readAllStandardError())};
+        return runProgram(path(u"create-project"_s), QProcess::splitCommand(u"-batch "_s + command));
     }
-
-    static void prepare(QProcess& program)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const auto& name : {u"HOME"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s}) {
-            environment.remove(name);
-        }
-        program.setProcessEnvironment(environment);
-    }
-
-    static QString database() { return QStringLiteral(BUILD_FOLDER "/compile_commands.json"); }
 };
 
-QString databaseType()
-{
-    return u"CMake compile_commands.json"_s;
-}
+constexpr auto databaseType = "CMake compile_commands.json"_L1;
 
 } // namespace
 
@@ -76,69 +48,50 @@ class DemonstrationTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fromNothingToAProjectFile()
-    {
-        Demonstration suite;
-        suite.start();
-        WizardDriver wizard;
-        const BoxAnswers boxes({QMessageBox::Yes});
-        wizard.passStartPage(u"own code"_s, suite.path(u"work/new folder"_s), databaseType());
-        QCOMPARE(wizard.window.currentId(), int(SetProductPageId));
-        wizard.button(u"Orv C++ [Project contains 'C++' Code]"_s).click();
-        wizard.press(QWizard::NextButton);
-        QCOMPARE(wizard.window.currentId(), int(XmlPageId));
-        QVERIFY(!wizard.canGoOn());
-        wizard.edit(u"Compilation database"_s).setText(Demonstration::database());
-        wizard.edit(u"More defines"_s).setText(u"DEMO=<1>;SECOND"_s);
-        QVERIFY(wizard.has(u"Only C++ sources"_s) && !wizard.has(u"Only C sources"_s));
-        wizard.press(QWizard::NextButton);
-        QCOMPARE(wizard.window.currentId(), int(ConfPageId));
-        QVERIFY(wizard.canGoOn());
-        wizard.press(QWizard::NextButton);
-        QTRY_COMPARE_WITH_TIMEOUT(wizard.window.currentId(), int(DisplayOptionsPageId), 30000);
-
-        const auto* output = wizard.window.page(ActionPageId)->findChild<QTextBrowser*>();
-        QVERIFY2(output->toPlainText().contains("Conversion Complete"_L1), qPrintable(output->toPlainText()));
-        const QString project = QString::fromUtf8(suite.read(u"work/new folder/own code.prj"_s));
-        QVERIFY(project.startsWith("VersionTag"_L1));
-        QVERIFY(project.contains(u"name=own code\nsourceDir="_s + QStringLiteral(SOURCE_FOLDER)));
-        QVERIFY(project.contains("*project=ORVCPP\n"_L1));
-        QVERIFY(project.contains(u"messagePersonality="_s + suite.path(u"orvcpp/personalities/default.p_s"_s)));
-        QVERIFY(project.contains(u"sourceDir="_s + QStringLiteral(SOURCE_FOLDER) + u"/src/app\n"_s));
-        QVERIFY(project.contains("\nStartup.cpp\n"_L1));
-        const QString options = QString::fromUtf8(suite.read(u"work/new folder/own code.options.p_a"_s));
-        QVERIFY(options.contains("-d DEMO=<1>\n-d SECOND\n"_L1));
-        QVERIFY(options.contains(u"-i \""_s + QStringLiteral(SOURCE_FOLDER) + u"/src\"\n"_s));
-        wizard.press(QWizard::FinishButton);
-    }
+    void initTestCase() { hasAnalyser = !QStandardPaths::findExecutable(u"cppcheck"_s).isEmpty(); }
 
     void fromABuildToAReport()
     {
-        if (QStandardPaths::findExecutable(u"cppcheck"_s).isEmpty()) {
-            QSKIP("needs cppcheck");
-        }
         Demonstration suite;
         suite.write(u"work/code/größe a.cpp"_s, "int f()\n{\n    int values[2];\n    return values[INDEX];\n}\n");
         suite.write(u"work/code/lib/b.cpp"_s, "int g() { return 0; }\n");
         const QString database =
-            suite.write(u"work/db.json"_s, R"([{"file": "code/größe a.cpp", "arguments": ["c++", "-DINDEX=7"]},
-                                    {"file": "code/lib/b.cpp", "arguments": ["c++"]}])");
+            suite.write(u"work/db.json"_s,
+                        R"([{"file": "code/größe a.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]},
+                {"file": "code/lib/b.cpp", "arguments": ["c++"]}])");
         const AppRegistry& registry = suite.start();
         WizardDriver wizard;
-        BoxAnswers boxes({QMessageBox::No, QMessageBox::Yes});
-        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), databaseType());
+        BoxAnswers boxes({QMessageBox::Yes, QMessageBox::No, QMessageBox::Yes});
+        wizard.passStartPage(u"own code"_s, suite.path(u"work/new folder"_s), databaseType);
         wizard.button(u"Orv C++ [Project contains 'C++' Code]"_s).click();
         wizard.press(QWizard::NextButton);
+        QVERIFY(!wizard.canGoOn());
         wizard.edit(u"Compilation database"_s).setText(database);
+        wizard.edit(u"More defines"_s).setText(u"DEMO=<1>;SECOND"_s);
+        QVERIFY(wizard.has(u"Only C++ sources"_s) && !wizard.has(u"Only C sources"_s));
         wizard.press(QWizard::NextButton);
+        QVERIFY(wizard.window.currentId() == ConfPageId && wizard.canGoOn());
         wizard.press(QWizard::NextButton);
         QTRY_COMPARE_WITH_TIMEOUT(wizard.window.currentId(), int(DisplayOptionsPageId), 30000);
 
+        const QByteArray written =
+            suite.read(u"work/new folder/own code.prj"_s) + suite.read(u"work/new folder/own code.options.p_a"_s);
+        QVERIFY2(written.startsWith("VersionTag"), written);
+        for (const QString& lines :
+             {u"name=own code\nsourceDir="_s + suite.path(u"work/code"_s), u"*project=ORVCPP\ngröße a.cpp"_s,
+              u"messagePersonality="_s + suite.path(u"orvcpp/personalities/default.p_s"_s),
+              u"name=lib\nsourceDir="_s + suite.path(u"work/code/lib"_s), u"b.cpp"_s,
+              u"-i \""_s + suite.path(u"work/an include"_s) + u"\"\n-d INDEX=7\n-d DEMO=<1>\n-d SECOND"_s}) {
+            QVERIFY2(written.contains('\n' + lines.toUtf8() + '\n'), written);
+        }
+        if (!hasAnalyser) {
+            QSKIP("the report needs cppcheck");
+        }
         QAbstractButton& results = wizard.button(u"Show results"_s);
         QVERIFY(!results.isEnabled());
         wizard.button(u"Analyse\nproject"_s).click();
         QTRY_VERIFY2_WITH_TIMEOUT(results.isEnabled(), qPrintable(boxes.texts.join(u' ')), 60000);
-        QVERIFY(suite.read(u"work/p.out/größe a.cpp.err"_s).contains("arrayIndexOutOfBounds"));
+        QVERIFY(suite.read(u"work/new folder/own code.out/größe a.cpp.err"_s).contains("arrayIndexOutOfBounds"));
         results.click();
         QTRY_COMPARE(registry.openDialogs.size(), 1);
         const QString report = registry.openDialogs[0]->findChild<QTextBrowser*>()->toPlainText();
@@ -156,161 +109,123 @@ private Q_SLOTS:
         QVERIFY(wizard.window.isVisible() && registry.openDialogs.size() == 3);
         wizard.press(QWizard::FinishButton);
         QVERIFY(!wizard.window.isVisible());
-        QCOMPARE(boxes.texts.size(), 2);
+        QCOMPARE(boxes.texts.size(), 3);
         QVERIFY(boxes.texts.last().startsWith("Child Applications Still Running|"_L1));
     }
 
     void analysesAList()
     {
-        if (QStandardPaths::findExecutable(u"cppcheck"_s).isEmpty()) {
+        if (!hasAnalyser) {
             QSKIP("needs cppcheck");
         }
         const Demonstration suite;
-        const QString source = suite.write(u"work/a%2.cpp"_s, "int f() { int v[2]; return v[7]; }\n");
-        const QString out = suite.path(u"work/out"_s);
-        const QString list =
-            suite.write(u"work/sources.lst"_s, "* a comment\n-outputpath \"" + out.toUtf8() + "\"\n\"" +
-                                                   source.toUtf8() + "\"\n-cmaf \"" + out.toUtf8() + "/deep/p\"\n");
-        const auto tool = [&](const QString& name, const QStringList& arguments) {
-            QProcess process;
-            process.start(suite.path(name), arguments);
-            process.waitForFinished();
-            return std::pair{process.exitCode(), QString::fromUtf8(process.readAll())};
-        };
-        const QString options = suite.write(u"work/odd.via"_s, "\"\n-d\n");
-        QCOMPARE(tool(u"orvcpp/bin/orvcpp"_s, {u"-via"_s, options, u"-list"_s, list}).first, 0);
-        QVERIFY(suite.read(u"work/out/a%2.cpp.err"_s).contains("arrayIndexOutOfBounds"));
-        QVERIFY(QFile::exists(out + u"/a%2.cpp.met"_s));
-        const qsizetype messages = suite.read(u"work/out/a%2.cpp.err"_s).count('\n');
-        QCOMPARE(tool(u"bin/orvcount"_s, {u"-list"_s, list}),
-                 std::pair(0, u"%1 messages in 1 analysed files"_s.arg(messages)));
-        QVERIFY(
-            tool(u"bin/orvreport"_s, {u"-list"_s, list}).second.contains(u"/a%2.cpp ("_s + QString::number(messages)));
-        QCOMPARE(tool(u"bin/orvcma"_s, {u"-list"_s, list}).first, 0);
+        const QByteArray source = suite.write(u"work/a%2.cpp"_s, "int f() { int v[2]; return v[7]; }\n").toUtf8();
+        const QByteArray out = suite.path(u"work/out"_s).toUtf8();
+        const QStringList list{u"-list"_s,
+                               suite.write(u"work/sources.lst"_s, "* a comment\n-outputpath \"" + out + "\"\n\"" +
+                                                                      source + "\"\n-cmaf \"" + out + "/deep/p\"\n")};
+        const QStringList options{u"-via"_s, suite.write(u"work/odd.via"_s, "\"\n-d\n")};
+        QCOMPARE(runProgram(suite.path(u"orvcpp/bin/orvcpp"_s), options + list).status, 0);
+        const QByteArray errors = suite.read(u"work/out/a%2.cpp.err"_s);
+        QVERIFY(errors.contains("arrayIndexOutOfBounds") && QFile::exists(suite.path(u"work/out/a%2.cpp.met"_s)));
+        const ProgramResult count = runProgram(suite.path(u"bin/orvcount"_s), list);
+        QCOMPARE(count.output, u"%1 messages in 1 analysed files"_s.arg(errors.count('\n')));
+        QCOMPARE(count.status, 0);
+        const QString report = runProgram(suite.path(u"bin/orvreport"_s), list).output;
+        QVERIFY2(report.contains(u"/a%2.cpp ("_s + QString::number(errors.count('\n'))), qPrintable(report));
+        QCOMPARE(runProgram(suite.path(u"bin/orvcma"_s), list).status, 0);
         QVERIFY(suite.read(u"work/out/deep/p"_s).contains("arrayIndexOutOfBounds"));
-        QVERIFY(tool(u"orvcpp/bin/orvcpp"_s, {}).first != 0);
+        QVERIFY(runProgram(suite.path(u"orvcpp/bin/orvcpp"_s), {}).status > 0);
     }
 
     void convertsWithoutAWindow()
     {
         const Demonstration suite;
         const QString project = suite.path(u"work/batch/p.prj"_s);
-        const QStringList wanted{u"-prj"_s,      project,     u"-type"_s,
-                                 databaseType(), u"-input"_s, u"Compilation database="_s + Demonstration::database()};
-        Result result =
-            suite.run(wanted + QStringList{u"-cpp"_s, u"-input"_s, u"Options/Keep files that do not exist=1"_s,
-                                           u"-input"_s, u"Absolute=yes"_s});
-        QVERIFY2(result.status == 0, qPrintable(result.errors));
-        QVERIFY(result.output.endsWith(u"New project file: "_s + project + u'\n') && result.errors.isEmpty());
+        const QString wanted = u"-cpp -prj \"%1\" -type \"%2\" -input \"Compilation database=%3\" "_s.arg(
+            project, databaseType, QStringLiteral(BUILD_FOLDER "/compile_commands.json"));
+        ProgramResult result =
+            suite.run(wanted + u"-input \"Options/Keep files that do not exist=1\" -input Absolute=yes"_s);
+        QVERIFY2(result.status == 0 && result.errors.isEmpty(), qPrintable(result.errors));
+        QVERIFY(result.output.endsWith(u"New project file: "_s + project + u'\n'));
         const QByteArray text = suite.read(u"work/batch/p.prj"_s);
         QVERIFY(text.contains("\n" SOURCE_FOLDER "/src/app/Startup.cpp\n"));
 
-        result = suite.run(wanted + QStringList{u"-cpp"_s});
+        result = suite.run(wanted);
         QCOMPARE(result.status, 2);
         QVERIFY2(result.errors.contains("-overwrite"_L1), qPrintable(result.errors));
         QCOMPARE(suite.read(u"work/batch/p.prj"_s), text);
-        QCOMPARE(suite.run(wanted + QStringList{u"-cpp"_s, u"-overwrite"_s}).status, 0);
+        QCOMPARE(suite.run(wanted + u"-overwrite"_s).status, 0);
         QVERIFY(suite.read(u"work/batch/p.prj"_s) != text);
-    }
 
-    void leavesTheOtherLanguageOut()
-    {
-        const Demonstration suite;
-        for (const char* name : {"a.c", "b.cpp"}) {
-            suite.write(u"work/"_s + QLatin1String(name), "");
-        }
+        // Each analyser gets the sources of its language.
+        suite.write(u"work/a.c"_s, "");
+        suite.write(u"work/b.cpp"_s, "");
         suite.write(u"work/db.json"_s, R"([{"file": "a.c"}, {"file": "b.cpp"}])");
-        for (const QString& analyser : {u"-c"_s, u"-cpp"_s}) {
-            QStringList arguments{u"-prj"_s, u"p.prj"_s, u"-overwrite"_s, u"-type"_s, databaseType(), analyser};
-            arguments += {u"-input"_s, u"Compilation database=db.json"_s};
-            if (analyser == "-cpp"_L1) {
-                arguments += {u"-input"_s, u"Only C++ sources=1"_s};
-            }
-            const Result result = suite.run(arguments);
+        for (const bool isC : {true, false}) {
+            result = suite.run(u"-prj p.prj -overwrite -type \"%1\" -input \"Compilation database=db.json\" %2"_s.arg(
+                databaseType, isC ? u"-c"_s : u"-cpp -input \"Only C++ sources=1\""_s));
             QVERIFY2(result.status == 0, qPrintable(result.errors));
-            const QByteArray project = suite.read(u"work/p.prj"_s);
-            QCOMPARE(project.contains("\na.c\n"), analyser == "-c"_L1);
-            QCOMPARE(project.contains("\nb.cpp\n"), analyser == "-cpp"_L1);
+            const QByteArray written = suite.read(u"work/p.prj"_s);
+            QVERIFY2(written.contains("\na.c\n") == isC && written.contains("\nb.cpp\n") != isC, written);
         }
     }
 
-    void saysWhatIsWrong_data()
+    void answersWithoutAWindow()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("says");
-        const QStringList target{u"-prj"_s, u"new.prj"_s};
-        const QStringList list{u"-type"_s, u"List of files"_s, u"-c"_s};
-        const auto row = [](const char* name, const QStringList& arguments, int status, const QString& says) {
-            QTest::newRow(name) << arguments << status << says;
+        const Demonstration suite;
+        const QString target = u"-prj new.prj "_s;
+        const QString list = u"-type \"List of files\" -c "_s;
+        const QString given = list + u"-input \"File list=/etc/passwd\" "_s;
+        const std::tuple<QString, int, QString> rows[] = {
+            {u"-list-types"_s, 0, u"List of files  [ORVC, ORVCPP]\n"_s},
+            {u"-list-types --json"_s, 0, u"\"name\": \"Source folder\""_s},
+            {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"kind\": \"DIR\""_s},
+            {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"ORVCPP\": \"cpp;cc;cxx;c\""_s},
+            {{}, 2, u"Usage: ProjectCreation -batch"_s},
+            {u"-what"_s, 2, u"\"-what\""_s},
+            {u"-prj"_s, 2, u"-prj wants a value"_s},
+            {list, 2, u"-prj <file> is missing"_s},
+            {target, 2, u"-type <name> is missing"_s},
+            {target + u"-type x"_s, 2, u"no conversion type \"x\""_s},
+            {target + u"-type \"List of files\""_s, 2, u"-c or -cpp"_s},
+            {target + list + u"-input x=1"_s, 2, u"no input \"x\""_s},
+            {u"-prj new/ "_s + list, 2, u"-prj: new/ can not be the project file"_s},
+            {u"-prj new.v2.prj "_s + list, 2, u"it would become "_s},
+            {target + list + u"-input Absolute=maybe"_s, 2, u"give it 1 or 0"_s},
+            {target + list, 2, u"\"File list\" must name an existing file"_s},
+            {target + given + u"-mp /gone.p_s"_s, 2, u"-mp: the configuration file /gone.p_s"_s},
+            {u"-list-types -file /dev/null"_s, 2, u"no conversion types"_s},
+            {target + given, 1, u"no source file is left"_s},
+            {u"-prj /dev/null/x/new.prj "_s + given, 1, u"can not be created"_s},
         };
-        row("nothing asked", {}, 2, u"Usage: ProjectCreation -batch"_s);
-        row("unknown argument", {u"-what"_s}, 2, u"\"-what\""_s);
-        row("value missing", {u"-prj"_s}, 2, u"-prj wants a value"_s);
-        row("no project", list, 2, u"-prj <file> is missing"_s);
-        row("no type", target, 2, u"-type <name> is missing"_s);
-        row("unknown type", target + QStringList{u"-type"_s, u"x"_s}, 2, u"no conversion type \"x\""_s);
-        row("analyser open", target + list.first(2), 2, u"-c or -cpp"_s);
-        row("unknown input", target + list + QStringList{u"-input"_s, u"x=1"_s}, 2, u"no input \"x\""_s);
-        row("no name", QStringList{u"-prj"_s, u"new/"_s} + list, 2, u"-prj: new/ can not be the project file"_s);
-        row("two endings", QStringList{u"-prj"_s, u"new.v2.prj"_s} + list, 2, u"it would become "_s);
-        row("one of a choice", target + list + QStringList{u"-input"_s, u"Absolute=0"_s}, 2, u"one of a choice"_s);
-        row("other analyser's input",
-            target + QStringList{u"-type"_s, databaseType(), u"-c"_s, u"-input"_s, u"Only C++ sources=1"_s}, 2,
-            u"for the other analyser"_s);
-        row("no switch", target + list + QStringList{u"-input"_s, u"Absolute=maybe"_s}, 2, u"give it 1 or 0"_s);
-        row("must exist", target + list, 2, u"\"File list\" must name an existing file"_s);
-        row("personality missing",
-            target + list + QStringList{u"-input"_s, u"File list=/etc/passwd"_s, u"-mp"_s, u"/gone.p_s"_s}, 2,
-            u"-mp: the configuration file /gone.p_s"_s);
-        row("no definitions", QStringList{u"-list-types"_s, u"-file"_s, u"/dev/null"_s}, 2, u"no conversion types"_s);
-        row("conversion fails", target + list + QStringList{u"-input"_s, u"File list=/etc/passwd"_s}, 1,
-            u"no source file is left"_s);
-        row("folder can not be made",
-            QStringList{u"-prj"_s, u"/dev/null/x/new.prj"_s} + list +
-                QStringList{u"-input"_s, u"File list=/etc/passwd"_s},
-            1, u"can not be created"_s);
-    }
-
-    void saysWhatIsWrong()
-    {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const int, status);
-        QFETCH(const QString, says);
-        const Demonstration suite;
-        const Result result = suite.run(arguments);
-        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
-        QCOMPARE(result.status, status);
-        QVERIFY(!QFile::exists(suite.path(u"work/new.prj"_s)));
-    }
-
-    void listsWhatThereIs()
-    {
-        const Demonstration suite;
-        QVERIFY(suite.run({u"-list-types"_s}).output.contains("List of files  [ORVC, ORVCPP]\n"_L1));
-        QVERIFY(suite.run({u"-list-types"_s, u"--json"_s}).output.contains("\"name\": \"Source folder\""_L1));
-        const QString inputs = suite.run({u"-list-inputs"_s, u"Source folder"_s, u"--json"_s}).output;
-        QVERIFY2(inputs.contains("\"kind\": \"DIR\""_L1) && inputs.contains("\"ORVCPP\": \"cpp;cc;cxx;c\""_L1),
-                 qPrintable(inputs));
+        for (const auto& [command, status, says] : rows) {
+            const ProgramResult result = suite.run(command);
+            QVERIFY2((status == 0 ? result.output : result.errors).contains(says),
+                     qPrintable(command + u": "_s + result.output + result.errors));
+            QVERIFY2(result.status == status, qPrintable(command));
+            QVERIFY2(!QFile::exists(suite.path(u"work/new.prj"_s)), qPrintable(command));
+        }
     }
 
     void samplesTellTheAnalysersApart()
     {
         Demonstration suite;
         suite.start();
-        for (const bool isC : {true, false}) {
-            const QString folder = suite.path(isC ? u"orvc/personalities/"_s : u"orvcpp/personalities/"_s);
-            for (const QString& file :
-                 {isC ? u"gcc.p_c"_s : u"gpp.p_c"_s, u"project.p_a"_s, u"careful/careful.p_a"_s}) {
-                QVERIFY2(FileScans::isForOtherAnalyser(folder + file, !isC), qPrintable(folder + file));
-                QVERIFY2(!FileScans::isForOtherAnalyser(folder + file, isC), qPrintable(folder + file));
-            }
+        for (const auto& name :
+             {u"orvc/personalities/gcc.p_c"_s, u"orvc/personalities/project.p_a"_s,
+              u"orvc/personalities/careful/careful.p_a"_s, u"orvcpp/personalities/gpp.p_c"_s,
+              u"orvcpp/personalities/project.p_a"_s, u"orvcpp/personalities/careful/careful.p_a"_s}) {
+            const QString file = suite.path(name);
+            const bool isC = name.startsWith("orvc/"_L1);
+            QVERIFY2(FileScans::isForOtherAnalyser(file, !isC) && !FileScans::isForOtherAnalyser(file, isC),
+                     qPrintable(file));
         }
-        const QDir home(QDir::currentPath());
+        const QString home = QDir::currentPath();
         QVERIFY(QDir::setCurrent(QStringLiteral(SOURCE_FOLDER "/examples/projects")));
         const Project versioned(u"versioned.prj"_s);
         const Project unversioned(u"unversioned.prj"_s);
-        QVERIFY(QDir::setCurrent(home.path()));
+        QVERIFY(QDir::setCurrent(home));
         QCOMPARE(versioned.statusText,
                  u"This project has not been analysed yet\n   Files in project: 2    Analysed files: 0"_s);
         QCOMPARE(unversioned.statusText, versioned.statusText);
@@ -325,19 +240,20 @@ private Q_SLOTS:
             suite.writeScript(u"slow"_s, "sleep 1000 & echo $! > \"$0.pid\"; echo half > \"$1\"; wait").toUtf8() +
             "</exe><exeargs>%PF</exeargs></projectCreator>");
         QProcess program;
-        Demonstration::prepare(program);
         program.start(suite.path(u"create-project"_s),
                       {u"-batch"_s, u"-prj"_s, u"s.prj"_s, u"-type"_s, u"Slow"_s, u"-c"_s});
         QTRY_COMPARE(suite.read(u"work/s.prj"_s), QByteArray("half\n"));
         ::kill(pid_t(program.processId()), SIGTERM);
-        QVERIFY(program.waitForFinished());
-        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QVERIFY(program.waitForFinished() && program.exitStatus() == QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);
         QVERIFY(!QFile::exists(suite.path(u"work/s.prj"_s)));
         const QByteArray child = suite.read(u"slow.pid"_s);
         QVERIFY(!child.isEmpty());
         QTRY_VERIFY(!Installation::isAlive(child));
     }
+
+private:
+    bool hasAnalyser = false;
 };
 
 KOVRA_TEST(DemonstrationTest)

@@ -7,20 +7,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSettings>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr auto analyserVariables = {"ORVCPATH",         "ORVCBIN",           "ORVCHELP",          "ORVCHELPFILES",
-                                    "ORVCTEMPFILES",    "ORVCTEMP",          "ORVCPERSONALITIES", "ORVCDORVFILES",
-                                    "ORVCRESOURCESDIR", "ORVCPPPATH",        "ORVCPPBIN",         "ORVCPPHELP",
-                                    "ORVCPPHELPFILES",  "ORVCPPTEMPFILES",   "ORVCPPTEMP",        "ORVCPPPERSONALITIES",
-                                    "ORVCPPDORVFILES",  "ORVCPPRESOURCESDIR"};
-
-} // namespace
 
 Installation::Installation()
     : searchPath(qgetenv("PATH"))
@@ -39,8 +30,12 @@ Installation::~Installation()
     // What a wizard remembered must not reach the next test.
     QSettings(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s).clear();
     qputenv("PATH", searchPath);
-    for (const char* name : analyserVariables) {
-        qunsetenv(name);
+    // The registry derives further variables from the analysers' folders.
+    const QStringList variables = QProcessEnvironment::systemEnvironment().keys();
+    for (const QString& name : variables) {
+        if (name.startsWith("ORVC"_L1)) {
+            qunsetenv(name.toLocal8Bit());
+        }
     }
 }
 
@@ -114,4 +109,23 @@ void BoxAnswers::answer()
     } else {
         box->reject();
     }
+}
+
+ProgramResult runProgram(const QString& name, const QStringList& arguments, const Variables& variables)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto& variable :
+         {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"HOME"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s, u"LANGUAGE"_s}) {
+        environment.remove(variable);
+    }
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    for (const auto& [variable, value] : variables) {
+        environment.insert(variable, value);
+    }
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(name, arguments);
+    const bool ended = program.waitForFinished() && program.exitStatus() == QProcess::NormalExit;
+    return {ended ? program.exitCode() : -1, QString::fromUtf8(program.readAllStandardOutput()),
+            QString::fromUtf8(program.readAllStandardError())};
 }

@@ -54,3 +54,17 @@ private:
     QList<QMessageBox::StandardButton> answers;
     std::unique_ptr<QTimer> timer;
 };
+
+using Variables = QList<std::pair<QString, QString>>;
+
+struct ProgramResult
+{
+    /// -1 when the program did not end by itself.
+    int status;
+    QString output;
+    QString errors;
+};
+
+/// Runs a program to its end, without a display, a home and a locale but with these variables.
+ProgramResult runProgram(const QString& name, const QStringList& arguments,
+                         const Variables& variables = {{QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8")}});

@@ -20,13 +20,12 @@ int main(int argc, char** argv)
         qCritical("cannot create a folder for the test run");
         return 1;
     }
-    for (const char* folder : {"home", "config", "system-config", "tmp"}) {
-        QDir(home.path()).mkpath(QLatin1String(folder));
+    for (const auto& [variable, name] : {std::pair{"HOME", "home"}, std::pair{"XDG_CONFIG_HOME", "config"},
+                                         std::pair{"XDG_CONFIG_DIRS", "system-config"}, std::pair{"TMPDIR", "tmp"}}) {
+        const QString folder = home.filePath(QLatin1String(name));
+        QDir().mkpath(folder);
+        qputenv(variable, folder.toLocal8Bit());
     }
-    qputenv("HOME", home.filePath(QStringLiteral("home")).toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toLocal8Bit());
-    qputenv("XDG_CONFIG_DIRS", home.filePath(QStringLiteral("system-config")).toLocal8Bit());
-    qputenv("TMPDIR", home.filePath(QStringLiteral("tmp")).toLocal8Bit());
     for (const char* name : {"ORVCPATH", "ORVCPPPATH", "ORVCPERSONALITIES", "ORVCPPPERSONALITIES"}) {
         qunsetenv(name);
     }
