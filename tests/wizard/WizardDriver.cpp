@@ -2,7 +2,6 @@
 #include "WizardDriver.h"
 
 #include <QLabel>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -13,19 +12,6 @@ WizardDriver::WizardDriver(const QStringList& arguments)
     if (!QTest::qWaitForWindowExposed(&window)) {
         qFatal("the wizard does not appear");
     }
-}
-
-bool WizardDriver::isCalled(const QWidget& control, const QString& name)
-{
-    const auto* abstractButton = qobject_cast<const QAbstractButton*>(&control);
-    return control.accessibleName() == name || (abstractButton && abstractButton->text() == name);
-}
-
-bool WizardDriver::has(const QString& name) const
-{
-    const auto controls = window.currentPage()->findChildren<QWidget*>();
-    return std::ranges::any_of(
-        controls, [&](const QWidget* control) { return control->isVisible() && isCalled(*control, name); });
 }
 
 QStringList WizardDriver::labels() const

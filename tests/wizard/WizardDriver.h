@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/AppRegistry.h"
+#include "Controls.h"
+#include "Installation.h"
 #include "wizard/ApplicationWindow.h"
+#include "wizard/PageSequence.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTest>
 #include <QTextBrowser>
 
 /// The real wizard, driven as a user would: by what its controls are called.
@@ -17,29 +22,18 @@ public:
     ApplicationWindow window;
 
     /// The visible control of the current page with this accessible name or text; fails the test's process when absent.
-    QLineEdit& edit(const QString& name) const { return find<QLineEdit>(name); }
-    QComboBox& combo(const QString& name) const { return find<QComboBox>(name); }
-    QAbstractButton& button(const QString& name) const { return find<QAbstractButton>(name); }
-    bool has(const QString& name) const;
+    QLineEdit& edit(const QString& name) const { return controlCalled<QLineEdit>(page(), name); }
+    QComboBox& combo(const QString& name) const { return controlCalled<QComboBox>(page(), name); }
+    QAbstractButton& button(const QString& name) const { return controlCalled<QAbstractButton>(page(), name); }
+    bool has(const QString& name) const { return findControl(page(), name); }
     /// The texts of the page's visible labels.
     QStringList labels() const;
-    QString output() const { return window.currentPage()->findChild<QTextBrowser*>()->toPlainText(); }
+    QString output() const { return page().findChild<QTextBrowser*>()->toPlainText(); }
     bool canGoOn() const { return window.button(QWizard::NextButton)->isEnabled(); }
     void press(QWizard::WizardButton which) const;
     /// Fills the start page and presses Next.
     void passStartPage(const QString& name, const QString& folder, const QString& type) const;
 
 private:
-    template <typename Control>
-    Control& find(const QString& name) const
-    {
-        const auto controls = window.currentPage()->findChildren<Control*>();
-        for (Control* control : controls) {
-            if (control->isVisible() && isCalled(*control, name)) {
-                return *control;
-            }
-        }
-        qFatal("no visible control is called %s", qPrintable(name));
-    }
-    static bool isCalled(const QWidget& control, const QString& name);
+    const QWidget& page() const { return *window.currentPage(); }
 };

@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "TestMain.h"
+#include "WizardDriver.h"
+
+#include <QClipboard>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString compiler = u"Compiler Configuration File:"_s;
+const QString message = u"Message Configuration File:"_s;
+
+/// Has a type with every kind of input and with configuration files.
+class Suite : public Installation
+{
+public:
+    Suite()
+    {
+        define(R"(<projectCreator><name>T</name><exe>echo</exe><exeargs>%F %D %G %R %CC %E</exeargs>
+        <orvcProject>1</orvcProject><orvcppProject>1</orvcppProject>
+        <compilerPersonality TYPE="C">%ORVC%/personalities/c.p_c</compilerPersonality>
+        <compilerPersonality TYPE="CPP">%ORVCPP%/personalities/cpp.p_c</compilerPersonality>
+        <messagePersonality TYPE="C">%ORVC%/personalities/c.p_s</messagePersonality>
+        <inputData><displayName>Source</displayName><inputType>FILE</inputType><argDef>%F</argDef>
+          <mustBeSet>FILE_MUST_EXIST</mustBeSet></inputData>
+        <inputData><displayName>Folder</displayName><inputType>DIR</inputType><argDef>%D</argDef></inputData>
+        <inputData><displayName>Extras</displayName><inputType SEP=",">GROUP</inputType><argDef>%G</argDef>
+          <inputData><displayName>A</displayName><inputType OUT_STR="-a">CHECK</inputType></inputData>
+          <inputData><displayName>B</displayName><inputType OUT_STR="-b">CHECK</inputType>
+            <defaultValue>1</defaultValue></inputData>
+          <inputData><displayName>Word</displayName><inputType>EDIT</inputType></inputData></inputData>
+        <inputData><displayName>This</displayName><inputType>RADIO</inputType><defaultValue>1</defaultValue></inputData>
+        <inputData><displayName>That</displayName><inputType>RADIO</inputType><argDef>%R</argDef></inputData>
+        <inputData><displayName>C only</displayName><inputType TYPE="C_ONLY">CHECK</inputType>
+          <argDef>%CC</argDef></inputData>
+        <inputData><displayName>Standard</displayName><inputType>EDIT</inputType><mustBeSet>1</mustBeSet>
+          <argDef>%E</argDef><hoverHelp>x &lt;b&gt;y&lt;/b&gt;</hoverHelp>
+          <defaultValue TYPE="C">c99</defaultValue><defaultValue TYPE="CPP">c++17</defaultValue></inputData>
+      </projectCreator>
+      <compliance_module><name>Module</name><location>%ORVC%</location>
+        <compilerpersonality>%ORVC%/personalities/module.p_c</compilerpersonality>
+        <messagepersonality>%ORVC%/personalities/gone.p_s</messagepersonality></compliance_module>
+      <compliance_module><name>Not installed</name><location>/nowhere</location></compliance_module>
+      <compliance_module><product>ORVCPP</product><name>Other</name><location>/</location></compliance_module>)");
+        start();
+    }
+
+    void passToInputs(const WizardDriver& wizard, bool isC) const
+    {
+        wizard.passStartPage(u"p"_s, path(u"work"_s), u"T"_s);
+        wizard.button(isC ? u"Orv C [Project is 'C' Code Only]"_s : u"Orv C++ [Project contains 'C++' Code]"_s).click();
+        wizard.press(QWizard::NextButton);
+    }
+
+    void passInputs(const WizardDriver& wizard, bool isC, int next = ConfPageId) const
+    {
+        passToInputs(wizard, isC);
+        wizard.edit(u"Source"_s).setText(source);
+        wizard.press(QWizard::NextButton);
+        QCOMPARE(wizard.window.currentId(), next);
+    }
+
+    const QString source = write(u"work/make file"_s, "");
+    const QString own = write(u"orvc/personalities/c.p_c"_s, "-xcase+\n* <i>größe</i>\n");
+    const QString ofModule = write(u"orvc/personalities/module.p_c"_s, "-ss+\n");
+    const QString ofMessages = write(u"orvc/personalities/c.p_s"_s, "-threshold 1\n");
+    const QString foreign = write(u"orvcpp/personalities/cpp.p_c"_s, "-rvaluerefbind+\n");
+};
+
+} // namespace
+
+class FieldPagesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void collectsEveryKind()
+    {
+        Suite suite;
+        {
+            const WizardDriver wizard;
+            suite.passToInputs(wizard, false);
+            QVERIFY(!wizard.has(u"C only"_s));
+            QCOMPARE(wizard.edit(u"Standard"_s).text(), u"c++17"_s);
+            QVERIFY(!wizard.edit(u"Standard"_s).toolTip().contains("<b>"_L1));
+            QVERIFY(wizard.button(u"B"_s).isChecked() && wizard.button(u"This"_s).isChecked());
+
+            QVERIFY(wizard.labels().contains(u"To continue, name an existing file or folder in \"Source\"."_s));
+            QLineEdit& source = wizard.edit(u"Source"_s);
+            const auto isRed = [&source] { return source.palette().color(source.foregroundRole()) == QColor(Qt::red); };
+            QTest::keyClicks(&source, suite.source + u'x');
+            QVERIFY(!wizard.canGoOn() && isRed());
+            QTest::keyClick(&source, Qt::Key_Backspace);
+            QVERIFY(wizard.canGoOn() && !isRed());
+            wizard.edit(u"Standard"_s).setText(u"  "_s);
+            QVERIFY(!wizard.canGoOn());
+
+            wizard.press(QWizard::BackButton);
+            wizard.press(QWizard::BackButton);
+            suite.passToInputs(wizard, true);
+            QCOMPARE(wizard.edit(u"Standard"_s).text(), u"c99"_s);
+            source.setText(suite.source);
+            wizard.edit(u"Folder"_s).setText(suite.path(u"work"_s));
+            wizard.button(u"A"_s).click();
+            wizard.edit(u"Word"_s).setText(u"w"_s);
+            wizard.button(u"That"_s).click();
+            QVERIFY(!wizard.button(u"This"_s).isChecked());
+            wizard.button(u"C only"_s).click();
+            wizard.press(QWizard::NextButton);
+            wizard.press(QWizard::NextButton);
+            QTRY_VERIFY(wizard.window.button(QWizard::FinishButton)->isEnabled());
+            QCOMPARE(wizard.output().section(u'\n', 2, 2),
+                     u"%1 %2 -a,-b,w 1 1 c99"_s.arg(suite.source, suite.path(u"work"_s)));
+            wizard.press(QWizard::FinishButton);
+        }
+        // The next start brings everything back.
+        suite.start();
+        {
+            WizardDriver wizard;
+            QCOMPARE(wizard.combo(u"Original project type:"_s).currentText(), u"T"_s);
+            QCOMPARE(wizard.edit(u"Location for new project file:"_s).text(), suite.path(u"work"_s));
+            wizard.press(QWizard::NextButton);
+            wizard.press(QWizard::NextButton);
+            QCOMPARE(wizard.edit(u"Source"_s).text(), suite.source);
+            QVERIFY(wizard.button(u"A"_s).isChecked() && wizard.button(u"That"_s).isChecked() &&
+                    wizard.button(u"C only"_s).isChecked());
+            // Cancel keeps what was kept before.
+            wizard.edit(u"Word"_s).setText(u"other"_s);
+            wizard.press(QWizard::NextButton);
+            wizard.window.reject();
+        }
+        const auto& creators = suite.start().definitions.projectCreators;
+        const WizardDriver wizard;
+        QCOMPARE(creators.at(0)->inputData.at(2)->children.at(2)->value, u"w"_s);
+    }
+
+    void refusesTheOtherAnalysersFile()
+    {
+        const Suite suite;
+        const WizardDriver wizard;
+        suite.passInputs(wizard, true);
+        QVERIFY(!wizard.has(u"Project Configuration Template File:"_s));
+        QLineEdit& field = wizard.edit(compiler);
+        QCOMPARE(field.text(), suite.own);
+
+        BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok});
+        field.selectAll();
+        QApplication::clipboard()->setText(suite.foreign);
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(boxes.texts,
+                 QStringList{u"Incorrect Configuration File Selected|A Orv C++ configuration file can not be "
+                             "selected when using the Orv C analyser"_s});
+        QCOMPARE(field.text(), suite.own);
+        // Letter by letter: what is typed on the way is kept, the whole path is not.
+        field.selectAll();
+        QTest::keyClicks(&field, suite.foreign);
+        QCOMPARE(boxes.texts.size(), 2);
+        QCOMPARE(field.text(), suite.foreign.chopped(1));
+        QVERIFY(!wizard.canGoOn());
+        QVERIFY(wizard.labels().contains(u"To continue, name an existing file as \"Compiler Configuration File\"."_s));
+        // The previous value may have become wrong on disk: still one box.
+        field.setText(suite.own);
+        suite.write(u"orvc/personalities/c.p_c"_s, "-rvaluerefbind+\n");
+        field.setText(suite.foreign);
+        QCOMPARE(boxes.texts.size(), 3);
+        QCOMPARE(field.text(), suite.own);
+        suite.write(u"orvc/personalities/c.p_c"_s, "-xcase+\n");
+        QVERIFY(wizard.canGoOn());
+
+        // The other analyser gets its own default instead of what was chosen for this one.
+        wizard.press(QWizard::BackButton);
+        wizard.press(QWizard::BackButton);
+        wizard.press(QWizard::BackButton);
+        suite.passInputs(wizard, false);
+        QCOMPARE(wizard.edit(compiler).text(), suite.foreign);
+        QCOMPARE(boxes.texts.size(), 3);
+    }
+
+    void fieldsOpenDialogsAndModulesLockThem()
+    {
+        const Suite suite;
+        WizardDriver wizard;
+        suite.passInputs(wizard, true);
+        // Alt+B is the wizard's Back, but in a field it is the field's Browse.
+        QVERIFY(QTest::qWaitForWindowActive(&wizard.window));
+        QComboBox& modules = wizard.combo(u"Compliance Modules:"_s);
+        QTest::keyClick(&modules, Qt::Key_B, Qt::AltModifier);
+        QTRY_COMPARE(wizard.window.currentId(), int(XmlPageId));
+        wizard.press(QWizard::NextButton);
+        QStringList shown;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, this, [&shown] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                const auto* text = dialog->findChild<QPlainTextEdit*>();
+                shown += dialog->windowTitle() + (text ? u'|' + text->toPlainText() : QString());
+                dialog->reject();
+            }
+        });
+        watch.start(5);
+        QLineEdit& field = wizard.edit(compiler);
+        QTest::keyClick(&field, Qt::Key_B, Qt::AltModifier);
+        QTRY_COMPARE(shown, QStringList{u"Select Compiler Configuration Options"_s});
+        QAbstractButton& edit = wizard.button(u"Edit: Select Compiler Configuration Options"_s);
+        edit.click();
+        QCOMPARE(shown.last(), suite.own + u"|-xcase+\n* <i>größe</i>\n"_s);
+        watch.stop();
+
+        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok});
+        const QString pipe = suite.path(u"work/pipe"_s);
+        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+        for (const QString& name : {u"/nowhere"_s, suite.path(u"work"_s), pipe}) {
+            field.setText(name);
+            edit.click();
+        }
+        QCOMPARE(boxes.texts, (QStringList{u"Edit failed|Can not edit file, the file does not exist"_s,
+                                           u"Edit failed|Can not open file"_s, u"Edit failed|Can not open file"_s}));
+
+        QCOMPARE(modules.count(), 2);
+        modules.setCurrentText(u"Module"_s);
+        QCOMPARE(field.text(), suite.ofModule);
+        QVERIFY(field.isReadOnly() && !wizard.has(u"Browse: Select Compiler Configuration Options"_s));
+        // A file that is missing is named, but can be replaced.
+        QCOMPARE(wizard.edit(message).text(), suite.path(u"orvc/personalities/gone.p_s"_s));
+        QVERIFY(!wizard.edit(message).isReadOnly() && !wizard.canGoOn());
+        modules.setCurrentIndex(0);
+        QVERIFY(!field.isReadOnly() && field.text() == suite.ofModule);
+        // A blank around a path is no fault.
+        wizard.edit(message).setText(u' ' + suite.ofMessages + u' ');
+        QVERIFY(wizard.canGoOn());
+        wizard.edit(message).setText(suite.ofMessages);
+        wizard.press(QWizard::NextButton);
+        QCOMPARE(wizard.window.compilerPersonality, suite.ofModule);
+        QCOMPARE(wizard.window.messagePersonality, suite.ofMessages);
+        // With all files given there is nothing to ask for.
+        const WizardDriver given({u"-cp"_s, suite.own, u"-ap"_s, suite.own, u"-mp"_s, suite.ofMessages});
+        suite.passInputs(given, true, ActionPageId);
+    }
+};
+
+KOVRA_TEST(FieldPagesTest)
+#include "FieldPagesTest.moc"
