@@ -6,6 +6,7 @@
 #include "process/RunAppData.h"
 #include "process/StrayProcesses.h"
 #include "TestMain.h"
+#include "TestRows.h"
 #include "wizard/LauncherGrid.h"
 
 #include <QDialog>
@@ -14,11 +15,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 
-#include <algorithm>
 #include <csignal>
 #include <sys/resource.h>
 
@@ -27,9 +26,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A launcher page with buttons, on a project that does not exist.
-class Launchers : public Installation
+struct Launchers : Installation
 {
-public:
     PageData& define(const QByteArray& applications)
     {
         Installation::define("<applicationPage>" + applications + "</applicationPage>");
@@ -48,7 +46,6 @@ public:
                writeScript(name, script).toUtf8() + "</exe>" + more + "</application>";
     }
 
-private:
     std::unique_ptr<QWidget> holder;
 };
 
@@ -59,31 +56,19 @@ class LauncherTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void placesButtons_data()
-    {
-        QTest::addColumn<QList<int>>("spans");
-        QTest::addColumn<int>("columns");
-        QTest::addColumn<QString>("cells");
-        QTest::newRow("row by row") << QList<int>{1, 1, 1, 1} << 3 << u"1,1 1,3 1,5 3,1"_s;
-        QTest::newRow("back to the row's start") << QList<int>{2, 2, 1} << 3 << u"1,1 1,1 1,5"_s;
-        QTest::newRow("zero is one") << QList<int>{0, 3} << 3 << u"1,1 1,1"_s;
-        QTest::newRow("nonsense") << QList<int>{-1, 900000000, 1} << 100 << u"1,1 1,1 3,1"_s;
-    }
-
     void placesButtons()
     {
-        QFETCH(const QList<int>, spans);
-        QFETCH(const int, columns);
-        QFETCH(const QString, cells);
-        QList<LauncherSpan> launchers;
-        for (const int span : spans) {
-            launchers += {span, 1};
-        }
-        QStringList placed;
-        for (const LauncherCell& cell : placeLaunchers(launchers, columns)) {
-            placed += u"%1,%2"_s.arg(cell.row).arg(cell.column);
-        }
-        QCOMPARE(placed.join(u' '), cells);
+        const auto placed = [](const QList<LauncherSpan>& launchers, int columns) {
+            QString cells;
+            for (const LauncherCell& cell : placeLaunchers(launchers, columns)) {
+                cells += u" %1,%2+%3"_s.arg(cell.row).arg(cell.column).arg(cell.columnSpan);
+            }
+            return cells;
+        };
+        QCOMPARE(placed({{1, 1}, {1, 1}, {1, 1}, {1, 1}}, 3), u" 1,1+1 1,3+1 1,5+1 3,1+1"_s);
+        QCOMPARE(placed({{2, 1}, {2, 1}, {1, 1}}, 3), u" 1,1+3 1,1+3 1,5+1"_s);
+        QCOMPARE(placed({{0, 1}, {3, 1}}, 3), u" 1,1+1 1,1+5"_s);
+        QCOMPARE(placed({{-1, 1}, {900000000, 1}, {1, 1}}, 100), u" 1,1+1 1,1+199 3,1+1"_s);
     }
 
     void readsLaunchers()
@@ -97,24 +82,19 @@ private Q_SLOTS:
             <application name="R"><exe>sh</exe><description>&lt;b&gt;</description><colour>nonsense</colour>
               <condition name="G" action="disable"/><condition name="G" action="enable"/></application>
             <application><exe TYPE="ORVC">sh</exe></application>)");
-        QCOMPARE(page.applications.size(), size_t(3));
-        QCOMPARE(page.columns, 4);
-        const RunAppData& first = *page.applications[0];
-        QCOMPARE(first.name, u"A\nB"_s);
-        QVERIFY(first.cExe == "missing/c"_L1 && first.cppExe.isEmpty() && first.runFromExeDir);
+        RunAppData& first = *page.applications.at(0);
+        QVERIFY(page.applications.size() == 3 && page.columns == 4 && first.name == "A\nB"_L1);
         QCOMPARE(first.exeargs, (QStringList{QString(), u"%PF"_s}));
-        QVERIFY(first.displayMode == RunAppData::NoDisplay && first.busyCursor);
+        QVERIFY(first.displayMode == RunAppData::NoDisplay && first.busyCursor && first.runFromExeDir);
         // The bin folder answers the empty name of the other analyser's program, the dependency is missing.
         QCOMPARE(first.button->toolTip(), u"Disabled, could not locate required executables: no such program"_s);
-        QVERIFY(!first.button->isEnabled());
         const auto arrows = first.button->parentWidget()->findChildren<QLabel*>();
-        QVERIFY(arrows.size() == 1 && !arrows[0]->pixmap().isNull());
+        QVERIFY(!first.button->isEnabled() && arrows.size() == 1 && !arrows[0]->pixmap().isNull());
         QVERIFY(page.applications[1]->startsDisabled && page.applications[1]->button->toolTip().contains("&lt;b"_L1));
         QVERIFY(!page.applications[2]->button);
         page.SetIsORVC(true);
-        QVERIFY(!page.applications[0]->ExecutablesFound());
-        QCOMPARE(page.applications[0]->disabledReason,
-                 u"Disabled, could not locate required executables: missing/c,no such program"_s);
+        QVERIFY(!first.ExecutablesFound());
+        QCOMPARE(first.disabledReason, u"Disabled, could not locate required executables: missing/c,no such program"_s);
     }
 
     void looksProgramsUp()
@@ -123,153 +103,105 @@ private Q_SLOTS:
         suite.start();
         const QString tool = suite.writeScript(u"orvcpp/bin/onlyhere"_s, "");
         QCOMPARE(FindExecutable(u"onlyhere"_s), tool);
-        QCOMPARE(FindExecutable(tool), tool);
         QVERIFY(FindExecutable(u"sh"_s).endsWith("/sh"_L1));
-        QCOMPARE(FindExecutable(QString()), suite.path(u"bin"_s));
-        QVERIFY(FindExecutable(u"no such program"_s).isEmpty());
     }
 
     void reportsEachEnd_data()
     {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<QByteArray>("output");
-        QTest::addColumn<QString>("box");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<bool>("succeeds");
-        QTest::newRow("no output wanted")
-            << QByteArray("yes | head -c 3000000") << QByteArray("none") << QString() << QString() << true;
-        QTest::newRow("text") << QByteArray("printf 'a <b>\\377'; echo e >&2") << QByteArray("text") << QString()
-                              << u"a <b>\uFFFD"_s << true;
-        QTest::newRow("empty") << QByteArray("exit 0") << QByteArray("text") << u"No data returned from process"_s
-                               << QString() << false;
-        QTest::newRow("failed") << QByteArray("echo reason >&2; exit 3") << QByteArray("text")
-                                << u"Process Failed [3]"_s << QString() << false;
-        QTest::newRow("not executable") << QByteArray() << QByteArray("cursor") << u"Failed to Start"_s << QString()
-                                        << false;
-        QTest::newRow("crashed") << QByteArray("kill -SEGV $$") << QByteArray("none") << u"Process Crashed"_s
-                                 << QString() << false;
-        QTest::newRow("closes its output early")
-            << QByteArray("exec >&- 2>&-; sleep 0.1") << QByteArray("cursor") << QString() << QString() << true;
+        const TestRows<QByteArray, QByteArray, QString> row("script", "output", "says");
+        row("no output wanted", "yes | head -c 3000000", "none", {});
+        row("text", "printf 'a <b>\\377'; echo e >&2", "text", u"a <b>\uFFFD"_s);
+        row("empty", "exit 0", "text", u"Tool 1|No data returned from process"_s);
+        row("failed", "echo reason >&2; exit 3", "text", u"Tool 1|Process Failed [3]"_s);
+        row("not executable", "locked", "cursor", u"Tool 1|Failed to Start"_s);
+        row("gone", "gone", "cursor", u"Tool 1|Failed to Start"_s);
+        row("crashed", "kill -SEGV $$", "none", u"Tool 1|Process Crashed"_s);
+        row("closes its output early", "exec >&- 2>&-; sleep 0.1", "cursor", {});
     }
 
     void reportsEachEnd()
     {
         QFETCH(const QByteArray, script);
         QFETCH(const QByteArray, output);
-        QFETCH(const QString, box);
-        QFETCH(const QString, shown);
-        QFETCH(const bool, succeeds);
+        QFETCH(const QString, says);
+        const bool starts = !says.endsWith("Failed to Start"_L1);
+        const QStringList box = says.startsWith("Tool 1|"_L1) ? QStringList{says} : QStringList{};
         Launchers suite;
         const PageData& page = suite.define(
             suite.application(1, script,
                               "<displayoutput>" + output + "</displayoutput><condition name='G' action='start'/>") +
             suite.application(2, "", "<condition name='G' action='enable'/>"));
         RunAppData& tool = *page.applications[0];
-        const BoxAnswers boxes({QMessageBox::Ok});
         const QPushButton& next = *page.applications[1]->button;
+        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
         QVERIFY(!next.isEnabled());
         QCOMPARE(next.toolTip(), u"Available once this has succeeded: Tool 1"_s);
-        if (script.isEmpty()) {
-            QFile::setPermissions(tool.cppExe, QFile::ReadOwner);
-        }
+        // When its button was made, it could be run.
+        QVERIFY(starts ||
+                (script == "gone" ? QFile::remove(tool.cppExe) : QFile::setPermissions(tool.cppExe, QFile::ReadOwner)));
         tool.button->click();
-        QVERIFY(script.isEmpty() || tool.button->text() == "Tool 1\nrunning..."_L1);
+        QVERIFY(!starts || tool.button->text() == "Tool 1\nrunning..."_L1);
         QTRY_VERIFY(!tool.isRunning() && !tool.button->text().contains("running"_L1));
-        QTRY_COMPARE(boxes.texts, box.isEmpty() ? QStringList{} : QStringList{u"Tool 1|"_s + box});
-        QCOMPARE(page.applications[1]->button->isEnabled(), succeeds);
-        QCOMPARE(appRegistry->openDialogs.size(), shown.isEmpty() ? 0 : 1);
-        if (!shown.isEmpty()) {
-            QCOMPARE(appRegistry->openDialogs[0]->findChild<QPlainTextEdit*>()->toPlainText(), shown);
-        }
-        QVERIFY(!QApplication::overrideCursor());
-        QCOMPARE(next.toolTip().isEmpty(), succeeds);
-        if (!box.isEmpty()) {
-            // The end of the road shows the way: what ran, and what it said.
-            const QString& details = boxes.details[0];
-            QVERIFY2(box.startsWith("No data"_L1) || details.contains(tool.cppExe), qPrintable(details));
-            QCOMPARE(details.contains("reason"_L1), script.contains("reason"));
-        }
-    }
-
-    void startFailsOnce()
-    {
-        Launchers suite;
-        const PageData& page = suite.define(suite.application(1, "exit 0", "<displayoutput>cursor</displayoutput>"));
-        RunAppData& tool = *page.applications[0];
-        // It was there when the button was made.
-        QFile::remove(tool.cppExe);
-        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
-        tool.button->click();
+        QTRY_COMPARE(boxes.texts, box);
         QCoreApplication::processEvents();
-        QCOMPARE(boxes.texts, QStringList{u"Tool 1|Failed to Start"_s});
-        QVERIFY(!QApplication::overrideCursor());
-    }
-
-    void nothingStartsWithoutItsFiles_data()
-    {
-        QTest::addColumn<bool>("full");
-        QTest::newRow("no folder") << false;
-        QTest::newRow("full") << true;
+        QVERIFY(boxes.texts.size() == box.size() && !QApplication::overrideCursor());
+        QVERIFY(next.isEnabled() == box.isEmpty() && next.toolTip().isEmpty() == box.isEmpty());
+        const QDialog* window = appRegistry->openDialogs.value(0);
+        QCOMPARE(window ? window->findChild<QPlainTextEdit*>()->toPlainText() : QString(),
+                 box.isEmpty() ? says : QString());
+        // The end of the road shows the way: what ran, and what it said.
+        const QString details = boxes.details.value(0);
+        QVERIFY2(box.isEmpty() || says.contains("|No data"_L1) || details.contains(tool.cppExe), qPrintable(details));
+        QCOMPARE(details.contains("reason"_L1), script.contains("reason"));
     }
 
     void nothingStartsWithoutItsFiles()
     {
-        QFETCH(const bool, full);
         Launchers suite;
         const PageData& page = suite.define(suite.application(1, "touch \"$0.ran\""));
+        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
         const QByteArray folder = qgetenv("TMPDIR");
+        qputenv("TMPDIR", suite.write(u"work/file"_s, "").toLocal8Bit());
+        page.applications[0]->button->click();
+        qputenv("TMPDIR", folder);
+        // As on a full disk, files can be made but not written.
         rlimit old = {};
         ::getrlimit(RLIMIT_FSIZE, &old);
-        if (full) {
-            // As on a full disk, files can be made but not written.
-            std::signal(SIGXFSZ, SIG_IGN);
-            const rlimit none = {0, old.rlim_max};
-            ::setrlimit(RLIMIT_FSIZE, &none);
-        } else {
-            qputenv("TMPDIR", suite.write(u"work/file"_s, "").toLocal8Bit());
-        }
-        const BoxAnswers boxes({QMessageBox::Ok});
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit none = {0, old.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &none);
         page.applications[0]->button->click();
         ::setrlimit(RLIMIT_FSIZE, &old);
-        qputenv("TMPDIR", folder);
-        QCOMPARE(boxes.texts.size(), 1);
-        QVERIFY2(boxes.texts[0].contains(full ? " can not be written: "_L1 : "A temporary file can not be made in "_L1),
-                 qPrintable(boxes.texts[0]));
+        QCOMPARE(boxes.texts.size(), 2);
+        QVERIFY2(boxes.texts[0].contains("A temporary file can not be made in "_L1), qPrintable(boxes.texts[0]));
+        QVERIFY2(boxes.texts[1].contains(" can not be written: "_L1), qPrintable(boxes.texts[1]));
         QVERIFY(!page.applications[0]->isRunning() && !QFile::exists(suite.path(u"tool1.ran"_s)));
-    }
-
-    void showsTheBeginningOfAFlood_data()
-    {
-        QTest::addColumn<QByteArray>("mode");
-        QTest::newRow("text") << QByteArray("text");
-        QTest::newRow("html") << QByteArray("html");
-        QTest::newRow("message") << QByteArray("message");
     }
 
     void showsTheBeginningOfAFlood()
     {
-        QFETCH(const QByteArray, mode);
         Launchers suite;
-        const PageData& page = suite.define(suite.application(1, "yes '<p>word</p>' | head -c 100000000",
-                                                              "<displayoutput>" + mode + "</displayoutput>"));
-        page.applications[0]->button->click();
-        QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), 1, 60000);
-        const QStringList files = QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s});
-        const auto isWhole = [](const QString& name) {
-            return QFileInfo(QDir::tempPath() + u'/' + name).size() == 100000000;
-        };
-        const auto whole = std::ranges::find_if(files, isWhole);
-        QVERIFY(whole != files.end());
-        const QDialog& dialog = *appRegistry->openDialogs[0];
-        const auto shows = [&] {
-            const auto* text = dialog.findChild<QPlainTextEdit*>();
-            const auto* browser = dialog.findChild<QTextBrowser*>();
-            const QString shown = text      ? text->document()->lastBlock().text()
-                                  : browser ? browser->document()->lastBlock().text()
-                                            : dialog.findChild<QLabel*>()->text();
-            return shown.contains(*whole);
-        };
-        QTRY_VERIFY_WITH_TIMEOUT(shows(), 30000);
+        QByteArray applications;
+        for (const char* mode : {"text", "html", "message"}) {
+            applications += suite.application(1, "yes '<p>word</p>' | head -c 100000000",
+                                              QByteArray("<displayoutput>") + mode + "</displayoutput>");
+        }
+        for (const auto& tool : suite.define(applications).applications) {
+            const qsizetype windows = appRegistry->openDialogs.size();
+            tool->button->click();
+            QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), windows + 1, 60000);
+            const QDialog& dialog = *appRegistry->openDialogs.last();
+            // Its end names the file that holds everything.
+            const auto keptBytes = [&dialog] {
+                const auto* text = dialog.findChild<QPlainTextEdit*>();
+                const auto* browser = dialog.findChild<QTextBrowser*>();
+                const QString shown = text      ? text->document()->lastBlock().text()
+                                      : browser ? browser->document()->lastBlock().text()
+                                                : dialog.findChild<QLabel*>()->text();
+                return QFileInfo(shown.section(u' ', -1).remove(u']')).size();
+            };
+            QTRY_COMPARE_WITH_TIMEOUT(keptBytes(), 100000000, 30000);
+        }
         // Nothing stays behind, neither of this nor of the option and list files.
         appRegistry->ShutDown();
         QCOMPARE(QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}), QStringList());
@@ -279,7 +211,7 @@ private Q_SLOTS:
     {
         Launchers suite;
         PageData& page = suite.define(
-            suite.application(1, "pwd > \"$0.out\"; echo \"$ORVCPPPATH\" >> \"$0.out\"; cat \"$4\" >> \"$0.out\"",
+            suite.application(1, "pwd > \"$0.out\"; echo \"$ORVCPPPATH\" >> \"$0.out\"; tail -n 1 \"$4\" >> \"$0.out\"",
                               "<runFromExeDir>1</runFromExeDir><exeargs>%P+</exeargs>"));
         appRegistry->values.useMessageViewerMessages = true;
         appRegistry->values.cMessages = {u"7"_s};
@@ -289,68 +221,58 @@ private Q_SLOTS:
             appRegistry->values.project.projectType = isC ? ProjectType::C : ProjectType::Cpp;
             page.applications[0]->button->click();
             QTRY_VERIFY(!page.applications[0]->isRunning());
-            const QByteArray said = suite.read(u"tool1.out"_s);
-            QVERIFY2(said.startsWith(suite.path(u"."_s).chopped(2).toUtf8() + '\n' + suite.path(u"orvcpp"_s).toUtf8()),
-                     said.constData());
-            QVERIFY2(said.endsWith(isC ? "-only 7\n" : "-only 8\n"), said.constData());
+            QCOMPARE(suite.read(u"tool1.out"_s), suite.path(u"."_s).chopped(2).toUtf8() + '\n' +
+                                                     suite.path(u"orvcpp"_s).toUtf8() +
+                                                     (isC ? "\n-only 7\n" : "\n-only 8\n"));
         }
     }
 
     void stopsWhatItStarted()
     {
         Launchers suite;
+        // It says who it is and does not listen.
+        const QByteArray deaf = "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\n";
         PageData& page = suite.define(
-            suite.application(1,
-                              "trap '' TERM\nsh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' "
-                              "\"$0.pid\" &\nwait\n",
-                              "<condition name='G' action='finish'/>") +
+            suite.application(1, "trap '' TERM\n" + deaf + "wait\n", "<condition name='G' action='finish'/>") +
             suite.application(2, "echo hello",
                               "<displayoutput>message</displayoutput><condition name='G' action='disable'/>") +
-            suite.application(3, "sleep 1000 & echo $! > \"$0.pid\"") +
-            suite.application(
-                4, "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\nwait\n",
-                "<displayoutput>cursor</displayoutput>") +
-            suite.application(
-                5, "setsid sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &"));
+            suite.application(3, deaf + "wait\n", "<displayoutput>cursor</displayoutput>") +
+            suite.application(4, "setsid " + deaf) + suite.application(5, "sleep 1000 & echo $! > \"$0.pid\""));
         StrayProcesses::adopt();
-        RunAppData& tool = *page.applications[0];
-        tool.button->click();
-        QVERIFY(!page.applications[1]->button->isEnabled());
-        QByteArray child;
-        QTRY_VERIFY(!(child = suite.read(u"tool1.pid"_s)).isEmpty());
-        {
-            const BoxAnswers boxes({QMessageBox::Ok});
-            tool.button->click();
-            QCOMPARE(boxes.texts, QStringList{u"Tool 1|This application is already running"_s});
-        }
-        page.applications[1]->Activate();
+        const auto tool = [&page](int number) -> RunAppData& { return *page.applications[size_t(number - 1)]; };
+        const auto child = [&suite](int number) { return suite.read(u"tool%1.pid"_s.arg(number)); };
+        tool(1).button->click();
+        QVERIFY(!tool(2).button->isEnabled());
+        QTRY_VERIFY(!child(1).isEmpty());
+        const BoxAnswers boxes({QMessageBox::Ok});
+        tool(1).button->click();
+        QCOMPARE(boxes.texts, QStringList{u"Tool 1|This application is already running"_s});
+        tool(2).Activate();
         QTRY_COMPARE(appRegistry->openDialogs.size(), 1);
         QVERIFY(page.ApplicationsRunning() && appRegistry->openDialogs[0]->isVisible());
-        const BoxAnswers none({});
         page.ResetApplications();
-        QVERIFY(!appRegistry->openDialogs[0]->isVisible() && page.applications[1]->button->isEnabled());
-        QTRY_VERIFY_WITH_TIMEOUT(!tool.isRunning() && !Installation::isAlive(child), 8000);
-        QVERIFY(none.texts.isEmpty());
+        QVERIFY(!appRegistry->openDialogs[0]->isVisible() && tool(2).button->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(!tool(1).isRunning() && !Installation::isAlive(child(1)), 8000);
+        QCOMPARE(boxes.texts.size(), 1);
 
         // One that listens, with a child that does not, stopped by the window that locks the wizard.
-        page.applications[3]->button->click();
-        QTRY_VERIFY(!(child = suite.read(u"tool4.pid"_s)).isEmpty());
+        tool(3).button->click();
+        QTRY_VERIFY(!child(3).isEmpty());
         const auto busy = [] { return qobject_cast<BusyDialog*>(QApplication::activeWindow()); };
         QTRY_VERIFY(busy());
         QVERIFY(QApplication::overrideCursor());
         busy()->reject();
-        QTRY_VERIFY(!page.applications[3]->isRunning() && !Installation::isAlive(child));
-        QVERIFY(none.texts.isEmpty() && !QApplication::overrideCursor());
+        QTRY_VERIFY(!tool(3).isRunning() && !Installation::isAlive(child(3)));
+        QVERIFY(boxes.texts.size() == 1 && !QApplication::overrideCursor());
 
         // What a tool leaves behind stays for the user, but not longer than the program, wherever it went.
-        page.applications[4]->Activate();
-        QByteArray daemon;
-        QTRY_VERIFY(!page.applications[4]->isRunning() && !(daemon = suite.read(u"tool5.pid"_s)).isEmpty());
-        page.applications[2]->Activate();
-        QTRY_VERIFY(!page.applications[2]->isRunning() && !(child = suite.read(u"tool3.pid"_s)).isEmpty());
-        QVERIFY(Installation::isAlive(child) && Installation::isAlive(daemon) && page.ProgramsRunning());
+        for (const int number : {4, 5}) {
+            tool(number).Activate();
+            QTRY_VERIFY(!tool(number).isRunning() && !child(number).isEmpty());
+        }
+        QVERIFY(Installation::isAlive(child(4)) && Installation::isAlive(child(5)) && page.ProgramsRunning());
         appRegistry->ShutDown();
-        QVERIFY(!Installation::isAlive(child) && !Installation::isAlive(daemon) && !page.ProgramsRunning());
+        QVERIFY(!Installation::isAlive(child(4)) && !Installation::isAlive(child(5)) && !page.ProgramsRunning());
     }
 };
 

@@ -39,12 +39,13 @@ Installation::~Installation()
     }
 }
 
-QString Installation::write(const QString& name, const QByteArray& contents) const
+QString Installation::write(const QString& name, const QByteArray& contents, const QDateTime& time) const
 {
     const QString target = path(name);
     QDir().mkpath(QFileInfo(target).absolutePath());
     QFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() ||
+        (time.isValid() && !(file.flush() && file.setFileTime(time, QFile::FileModificationTime)))) {
         qFatal("cannot write %s", qPrintable(target));
     }
     return target;
@@ -59,7 +60,7 @@ QString Installation::writeScript(const QString& name, const QByteArray& body) c
 
 QByteArray Installation::read(const QString& name) const
 {
-    QFile file(path(name));
+    QFile file(QDir::isAbsolutePath(name) ? name : path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QMessageBox>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -19,10 +20,11 @@ public:
     ~Installation();
 
     QString path(const QString& name) const { return folder.filePath(name); }
-    /// Writes a file below the folder, making its folders; gives its path.
-    QString write(const QString& name, const QByteArray& contents) const;
+    /// Writes a file below the folder, making its folders and giving it that time, if any; gives its path.
+    QString write(const QString& name, const QByteArray& contents, const QDateTime& time = {}) const;
     /// The same for a shell script that can be run.
     QString writeScript(const QString& name, const QByteArray& body) const;
+    /// Reads a file below the folder, or anywhere by its absolute path; empty when it can not be read.
     QByteArray read(const QString& name) const;
     /// True while the process with this id, as a script wrote it, runs.
     static bool isAlive(const QByteArray& pid);

@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppRegistry.h"
+#include "definitions/DefinitionRecords.h"
+#include "Installation.h"
+#include "process/ArgumentSubstitution.h"
+#include "process/ConversionRun.h"
+#include "process/OutputBuffer.h"
+#include "process/ProcessEnvironment.h"
+#include "TestMain.h"
+#include "TestRows.h"
+#include "wizard/WizardState.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A conversion in a suite of its own; its script gets the project file as its argument.
+struct Conversion : Installation
+{
+    Conversion()
+    {
+        QObject::connect(&run, &ConversionRun::outputReady, &run, [this] { output += run.takeOutput(); });
+    }
+    bool start(const QByteArray& script)
+    {
+        output.clear();
+        return run.start(writeScript(u"convert"_s, script), {project}, project);
+    }
+    QByteArray child() const { return output.toLatin1(); }
+    bool isHalfWay() const { return !output.isEmpty() && QFile::exists(project); }
+
+    QString output;
+    const QString project = path(u"work/p.prj"_s);
+    ConversionRun run;
+    QSignalSpy ended{&run, &ConversionRun::ended};
+};
+
+} // namespace
+
+class ConversionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void substitutes()
+    {
+        const auto substituted = [](const QString& value, const QString& prefix, bool quote = false) {
+            QStringList arguments{u"a"_s, u"%V"_s, u"-x=%V%V"_s};
+            SubstituteArgument(arguments, u"%V"_s, value, prefix, quote);
+            return arguments.join(u'|');
+        };
+        QCOMPARE(substituted(u"v"_s, u"-p"_s), u"a|-p|v|-p|-x=vv"_s);
+        // Nothing needs no prefix.
+        QCOMPARE(substituted({}, u"-p"_s), u"a||-p|-x="_s);
+        QCOMPARE(substituted(u"v w"_s, {}, true), u"a|\"v w\"|\"-x=v wv w\""_s);
+        QCOMPARE(substituted(u"%V"_s, u"%V"_s), u"a|%V|%V|%V|-x=%V%V"_s);
+    }
+
+    void buildsTheConversionCommand()
+    {
+        ProjectCreatorData creator;
+        creator.exeArgs = u"%Q %D %J %PF %CP+ %CP %AP+ %MP+ %IN %LIST"_s.split(u' ');
+        ArgumentDefinition& input = *creator.inputData.emplace_back(std::make_unique<ArgumentDefinition>());
+        input.argument = u"%IN"_s;
+        input.prefix = u"--in"_s;
+        input.value = u"a b.json"_s;
+        creator.inputData.emplace_back(std::make_unique<ArgumentDefinition>())->argument = u"%LIST"_s;
+        WizardState state;
+        state.projectCreator = &creator;
+        state.fileName = u"new"_s;
+        state.fileDir = u"/w"_s;
+        state.isORVC = false;
+        state.compilerPersonality = u"/c.p_c"_s;
+        state.messagePersonality = u"/m.p_s"_s;
+        QCOMPARE(conversionArguments(state).join(u'|'),
+                 u"ORVCPP|/w|new|/w/new.prj|-via|/c.p_c|/c.p_c||-via|/m.p_s|--in|a b.json|"_s);
+    }
+
+    void judgesTheEnd_data()
+    {
+        using enum ConversionRun::Outcome;
+        const TestRows<QByteArray, ConversionRun::Outcome, QString, QByteArray, QString> row(
+            "script", "outcome", "detail", "leaves", "output");
+        row("created, and nobody answers", "cat; echo new > \"$1\"", Created, {}, "new\n", {});
+        row("created, exit code 1", "echo new > \"$1\"; exit 1", Created, u"1"_s, "new\n", {});
+        row("failed", "echo reason >&2; exit 3", NotCreated, u"3"_s, {}, u"reason\n"_s);
+        row("crashed half-way", "echo half > \"$1\"; kill -SEGV $$", Failed, u"crash"_s, {}, {});
+        row("writes nothing, and says it in pieces",
+            "printf 'caf\\303'; sleep 0.1; printf '\\251 <b>'; echo problem >&2; printf '\\377\\n'", NotCreated, {}, {},
+            u"café <b>problem\n\uFFFD\n"_s);
+    }
+
+    void judgesTheEnd()
+    {
+        QFETCH(const QByteArray, script);
+        QFETCH(const ConversionRun::Outcome, outcome);
+        QFETCH(const QString, detail);
+        QFETCH(const QByteArray, leaves);
+        QFETCH(const QString, output);
+        Conversion conversion;
+        conversion.write(u"work/p.prj"_s, "old");
+        QVERIFY(conversion.start(script));
+        QTRY_COMPARE(conversion.ended.size(), 1);
+        QCOMPARE(conversion.run.outcome(), outcome);
+        QCOMPARE(conversion.output, output);
+        QVERIFY2(conversion.run.detail().contains(detail), qPrintable(conversion.run.detail()));
+        QCOMPARE(conversion.run.detail().isEmpty(), detail.isEmpty());
+        QCOMPARE(QFile::exists(conversion.project), !leaves.isEmpty());
+        QCOMPARE(conversion.read(u"work/p.prj"_s), leaves);
+    }
+
+    void saysWhyItCouldNotStart()
+    {
+        Conversion conversion;
+        const QString missing = conversion.path(u"missing"_s);
+        QVERIFY(!conversion.run.start(missing, {}, conversion.project));
+        QVERIFY2(conversion.run.detail().contains(missing), qPrintable(conversion.run.detail()));
+        // A folder in the project file's place can not be removed, nor taken for a result.
+        conversion.write(u"work/p.prj/x"_s, "");
+        QVERIFY(!conversion.start("exit 0"));
+        QCOMPARE(conversion.ended.size(), 2);
+        QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::NotStarted);
+    }
+
+    void stopsEverythingItStarted()
+    {
+        const QByteArray deaf = "trap '' TERM\nsh -c 'trap \"\" TERM; echo $$; while :; do sleep 1; done' &\n"
+                                "echo half > \"$1\"\nwait\n";
+        Conversion conversion;
+        QVERIFY(conversion.start(deaf));
+        QTRY_VERIFY(conversion.isHalfWay());
+        QVERIFY(Installation::isAlive(conversion.child()));
+        conversion.run.stop();
+        QCOMPARE(conversion.ended.size(), 1);
+        QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::Stopped);
+        QVERIFY(!QFile::exists(conversion.project));
+        QTRY_VERIFY(!Installation::isAlive(conversion.child()));
+
+        // What a converter leaves behind at its end goes too, and so does one that runs when we are gone.
+        QVERIFY(conversion.start("sleep 1000 >/dev/null 2>&1 &\necho $!\n"));
+        QTRY_COMPARE(conversion.ended.size(), 2);
+        QVERIFY(!conversion.child().isEmpty());
+        QTRY_VERIFY(!Installation::isAlive(conversion.child()));
+        QByteArray orphan;
+        {
+            Conversion abandoned;
+            QVERIFY(abandoned.start(deaf));
+            QTRY_VERIFY(abandoned.isHalfWay());
+            orphan = abandoned.child();
+        }
+        QVERIFY(!orphan.isEmpty());
+        QTRY_VERIFY(!Installation::isAlive(orphan));
+    }
+
+    void joinsWhatReadsCut()
+    {
+        OutputBuffer buffer(100);
+        buffer.append(u"one\r\ntw");
+        QCOMPARE(buffer.take(10), QStringList{u"one"_s});
+        buffer.append(u"o\n\npro");
+        QCOMPARE(buffer.take(1), QStringList{u"two"_s});
+        QCOMPARE(buffer.take(10), QStringList{QString()});
+        // A prompt that never ends its line appears one call later, what follows it is a paragraph of its own.
+        QCOMPARE(buffer.take(10), QStringList{u"pro"_s});
+        buffer.append(u"mpt");
+        buffer.endLine();
+        QCOMPARE(buffer.take(100), QStringList{u"mpt"_s});
+        QVERIFY(buffer.isEmpty());
+    }
+
+    void staysBounded()
+    {
+        OutputBuffer buffer(10);
+        for (int i = 0; i < 1000; ++i) {
+            buffer.append(QString(QString::number(i) + u'\n'));
+        }
+        QStringList last = buffer.take(100);
+        QVERIFY(last.size() == 10 && last.first() == "990"_L1);
+        QCOMPARE(buffer.takeDropped(), qint64(990));
+        QCOMPARE(buffer.takeDropped(), qint64(0));
+        buffer.append(QString(QString(1 << 20, u'x') + u"\nend\n"_s));
+        last = buffer.take(100);
+        QVERIFY(last.last() == "end"_L1 && last.first().size() <= 16 * 1024);
+        buffer.append(QString(10, u'x') + u"\n1\n2\n"_s);
+        QCOMPARE(buffer.take(100, 5).size(), 1);
+        QCOMPARE(buffer.take(100, 5).size(), 2);
+    }
+
+    void extendsThePath()
+    {
+        const Installation suite;
+        const QString c = suite.path(u"orvc"_s);
+        const QString cpp = suite.path(u"orvcpp"_s);
+        EnvironmentFolders folders{{}, u"/tools"_s, {u"lib"_s, u"/ext/bin"_s}, u"/here"_s, c, cpp};
+        QString traced;
+        // What is set is replaced in place, in any letter case, and folders that do not exist get no variable.
+        QCOMPARE(analyserEnvironment({u"A=1"_s, u"orvcbin=old"_s, u"Path=/x"_s, u"ORVCPATH="_s + c}, folders, true,
+                                     [&](const QString& name, const QString&) { traced += name + u' '; })
+                     .join(u'\n'),
+                 u"A=1\nORVCBIN=%1/bin\nPATH=/x::/tools/lib:/tools//ext/bin:/here:%1/bin:%2/bin\nORVCPATH=%1\n"
+                 "ORVCPERSONALITIES=%1/personalities\nORVCPPPATH=%2\nORVCPPBIN=%2/bin\n"
+                 "ORVCPPPERSONALITIES=%2/personalities"_s.arg(c, cpp));
+        QCOMPARE(traced, u"ORVCBIN ORVCPERSONALITIES ORVCPPPATH ORVCPPBIN ORVCPPPERSONALITIES "_s);
+        QCOMPARE(analyserEnvironment({u"A=1"_s}, folders, false), QStringList{u"A=1"_s});
+        folders.cInstallDir = u"/nowhere"_s;
+        QVERIFY(analyserEnvironment({}, folders, true).filter(u"ORVCPATH"_s).isEmpty());
+    }
+
+    void childrenInheritIt()
+    {
+        Installation suite;
+        qputenv("LATIN", "caf\xe9");
+        suite.start();
+        QProcess child;
+        // The user's own variables keep their bytes.
+        child.start(u"sh"_s, {u"-c"_s, u"printf '%s|%s|%s' \"$ORVCBIN\" \"$LATIN\" \"$PATH\""_s});
+        QVERIFY(child.waitForFinished());
+        const QByteArray said = child.readAll();
+        QVERIFY2(said.startsWith(suite.path(u"orvc/bin"_s).toLocal8Bit() + "|caf\xe9|"), said.constData());
+        QVERIFY2(said.contains(':' + suite.path(u"bin"_s).toLocal8Bit()), said.constData());
+        qunsetenv("LATIN");
+    }
+};
+
+KOVRA_TEST(ConversionTest)
+#include "ConversionTest.moc"
