@@ -2,11 +2,11 @@
 // The longest time the window does not answer while a text of 50 MB is shown.
 #include "app/AppRegistry.h"
 #include "dialogs/DisplayDialog.h"
+#include "Sandbox.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -16,10 +16,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv)
 {
-    QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
-        qputenv(name, home.path().toLocal8Bit());
-    }
+    const Sandbox sandbox;
     QApplication application(argc, argv);
     AppRegistry registry;
     appRegistry = &registry;

@@ -3,6 +3,7 @@
 #include "app/AppRegistry.h"
 #include "dialogs/FindDialog.h"
 #include "Ratio.h"
+#include "Sandbox.h"
 
 #include <QApplication>
 #include <QDir>
@@ -10,20 +11,16 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProcess>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv)
 {
-    QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
-        qputenv(name, home.path().toLocal8Bit());
-    }
+    const Sandbox sandbox;
     const QApplication application(argc, argv);
     AppRegistry registry;
     appRegistry = &registry;
-    const QString tree = home.filePath(u"tree"_s);
+    const QString tree = sandbox.path(u"tree"_s);
     for (int i = 0; i < 200'000; ++i) {
         const QString folder = tree + u"/part%1/module%2"_s.arg(i % 20).arg(i % 1000);
         if (i < 1000) {

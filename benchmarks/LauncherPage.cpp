@@ -4,10 +4,10 @@
 #include "process/ExecutableLookup.h"
 #include "process/RunAppData.h"
 #include "Ratio.h"
+#include "Sandbox.h"
 
 #include <QApplication>
 #include <QGridLayout>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -31,10 +31,7 @@ void open(const QByteArray& program)
 
 int main(int argc, char** argv)
 {
-    QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
-        qputenv(name, home.path().toLocal8Bit());
-    }
+    const Sandbox sandbox;
     const QApplication application(argc, argv);
     AppRegistry registry;
     appRegistry = &registry;

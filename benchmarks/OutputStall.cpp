@@ -2,6 +2,7 @@
 // The longest time the window does not answer while a conversion program prints 1,000,000 lines.
 #include "app/AppRegistry.h"
 #include "Ratio.h"
+#include "Sandbox.h"
 #include "wizard/ActionPage.h"
 #include "wizard/ApplicationWindow.h"
 #include "wizard/PageSequence.h"
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -32,10 +32,7 @@ long residentKilobytes()
 
 int main(int argc, char** argv)
 {
-    QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
-        qputenv(name, home.path().toLocal8Bit());
-    }
+    const Sandbox sandbox;
     QApplication application(argc, argv);
     application.setQuitOnLastWindowClosed(false);
     AppRegistry registry;
@@ -51,7 +48,7 @@ int main(int argc, char** argv)
     registry.windowSize = QSize(650, 430);
     ApplicationWindow window(u"Flood"_s, {}, {u"flood"_s});
     window.projectCreator = &creator;
-    window.fileDir = home.path();
+    window.fileDir = sandbox.folder.path();
     window.fileName = u"p"_s;
     window.setStartId(ActionPageId);
 

@@ -4,9 +4,9 @@
 #include "LargeProject.h"
 #include "project/Project.h"
 #include "Ratio.h"
+#include "Sandbox.h"
 
 #include <QCoreApplication>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -14,15 +14,12 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv)
 {
-    QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
-        qputenv(name, home.path().toLocal8Bit());
-    }
+    const Sandbox sandbox;
     const QCoreApplication application(argc, argv);
     AppRegistry registry;
     appRegistry = &registry;
     LargeProject large;
-    if (!large.create(home.filePath(u"project"_s))) {
+    if (!large.create(sandbox.path(u"project"_s))) {
         return 1;
     }
     int loaded = 0;

@@ -2,11 +2,11 @@
 // From nothing to the first painted page, against a bare QWizard with six empty pages.
 #include "app/AppRegistry.h"
 #include "Ratio.h"
+#include "Sandbox.h"
 #include "wizard/ApplicationWindow.h"
 
 #include <QApplication>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -73,10 +73,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: bench_start_up settings.xml\n");
         return 2;
     }
-    const QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "TMPDIR"}) {
-        qputenv(name, home.path().toLocal8Bit());
-    }
+    const Sandbox sandbox;
     const QString self = QString::fromLocal8Bit(argv[0]);
     const QString definitions = QString::fromLocal8Bit(argv[1]);
     bool started = true;
