@@ -4,6 +4,7 @@
 #include "dialogs/FileSearch.h"
 #include "dialogs/MessageBox.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -68,7 +69,10 @@ private:
         label.setText(FindDialog::tr("searching:") + folder);
         list.addItems(found);
         found.clear();
-        // Lets the window paint and the user press Stop.
+        // Lets the window paint and the user press Stop; a value that stays the same does not.
+        if (dialog.value() == count) {
+            QCoreApplication::processEvents();
+        }
         dialog.setValue(count);
         sinceUpdate.restart();
     }

@@ -36,19 +36,27 @@ HelpCollection::~HelpCollection() = default;
 QUrl HelpCollection::find(const QString& pagePath) const
 {
     const QString name = folder.relativeFilePath(pagePath);
-    if (engine) {
-        const QStringList documents = engine->registeredDocumentations();
-        for (const QString& document : documents) {
-            const QList<QUrl> pages = engine->files(document, QString());
-            for (const QUrl& page : pages) {
-                // An address is made of the collection's virtual folder and the page's path.
-                if (page.path().section(u'/', 2) == name) {
-                    return page;
-                }
+    const bool isFile = QFileInfo(pagePath).isFile();
+    QUrl namesake;
+    const QStringList documents = engine ? engine->registeredDocumentations() : QStringList();
+    for (const QString& document : documents) {
+        const QList<QUrl> pages = engine->files(document, QString());
+        for (const QUrl& page : pages) {
+            // An address is made of the collection's virtual folder and the page's path.
+            if (page.path().section(u'/', 2) == name) {
+                return page;
+            }
+            if (namesake.isEmpty() && page.fileName() == QFileInfo(pagePath).fileName()) {
+                namesake = page;
             }
         }
     }
-    return QFileInfo(pagePath).isFile() ? QUrl::fromLocalFile(pagePath) : QUrl();
+    // A file elsewhere is meant itself; else the page may lie in a folder of the collection.
+    const bool isElsewhere = name.startsWith(".."_L1);
+    if (isFile && (isElsewhere || namesake.isEmpty())) {
+        return QUrl::fromLocalFile(pagePath);
+    }
+    return namesake;
 }
 
 QByteArray HelpCollection::contents(const QUrl& page) const

@@ -1,5 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "process/ChildProcess.h"
+#include "process/StrayProcesses.h"
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// A script may wait for the end of something it has detached.
+constexpr auto reapInterval = 100ms;
+
+} // namespace
 
 ChildProcess::ChildProcess(QObject* parent)
     : QProcess(parent)
@@ -7,8 +19,17 @@ ChildProcess::ChildProcess(QObject* parent)
 #ifdef Q_OS_UNIX
     setChildProcessModifier(&ProcessGroup::becomeLeader);
 #endif
-    connect(this, &QProcess::started, this, [this] { group.adopt(processId()); });
-    connect(this, &QProcess::finished, this, [this] { group.release(leftovers == Leftovers::Kill); });
+    reaper.setInterval(reapInterval);
+    connect(&reaper, &QTimer::timeout, this, &StrayProcesses::reap);
+    connect(this, &QProcess::started, this, [this] {
+        group.adopt(processId());
+        reaper.start();
+    });
+    connect(this, &QProcess::finished, this, [this] {
+        reaper.stop();
+        group.release(leftovers == Leftovers::Kill);
+        StrayProcesses::reap();
+    });
 }
 
 ChildProcess::~ChildProcess()

@@ -4,6 +4,7 @@
 #include "process/ProcessGroup.h"
 
 #include <QProcess>
+#include <QTimer>
 
 /// A child process that is stopped together with everything it started: it leads a process group of its own (a job on
 /// Windows). On Linux it does not outlive this program, even if that crashes.
@@ -32,4 +33,5 @@ public:
 private:
     Leftovers leftovers = Leftovers::Kill;
     ProcessGroup group;
+    QTimer reaper;
 };

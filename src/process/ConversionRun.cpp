@@ -73,7 +73,8 @@ bool ConversionRun::putOldFileAside()
     if (!old.exists()) {
         return true;
     }
-    const QString aside = u"%1.old-%2"_s.arg(projectFileName).arg(QCoreApplication::applicationPid());
+    const QString aside =
+        QFileInfo(projectFileName).absolutePath() + u"/.old-project-%1.prj"_s.arg(QCoreApplication::applicationPid());
     QFile::remove(aside);
     const bool isFile = QFileInfo(projectFileName).isFile();
     if (!isFile || !old.rename(aside)) {

@@ -94,13 +94,22 @@ void RunAppData::cutOutput(qsizetype size)
         outputLog.append(output);
     }
     output.truncate(size);
+    // What follows must not become part of a tag.
+    if (const qsizetype tagEnd = output.lastIndexOf('>'); displayMode == HtmlDisplay && tagEnd >= 0) {
+        output.truncate(tagEnd + 1);
+    }
 }
 
 QString RunAppData::cutNote() const
 {
     const QString file = QDir::toNativeSeparators(outputLog.fileName());
-    return file.isEmpty() ? tr("[The output is longer than this and could not be kept]")
-                          : tr("[The output is longer than this. Until the wizard is closed it is in %1]").arg(file);
+    if (file.isEmpty()) {
+        return tr("[The output is longer than this and could not be kept]");
+    }
+    return (outputLog.isCut()
+                ? tr("[The output is longer than this. Until the wizard is closed it is, without its end, in %1]")
+                : tr("[The output is longer than this. Until the wizard is closed it is in %1]"))
+        .arg(file);
 }
 
 void RunAppData::readErrors()

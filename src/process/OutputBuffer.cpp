@@ -8,6 +8,8 @@ namespace {
 
 // A program that never ends its line must not fill the memory.
 constexpr qsizetype longestLine = 4096;
+// What a view takes in within a second.
+constexpr qsizetype keptCharacters = 1024LL * 1024;
 
 } // namespace
 
@@ -43,24 +45,30 @@ void OutputBuffer::append(QStringView text)
 
 void OutputBuffer::addLine(QString line)
 {
-    // Trimmed in steps: removing one line at a time from the front would cost each time.
-    if (lines.size() >= 2 * keptLines) {
-        const qsizetype surplus = lines.size() - keptLines;
-        lines.remove(0, surplus);
-        dropped += surplus;
-    }
+    heldCharacters += line.size();
     lines += std::move(line);
+    // Trimmed in steps: removing one line at a time from the front would cost each time.
+    if (lines.size() >= 2 * keptLines || heldCharacters >= 2 * keptCharacters) {
+        trim();
+    }
+}
+
+void OutputBuffer::trim()
+{
+    qsizetype surplus = 0;
+    while (lines.size() - surplus > keptLines || heldCharacters > keptCharacters) {
+        heldCharacters -= lines[surplus++].size();
+    }
+    lines.remove(0, surplus);
+    dropped += surplus;
 }
 
 QStringList OutputBuffer::take(qsizetype maximum, qsizetype characters)
 {
-    if (lines.size() > keptLines) {
-        const qsizetype surplus = lines.size() - keptLines;
-        lines.remove(0, surplus);
-        dropped += surplus;
-    }
+    trim();
     qsizetype count = 0;
     while (count < std::min(maximum, lines.size()) && characters > 0) {
+        heldCharacters -= lines[count].size();
         characters -= lines[count++].size() + 1;
     }
     QStringList taken = lines.first(count);
@@ -89,6 +97,7 @@ qint64 OutputBuffer::takeDropped()
 void OutputBuffer::clear()
 {
     lines.clear();
+    heldCharacters = 0;
     partial.clear();
     partialHeldBack = false;
     dropped = 0;

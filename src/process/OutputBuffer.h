@@ -28,9 +28,11 @@ public:
 
 private:
     void addLine(QString line);
+    void trim();
 
     qsizetype keptLines;
     QStringList lines;
+    qsizetype heldCharacters = 0;
     QString partial;
     bool partialHeldBack = false;
     qint64 dropped = 0;

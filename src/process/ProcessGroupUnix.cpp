@@ -60,6 +60,7 @@ void ProcessGroup::becomeLeader()
 void ProcessGroup::adopt(long long processId)
 {
     handle->leader = static_cast<pid_t>(processId);
+    StrayProcesses::expect(processId);
 }
 
 void ProcessGroup::terminate()
@@ -74,6 +75,7 @@ void ProcessGroup::kill()
 
 void ProcessGroup::release(bool killNow)
 {
+    StrayProcesses::forget(handle->leader);
     if (killNow) {
         kill();
     } else if (handle->leader > 0 && ::kill(-handle->leader, 0) == 0) {

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <csignal>
 #include <fstream>
+#include <set>
 #include <string>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -22,18 +23,37 @@ namespace {
 constexpr auto pollInterval = 10ms;
 constexpr auto killPatience = 2s;
 
-/// Our children outside our own group: those started as leaders of a group, and strays.
-std::vector<pid_t> childrenOfOtherGroups()
+struct Family
 {
-    const std::string self = std::to_string(::getpid());
-    std::ifstream list("/proc/self/task/" + self + "/children");
-    std::vector<pid_t> children;
+    std::set<pid_t> inherited;
+    std::set<pid_t> expected;
+};
+
+Family& family()
+{
+    static Family known;
+    return known;
+}
+
+std::vector<pid_t> children()
+{
+    std::ifstream list("/proc/self/task/" + std::to_string(::getpid()) + "/children");
+    std::vector<pid_t> all;
     for (pid_t child = 0; list >> child;) {
-        if (::getpgid(child) != ::getpgrp()) {
-            children.push_back(child);
-        }
+        all.push_back(child);
     }
-    return children;
+    return all;
+}
+
+// Children in our own group are helpers of this program, such as the help viewer.
+std::vector<pid_t> strays()
+{
+    std::vector<pid_t> found = children();
+    const Family& known = family();
+    std::erase_if(found, [&](pid_t child) {
+        return ::getpgid(child) == ::getpgrp() || known.inherited.contains(child) || known.expected.contains(child);
+    });
+    return found;
 }
 
 // True when it is gone now.
@@ -50,7 +70,7 @@ bool endAll(int signal, std::chrono::milliseconds patience)
     while (true) {
         bool anyLeft = false;
         // Asked anew each time: what a stray leaves behind comes to us in turn.
-        for (const pid_t child : childrenOfOtherGroups()) {
+        for (const pid_t child : strays()) {
             if (std::ranges::find(told, child) == told.end()) {
                 ::kill(child, signal);
                 told.push_back(child);
@@ -68,17 +88,34 @@ bool endAll(int signal, std::chrono::milliseconds patience)
 
 void StrayProcesses::adopt()
 {
+    const std::vector<pid_t> before = children();
+    family().inherited = {before.begin(), before.end()};
     ::prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);
+}
+
+void StrayProcesses::expect(long long child)
+{
+    // Its number may have been that of one we came with.
+    family().inherited.erase(pid_t(child));
+    family().expected.insert(pid_t(child));
+}
+
+void StrayProcesses::forget(long long child)
+{
+    family().expected.erase(pid_t(child));
 }
 
 void StrayProcesses::reap()
 {
-    for (const pid_t child : childrenOfOtherGroups()) {
-        // A leader of a group in our session may be a child that somebody here still waits for.
-        if (::getpgid(child) != child || ::getsid(child) != ::getsid(0)) {
-            collect(child);
-        }
+    for (const pid_t child : strays()) {
+        collect(child);
     }
+}
+
+bool StrayProcesses::any()
+{
+    reap();
+    return !strays().empty();
 }
 
 void StrayProcesses::stop(int graceMs)
@@ -91,7 +128,13 @@ void StrayProcesses::stop(int graceMs)
 #else
 
 void StrayProcesses::adopt() {}
+void StrayProcesses::expect(long long) {}
+void StrayProcesses::forget(long long) {}
 void StrayProcesses::reap() {}
+bool StrayProcesses::any()
+{
+    return false;
+}
 void StrayProcesses::stop(int) {}
 
 #endif

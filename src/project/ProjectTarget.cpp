@@ -5,6 +5,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace {
+
+// As many as the system follows.
+constexpr int mostLinks = 40;
+
+} // namespace
+
 bool ProjectTarget::createFolder(const QString& folder)
 {
     return QDir().mkpath(folder);
@@ -13,8 +20,11 @@ bool ProjectTarget::createFolder(const QString& folder)
 bool ProjectTarget::isWritable(const QString& file)
 {
     // Of a link that points nowhere yet, its target is made and removed again, not the link.
-    const QFileInfo info(file);
-    QFile probe(info.isSymLink() ? info.symLinkTarget() : file);
+    QString target = file;
+    for (int links = 0; links < mostLinks && QFileInfo(target).isSymLink(); ++links) {
+        target = QFileInfo(target).symLinkTarget();
+    }
+    QFile probe(target);
     const bool existed = probe.exists();
     if (!probe.open(QIODevice::ReadWrite)) {
         return false;

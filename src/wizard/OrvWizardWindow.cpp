@@ -4,6 +4,7 @@
 #include "dialogs/HelpManager.h"
 #include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
+#include "process/StrayProcesses.h"
 #include "wizard/OrvBasicWizardPage.h"
 
 #include <QAbstractButton>
@@ -92,9 +93,11 @@ bool OrvWizardWindow::confirmStop(bool (PageData::*isBusy)() const)
 {
     const auto& pages = appRegistry->definitions.applicationPages;
     const bool running = std::ranges::any_of(pages, [&](const auto& page) { return (page.get()->*isBusy)(); });
-    return !running || MessageBox::ask(this, tr("Child Applications Still Running"),
-                                       tr("Closing this application will kill child applications.\nDo you wish to "
-                                          "close this application?"));
+    const bool anyStray = !pages.empty() && StrayProcesses::any();
+    return (!running && !anyStray) ||
+           MessageBox::ask(this, tr("Child Applications Still Running"),
+                           tr("Closing this application will kill child applications.\nDo you wish to "
+                              "close this application?"));
 }
 
 bool OrvWizardWindow::CanClose()

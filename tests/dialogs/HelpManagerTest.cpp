@@ -65,6 +65,7 @@ private Q_SLOTS:
         const HelpCollection collection(installHelp(suite));
         const QUrl page = collection.find(suite.path(u"help/configuration.htm"_s));
         QCOMPARE(page, QUrl(space + u"configuration.htm"_s));
+        QCOMPARE(collection.find(suite.path(u"help/elsewhere/configuration.htm"_s)), page);
         const QString own = suite.write(u"help/own.htm"_s, "<p>own</p>");
         QCOMPARE(collection.find(own), QUrl::fromLocalFile(own));
         QVERIFY(collection.find(u"/nowhere.htm"_s).isEmpty());

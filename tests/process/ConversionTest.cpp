@@ -6,10 +6,12 @@
 #include "process/ConversionRun.h"
 #include "process/OutputBuffer.h"
 #include "process/ProcessEnvironment.h"
+#include "process/StrayProcesses.h"
 #include "TestMain.h"
 #include "TestRows.h"
 #include "wizard/WizardState.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
@@ -34,7 +36,8 @@ struct Conversion : Installation
     bool isHalfWay() const { return !output.isEmpty() && QFile::exists(project); }
 
     QString output;
-    const QString project = path(u"work/p.prj"_s);
+    // As long as a name can be.
+    const QString project = path(u"work/"_s + QString(251, u'p') + u".prj"_s);
     ConversionRun run;
     QSignalSpy ended{&run, &ConversionRun::ended};
 };
@@ -102,7 +105,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, leaves);
         QFETCH(const QString, output);
         Conversion conversion;
-        conversion.write(u"work/p.prj"_s, "old");
+        QFile(conversion.project).open(QIODevice::WriteOnly);
         QVERIFY(conversion.start(script));
         QTRY_COMPARE(conversion.ended.size(), 1);
         QCOMPARE(conversion.run.outcome(), outcome);
@@ -110,7 +113,7 @@ private Q_SLOTS:
         QVERIFY2(conversion.run.detail().contains(detail), qPrintable(conversion.run.detail()));
         QCOMPARE(conversion.run.detail().isEmpty(), detail.isEmpty());
         QCOMPARE(QFile::exists(conversion.project), !leaves.isEmpty());
-        QCOMPARE(conversion.read(u"work/p.prj"_s), leaves);
+        QCOMPARE(conversion.read(conversion.project), leaves);
     }
 
     void saysWhyItCouldNotStart()
@@ -120,7 +123,7 @@ private Q_SLOTS:
         QVERIFY(!conversion.run.start(missing, {}, conversion.project));
         QVERIFY2(conversion.run.detail().contains(missing), qPrintable(conversion.run.detail()));
         // A folder in the project file's place can not be removed, nor taken for a result.
-        conversion.write(u"work/p.prj/x"_s, "");
+        QVERIFY(QDir().mkpath(conversion.project + u"/x"_s));
         QVERIFY(!conversion.start("exit 0"));
         QCOMPARE(conversion.ended.size(), 2);
         QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::NotStarted);
@@ -156,6 +159,30 @@ private Q_SLOTS:
         QTRY_VERIFY(!Installation::isAlive(orphan));
     }
 
+    void takesCareOfWhatIsDetached()
+    {
+        Conversion conversion;
+        QProcess earlier;
+        earlier.start(u"setsid"_s, {u"sleep"_s, u"1000"_s});
+        QVERIFY(earlier.waitForStarted());
+        StrayProcesses::adopt();
+        // One that waits for the end of what it has detached must see it end.
+        QVERIFY(conversion.start("(sh -c 'echo $$ > \"$0\"; exec sleep 0.1' \"$0.pid\" &)\nsleep 0.05\n"
+                                 "while kill -0 $(cat \"$0.pid\"); do sleep 0.05; done\necho new > \"$1\"\n"));
+        QTRY_COMPARE(conversion.ended.size(), 1);
+        QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::Created);
+        // What goes on is ours to end, what was there before us is not.
+        QVERIFY(conversion.start("setsid sleep 1000 >/dev/null 2>&1 &\nsleep 0.3\n"));
+        QTRY_COMPARE(conversion.ended.size(), 2);
+        QTRY_VERIFY(StrayProcesses::any());
+        StrayProcesses::stop(500);
+        QVERIFY(!StrayProcesses::any());
+        QCOMPARE(earlier.state(), QProcess::Running);
+        QVERIFY(Installation::isAlive(QByteArray::number(earlier.processId())));
+        earlier.kill();
+        QVERIFY(earlier.waitForFinished());
+    }
+
     void joinsWhatReadsCut()
     {
         OutputBuffer buffer(100);
@@ -188,6 +215,10 @@ private Q_SLOTS:
         buffer.append(QString(10, u'x') + u"\n1\n2\n"_s);
         QCOMPARE(buffer.take(100, 5).size(), 1);
         QCOMPARE(buffer.take(100, 5).size(), 2);
+        // Long lines count by their characters.
+        OutputBuffer longLines(5000);
+        longLines.append(QString(QString(4000, u'x') + u'\n').repeated(2000));
+        QVERIFY(longLines.take(5000).size() < 300 && longLines.takeDropped() > 1700);
     }
 
     void extendsThePath()
@@ -214,14 +245,20 @@ private Q_SLOTS:
     {
         Installation suite;
         qputenv("LATIN", "caf\xe9");
+        qputenv("PATH", qgetenv("PATH") + ":/opt/caf\xe9");
         suite.start();
-        QProcess child;
-        // The user's own variables keep their bytes.
-        child.start(u"sh"_s, {u"-c"_s, u"printf '%s|%s|%s' \"$ORVCBIN\" \"$LATIN\" \"$PATH\""_s});
-        QVERIFY(child.waitForFinished());
-        const QByteArray said = child.readAll();
-        QVERIFY2(said.startsWith(suite.path(u"orvc/bin"_s).toLocal8Bit() + "|caf\xe9|"), said.constData());
-        QVERIFY2(said.contains(':' + suite.path(u"bin"_s).toLocal8Bit()), said.constData());
+        for (const bool isLaunched : {false, true}) {
+            QProcess child;
+            if (isLaunched) {
+                SetProcessEnvironment(&child, true);
+            }
+            // The user's own variables keep their bytes, PATH those that it had.
+            child.start(u"sh"_s, {u"-c"_s, u"printf '%s|%s|%s' \"$ORVCBIN\" \"$LATIN\" \"$PATH\""_s});
+            QVERIFY(child.waitForFinished());
+            const QByteArray said = child.readAll();
+            QVERIFY2(said.startsWith(suite.path(u"orvc/bin"_s).toLocal8Bit() + "|caf\xe9|"), said.constData());
+            QVERIFY2(said.contains(":/opt/caf\xe9:" + suite.path(u"bin"_s).toLocal8Bit()), said.constData());
+        }
         qunsetenv("LATIN");
     }
 };
