@@ -78,6 +78,40 @@ int analyseList(const ToolOptions& options, bool forC)
     return failed;
 }
 
+QByteArray analyserVersion()
+{
+    QProcess analyser;
+    analyser.start(u"cppcheck"_s, {u"--version"_s});
+    return analyser.waitForFinished() ? analyser.readAllStandardOutput().trimmed() : QByteArray();
+}
+
+// The project tells what it was analysed with; its other lines stay as they are.
+void noteAnalysis(const QString& projectFile)
+{
+    QFile old(projectFile);
+    const QByteArray version = analyserVersion();
+    if (version.isEmpty() || !old.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    QByteArray text;
+    bool isNoted = false;
+    while (!old.atEnd()) {
+        const QByteArray line = old.readLine();
+        if (line.startsWith("*lastAnalysis=")) {
+            continue;
+        }
+        // Read at the end of the files at the latest.
+        if (!isNoted && line.startsWith("EndContainedFilesMarker")) {
+            text += "*lastAnalysis=" + version + '\n';
+            isNoted = true;
+        }
+        text += line;
+    }
+    if (isNoted && !write(projectFile, text)) {
+        std::fprintf(stderr, "%s: can not be written\n", qPrintable(projectFile));
+    }
+}
+
 int analyseProject(const ToolOptions& options, bool forC)
 {
     const Project project(options.projectFile);
@@ -94,6 +128,9 @@ int analyseProject(const ToolOptions& options, bool forC)
         }
         return false;
     });
+    if (failed == 0) {
+        noteAnalysis(options.projectFile);
+    }
     return failed;
 }
 

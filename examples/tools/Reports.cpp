@@ -58,12 +58,13 @@ QString crossModuleReport(const ToolOptions& options)
     for (auto message = messages.cbegin(); message != messages.cend(); ++message) {
         text += u"%1  %2\n"_s.arg(message.value(), 6).arg(message.key());
     }
-    text += u"\nSources with the same name\n"_s;
+    QString namesakes;
     for (const QStringList& paths : std::as_const(names)) {
         if (paths.size() > 1) {
-            text += paths.join(u"  "_s) + u'\n';
+            namesakes += paths.join(u"  "_s) + u'\n';
         }
     }
+    text += u"\nSources with the same name\n"_s + (namesakes.isEmpty() ? u"none\n"_s : namesakes);
     if (options.crossModuleFile.isEmpty()) {
         return text;
     }

@@ -46,7 +46,7 @@ int BatchConversion::execute(const QStringList& arguments)
         print(stderr, BatchArguments::usage());
         return WrongArguments;
     }
-    if (appRegistry->definitions.projectCreators.empty()) {
+    if (!appRegistry->definitions.hasConversionTypes()) {
         complain(
             tr("no conversion types: the definitions file %1 is missing or not of the correct format; -trace tells "
                "more")
@@ -112,6 +112,8 @@ QString BatchConversion::chooseType(const QString& type)
 
 QString BatchConversion::chooseAnalyser(const QStringList& arguments)
 {
+    const qsizetype c = arguments.lastIndexOf(u"-c"_s);
+    const qsizetype cpp = arguments.lastIndexOf(u"-cpp"_s);
     state.cAvailable = QFile::exists(appRegistry->cInstallDir);
     state.cppAvailable = QFile::exists(appRegistry->cppInstallDir);
     CommandLine::preset(arguments, state);
@@ -119,9 +121,9 @@ QString BatchConversion::chooseAnalyser(const QStringList& arguments)
     if (state.noAnalyserInstalled) {
         complain(tr("warning: there are no KOVRA Analysers installed on this machine"));
     }
-    const qsizetype c = arguments.lastIndexOf(u"-c"_s);
-    const qsizetype cpp = arguments.lastIndexOf(u"-cpp"_s);
-    if (c != cpp && (c > cpp) != state.isORVC) {
+    const bool servesOne = state.projectCreator->orvcProject != state.projectCreator->orvcppProject;
+    const bool isServed = !servesOne || state.projectCreator->orvcProject == (c > cpp);
+    if (c != cpp && ((c > cpp) != state.isORVC || !isServed)) {
         return tr("%1: this conversion type or installation allows only the other analyser")
             .arg(c > cpp ? u"-c"_s : u"-cpp"_s);
     }

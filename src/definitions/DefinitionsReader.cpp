@@ -11,6 +11,8 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -173,6 +175,11 @@ void KOVRASettingsFile::ReadFile(const QString& name)
             u"KOVRASettingsFile::ReadFile: "_s,
             u"%1:%2:%3: %4"_s.arg(located).arg(lastError.line).arg(lastError.column).arg(lastError.reason));
     }
+}
+
+bool KOVRASettingsFile::hasConversionTypes() const
+{
+    return std::ranges::any_of(projectCreators, [](const auto& creator) { return !creator->name.isEmpty(); });
 }
 
 void KOVRASettingsFile::readDocument(const QByteArray& document, const Places& places)

@@ -30,6 +30,9 @@ public:
     /// Adds the records of a document, placeholders expanded. Reading ends silently at the first XML error.
     void readDocument(const QByteArray& document, const Places& places);
 
+    /// True when there is a conversion type that can be chosen: a file that was cut short may hold one without a name.
+    bool hasConversionTypes() const;
+
     std::vector<std::unique_ptr<PageData>> reportsPages;
     std::vector<std::unique_ptr<PageData>> applicationPages;
     std::vector<std::unique_ptr<CodingStandard>> codingStandards;

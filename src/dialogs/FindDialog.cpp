@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -140,9 +141,6 @@ void FindDialog::layOut()
     grid->addWidget(resultList, 3, 0, 1, 2);
     grid->addWidget(searchButton, 4, 0, 1, 2);
     grid->addWidget(buttons, 5, 0, 1, 2);
-    for (QPushButton* button : {browseButton, okButton, cancelButton}) {
-        button->setAutoDefault(false);
-    }
     searchButton->setDefault(true);
 }
 
@@ -232,6 +230,16 @@ void FindDialog::search(const QString& folder)
     dialog.setLabel(label);
     Progress progress(dialog, *label, *resultList);
     FileSearch(nameFilters).run(folder, progress);
+}
+
+// Enter picks the file in the list; elsewhere it presses the button that has the focus, or Search.
+void FindDialog::keyPressEvent(QKeyEvent* event)
+{
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && focusWidget() == resultList) {
+        okButtonClicked();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void FindDialog::okButtonClicked()

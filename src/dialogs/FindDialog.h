@@ -35,6 +35,9 @@ public Q_SLOTS:
     void okButtonClicked();
     void cancelButtonClicked();
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void layOut();
     void labelFiles(const QString& patterns);

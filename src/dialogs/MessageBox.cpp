@@ -1,13 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/MessageBox.h"
 
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QSpacerItem>
+
+namespace {
+
+constexpr int leastWidth = 440;
+
+// Wide enough for its title and for the details.
+void widen(QMessageBox& box)
+{
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->addItem(new QSpacerItem(leastWidth, 0, QSizePolicy::Minimum), grid->rowCount(), 0, 1,
+                      grid->columnCount());
+    }
+}
+
+} // namespace
 
 bool MessageBox::ask(QWidget* parent, const QString& title, const QString& text)
 {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Yes | QMessageBox::No, parent);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Yes);
+    widen(box);
     return box.exec() == QMessageBox::Yes;
 }
 
@@ -16,5 +34,6 @@ void MessageBox::warn(QWidget* parent, const QString& title, const QString& text
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
     box.setDetailedText(details);
     box.setTextFormat(Qt::PlainText);
+    widen(box);
     box.exec();
 }

@@ -150,8 +150,8 @@ bool ApplicationWindow::confirmInterruption()
         return true;
     }
     const bool agreed = MessageBox::ask(this, tr("Conversion in progress"),
-                                        tr("The conversion is still running. It will be stopped and the new project "
-                                           "file will not be created.\nDo you wish to stop it?"));
+                                        tr("The conversion is still running. Closing the wizard stops it, and the new "
+                                           "project file will not be created.\nDo you wish to close the wizard?"));
     // A conversion that ended behind the question has a result, which the user shall see.
     return agreed && actionPage->isConverting();
 }

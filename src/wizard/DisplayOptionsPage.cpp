@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QPushButton>
 #include <QScrollArea>
 
 DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
@@ -35,6 +36,13 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     scrollArea->setWidget(buttonGroup);
     scrollArea->setWidgetResizable(true);
     (new QHBoxLayout(this))->addWidget(scrollArea);
+    // The page appears by itself: an Enter that was meant for the one before must not close the wizard.
+    connect(owner, &QWizard::currentIdChanged, this, [owner](int id) {
+        auto* finish = qobject_cast<QPushButton*>(owner->button(QWizard::FinishButton));
+        if (id == DisplayOptionsPageId && finish) {
+            finish->setDefault(false);
+        }
+    });
 }
 
 void DisplayOptionsPage::showButtonMenu(const QPoint& position)

@@ -9,12 +9,46 @@
 
 #include <QAbstractButton>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPixmap>
+#include <QRadioButton>
+#include <QScreen>
+#include <QShowEvent>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Of buttons that exclude each other the checked one gets the focus: the other would seem to be chosen.
+void focusChecked(const QWidget& focused)
+{
+    const auto* radio = qobject_cast<const QRadioButton*>(&focused);
+    if (!radio || radio->isChecked()) {
+        return;
+    }
+    const auto siblings = radio->parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+    for (QRadioButton* sibling : siblings) {
+        if (sibling->isChecked()) {
+            sibling->setFocus();
+        }
+    }
+}
+
+// A position may have been stored for a screen that is gone or was larger.
+void fitOnScreen(QWidget& window)
+{
+    const QScreen* screen = QGuiApplication::screenAt(window.pos());
+    const QRect available = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    window.resize(window.size().boundedTo(available.size()));
+    const QRect frame = window.frameGeometry();
+    window.move(std::clamp(frame.left(), available.left(), qMax(available.left(), available.right() - frame.width())),
+                std::clamp(frame.top(), available.top(), qMax(available.top(), available.bottom() - frame.height())));
+}
+
+} // namespace
 
 OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, QWidget* parent)
     : QWizard(parent)
@@ -84,6 +118,15 @@ void OrvWizardWindow::Finished(int result)
     }
 }
 
+// By now the window is as large as its first page wants it.
+void OrvWizardWindow::showEvent(QShowEvent* event)
+{
+    QWizard::showEvent(event);
+    if (!event->spontaneous()) {
+        fitOnScreen(*this);
+    }
+}
+
 void OrvWizardWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(confirmInterruption() && CanClose());
@@ -122,13 +165,18 @@ void OrvWizardWindow::focusPage()
 {
     QWidget* page = currentPage();
     const QWidget* focused = focusWidget();
-    if (!page || (focused && page->isAncestorOf(focused) && focused->isVisible())) {
+    if (!page) {
+        return;
+    }
+    if (focused && page->isAncestorOf(focused) && focused->isVisible()) {
+        focusChecked(*focused);
         return;
     }
     for (QWidget* widget = page->nextInFocusChain(); widget != page; widget = widget->nextInFocusChain()) {
         if (page->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
             (widget->focusPolicy() & Qt::TabFocus) != 0) {
             widget->setFocus();
+            focusChecked(*widget);
             return;
         }
     }
@@ -140,7 +188,9 @@ void OrvWizardWindow::saveState()
     if (saveGeometry) {
         appRegistry->windowPos = pos();
         appRegistry->windowSize = geometry().size();
-        appRegistry->WriteRegistry();
+        if (!appRegistry->WriteRegistry()) {
+            qWarning("The wizard's values could not be stored.");
+        }
     }
     if (savePersistedValues) {
         appRegistry->values.Write();

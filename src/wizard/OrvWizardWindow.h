@@ -25,6 +25,7 @@ public Q_SLOTS:
     void Finished(int result);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     /// True when the window may go; what still runs has been stopped then.
     virtual bool CanClose();

@@ -59,6 +59,11 @@ void SetProductPage::initializePage()
     warningBox->setVisible(window->noAnalyserInstalled);
 }
 
+void SetProductPage::cleanupPage()
+{
+    window->SetAnalyser(cRadio->isChecked());
+}
+
 bool SetProductPage::validatePage()
 {
     window->SetAnalyser(cRadio->isChecked());

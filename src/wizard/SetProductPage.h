@@ -18,6 +18,8 @@ public:
     ~SetProductPage() override;
 
     void initializePage() override;
+    /// Going back keeps the choice.
+    void cleanupPage() override;
     bool validatePage() override;
     bool isComplete() const override { return true; }
 

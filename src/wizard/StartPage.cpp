@@ -21,6 +21,7 @@ StartPage::StartPage(ApplicationWindow* owner)
     , nameEdit(new QLineEdit)
     , typeCombo(new QComboBox)
     , errorLabel(new QLabel)
+    , hint(new QLabel)
 {
     setTitle(tr("Project Information"));
     setSubTitle(tr("Specify new project name and conversion project type"));
@@ -43,6 +44,8 @@ StartPage::StartPage(ApplicationWindow* owner)
     grid->addWidget(typeLabel, 2, 0, 1, 1);
     grid->addWidget(typeCombo, 2, 1, 1, 5);
     grid->addWidget(errorLabel, 3, 0, 1, 6);
+    grid->addWidget(hint, 4, 0, 1, 6);
+    hint->setWordWrap(true);
 
     const QString message =
         tr("<P>An error has occured:<P>For this application to operate successfully it requires an xml data file:"
@@ -54,6 +57,7 @@ StartPage::StartPage(ApplicationWindow* owner)
     fillTypes();
 
     connect(nameEdit, &QLineEdit::textChanged, this, &StartPage::completeChanged);
+    connect(this, &StartPage::completeChanged, this, &StartPage::updateHint);
     connect(location.lineEdit(), &QLineEdit::textChanged, this, &StartPage::completeChanged);
     connect(typeCombo, &QComboBox::currentIndexChanged, this, [this] {
         // Undecided until Next is pressed.
@@ -69,7 +73,7 @@ void StartPage::fillTypes()
     for (const auto& creator : creators) {
         typeCombo->addItem(creator->name, QVariant::fromValue(creator.get()));
     }
-    errorLabel->setVisible(creators.empty());
+    errorLabel->setVisible(!appRegistry->definitions.hasConversionTypes());
 }
 
 void StartPage::initializePage()
@@ -80,6 +84,13 @@ void StartPage::initializePage()
     if (index >= 0) {
         typeCombo->setCurrentIndex(index);
     }
+    updateHint();
+}
+
+void StartPage::updateHint()
+{
+    const bool isNamed = !nameEdit->text().isEmpty() && !location.lineEdit()->text().isEmpty();
+    hint->setText(isNamed || !errorLabel->isHidden() ? QString() : tr("To continue, name the project and its folder."));
 }
 
 bool StartPage::isComplete() const

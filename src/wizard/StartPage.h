@@ -23,6 +23,7 @@ public:
 private:
     void fillTypes();
     void updateButtons();
+    void updateHint();
     bool makeFolder();
     bool checkProjectFile();
 
@@ -30,4 +31,6 @@ private:
     QLineEdit* nameEdit;
     QComboBox* typeCombo;
     QLabel* errorLabel;
+    /// Says what Next is waiting for.
+    QLabel* hint;
 };

@@ -7,6 +7,8 @@
 
 #include <QDir>
 
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
 QString WizardState::ProjectFile() const
@@ -14,8 +16,37 @@ QString WizardState::ProjectFile() const
     return QDir::toNativeSeparators(JoinPath(fileDir, fileName + u".prj"_s));
 }
 
+namespace {
+
+// What nobody changed follows the analyser; a field with its old preset is as good as empty.
+void forgetPresets(const ArgumentDefinitions& definitions, bool wasC)
+{
+    for (const auto& definition : definitions) {
+        forgetPresets(definition->children, wasC);
+        if (definition->value == definition->DefaultValue(wasC)) {
+            definition->value.clear();
+        }
+    }
+}
+
+} // namespace
+
 void WizardState::SetAnalyser(bool isC)
 {
+    if (projectCreator && isC != isORVC) {
+        forgetPresets(projectCreator->inputData, isORVC);
+        const ProjectCreatorData& creator = *projectCreator;
+        const std::tuple<QString&, const QString&> files[] = {
+            {compilerPersonality, isORVC ? creator.cCompilerPersonality : creator.cppCompilerPersonality},
+            {analyserPersonality, isORVC ? creator.cAnalyserPersonality : creator.cppAnalyserPersonality},
+            {messagePersonality, isORVC ? creator.cMessagePersonality : creator.cppMessagePersonality},
+        };
+        for (const auto& [file, preset] : files) {
+            if (file == preset) {
+                file.clear();
+            }
+        }
+    }
     isORVC = isC;
     defaultPersonalityLocation = EnvironmentValue(ProductNames::of(isC).personalitiesVariable, false);
 }

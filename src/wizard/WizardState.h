@@ -31,7 +31,8 @@ struct WizardState
 
     /// The path of the project file to be created.
     QString ProjectFile() const;
-    /// Chooses the analyser and the folder in which its configuration files are browsed for.
+    /// Chooses the analyser and the folder in which its configuration files are browsed for. Values that are still the
+    /// conversion type's presets for the other analyser are forgotten.
     void SetAnalyser(bool isC);
     /// Decides the analyser from what is installed and what the conversion type serves; folders as discovered.
     void decideAnalyser(const QString& cInstallDir, const QString& cppInstallDir);

@@ -65,13 +65,23 @@ void XmlPage::load(const ArgumentDefinitions& definitions)
     }
 }
 
-bool XmlPage::validatePage()
+void XmlPage::cleanupPage()
+{
+    storeValues();
+}
+
+void XmlPage::storeValues()
 {
     if (window->projectCreator) {
         for (const auto& definition : window->projectCreator->inputData) {
             Value(*definition, true);
         }
     }
+}
+
+bool XmlPage::validatePage()
+{
+    storeValues();
     return true;
 }
 

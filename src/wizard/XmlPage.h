@@ -15,6 +15,8 @@ public:
     explicit XmlPage(ApplicationWindow* window);
 
     void initializePage() override;
+    /// Going back keeps what was entered.
+    void cleanupPage() override;
     bool validatePage() override;
     bool isComplete() const override;
 
@@ -22,6 +24,7 @@ public:
     QString Value(ArgumentDefinition& definition, bool store) const;
 
 private:
+    void storeValues();
     void load(const ArgumentDefinitions& definitions);
     void valueChanged();
     FieldState fieldState(const ArgumentDefinition& definition) const;

@@ -120,10 +120,15 @@ private Q_SLOTS:
 
         QVERIFY(!ok.isEnabled());
         list.setCurrentRow(0);
-        ok.click();
+        list.setFocus();
+        QTest::keyClick(&list, Qt::Key_Return);
         QCOMPARE(dialog.SelectedFile(), folder + u"/a.c"_s);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         // Escape keeps the earlier choice, Cancel forgets it.
+        dialog.show();
+        ok.setFocus();
+        QTest::keyClick(&ok, Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
         dialog.show();
         dialog.reject();
         QCOMPARE(dialog.SelectedFile(), folder + u"/a.c"_s);

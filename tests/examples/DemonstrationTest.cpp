@@ -247,6 +247,9 @@ private Q_SLOTS:
         QVERIFY(program.waitForFinished() && program.exitStatus() == QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);
         QVERIFY(!QFile::exists(suite.path(u"work/s.prj"_s)));
+        // The type serves C only.
+        program.start(suite.path(u"create-project"_s), u"-batch -prj s.prj -type Slow -cpp"_s.split(u' '));
+        QVERIFY(program.waitForFinished() && program.exitCode() == 2);
         const QByteArray child = suite.read(u"slow.pid"_s);
         QVERIFY(!child.isEmpty());
         QTRY_VERIFY(!Installation::isAlive(child));

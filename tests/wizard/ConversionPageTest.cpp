@@ -117,6 +117,9 @@ private Q_SLOTS:
         convert(wizard, suite);
         // It is not only there, it is seen.
         QTRY_VERIFY(wizard.window.currentId() == DisplayOptionsPageId && paints.count > 0);
+        // An Enter that was meant for the page before does nothing here.
+        QTest::keyClick(wizard.window.focusWidget() ? wizard.window.focusWidget() : &wizard.window, Qt::Key_Return);
+        QVERIFY(wizard.window.isVisible());
         const QByteArray first = suite.read(u"work/p.prj"_s);
 
         BoxAnswers boxes({QMessageBox::No, QMessageBox::No, QMessageBox::No, QMessageBox::Yes, QMessageBox::Yes});
@@ -164,7 +167,7 @@ private Q_SLOTS:
     {
         Installation suite;
         // Long lines count by their length, and what only the view drops is told as well.
-        startSuite(suite, "seq 1 200000; head -c 3000000 /dev/zero | tr '\\0' x; echo; echo x > \"$1\"\n");
+        startSuite(suite, "seq 1 200000; head -c 500000 /dev/zero | tr '\\0' x; echo; echo x > \"$1\"\n");
         const WizardDriver wizard;
         convert(wizard, suite);
         QTRY_VERIFY_WITH_TIMEOUT(wizard.window.button(QWizard::FinishButton)->isEnabled(), 30000);

@@ -3,6 +3,7 @@
 #include "WizardDriver.h"
 
 #include <QDir>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +15,8 @@ private Q_SLOTS:
     void saysWhichDefinitionsAreMissing()
     {
         const Installation missing;
-        for (const char* contents : {"", " ", "int main() {}", "<settings><projectCreat"}) {
+        for (const char* contents :
+             {"", " ", "int main() {}", "<settings><projectCreat", "<settings><projectCreator><exe>no name</exe>"}) {
             Installation suite;
             const QString name = (*contents ? suite : missing).path(u"<b>bold.xml"_s);
             suite.write(u"<b>bold.xml"_s, contents);
@@ -32,9 +34,13 @@ private Q_SLOTS:
         Installation suite;
         suite.define("<projectCreator><name>One</name><inputData/></projectCreator>"
                      "<projectCreator><name>Two</name><inputData/><orvcProject>1</orvcProject></projectCreator>");
-        suite.start();
+        // A position that is not on any screen any more.
+        suite.start().windowPos = QPoint(3000, 2000);
         const WizardDriver wizard;
+        const QRect screen = wizard.window.screen()->availableGeometry();
+        QVERIFY(screen.contains(wizard.window.geometry()));
         QVERIFY(!wizard.canGoOn());
+        QVERIFY(wizard.labels().contains(u"To continue, name the project and its folder."_s));
         const QString folder = suite.path(u"work/new/deep"_s);
         using enum QMessageBox::StandardButton;
         BoxAnswers boxes({No, Yes, No, Yes, Yes, Ok, Yes, Ok, Ok});

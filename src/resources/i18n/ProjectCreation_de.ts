@@ -113,10 +113,10 @@
         <translation>Konvertierung läuft</translation>
     </message>
     <message>
-        <source>The conversion is still running. It will be stopped and the new project file will not be created.
-Do you wish to stop it?</source>
-        <translation>Die Konvertierung läuft noch. Sie wird angehalten, und die neue Projektdatei wird nicht erstellt.
-Möchten Sie sie anhalten?</translation>
+        <source>The conversion is still running. Closing the wizard stops it, and the new project file will not be created.
+Do you wish to close the wizard?</source>
+        <translation>Die Konvertierung läuft noch. Wenn Sie den Assistenten schließen, wird sie angehalten und die neue Projektdatei nicht erstellt.
+Möchten Sie den Assistenten schließen?</translation>
     </message>
 </context>
 <context>
@@ -720,6 +720,10 @@ Möchten Sie diese Anwendung schließen?</translation>
         <source>Available once this has succeeded: %1</source>
         <translation>Verfügbar, sobald dies gelungen ist: %1</translation>
     </message>
+    <message>
+        <source>[The output is longer than this. Until the wizard is closed it is, without its end, in %1]</source>
+        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie ohne ihr Ende in %1]</translation>
+    </message>
 </context>
 <context>
     <name>SelectFileWidgets</name>
@@ -874,6 +878,10 @@ Möchten Sie diesen Ordner erstellen?
     <message>
         <source>Project File can not be created</source>
         <translation>Projektdatei kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>To continue, name the project and its folder.</source>
+        <translation>Um fortzufahren, geben Sie Namen und Ordner des Projekts an.</translation>
     </message>
 </context>
 <context>
