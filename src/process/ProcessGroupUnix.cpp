@@ -88,6 +88,9 @@ void ProcessGroup::release(bool killNow)
 // While a group lives, no new process gets its leader's number: where one has it, the group is another program's.
 bool ProcessGroup::hasLeftovers()
 {
+    if (handle->leftovers.empty()) {
+        return false;
+    }
     StrayProcesses::reap();
     std::erase_if(handle->leftovers, [](pid_t group) { return ::kill(group, 0) == 0 || ::kill(-group, 0) != 0; });
     return !handle->leftovers.empty();

@@ -40,7 +40,7 @@ void SetButtonStyle(QPushButton* button, const QString& colour)
 
 void SetArrowImage(QLabel* label, const QString& resource)
 {
-    QPixmap arrow(resource);
+    QPixmap arrow(resource, "XPM");
     if (!arrow.isNull()) {
         arrow.setMask(arrow.createMaskFromColor(Qt::white));
     }

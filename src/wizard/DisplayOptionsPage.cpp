@@ -21,18 +21,10 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     setSubTitle(tr("Now that the project is created launch an application to analyse and display the project "
                    "information"));
     buttonGroup->setFlat(true);
-    if (PageData* launchers = launcherPage()) {
-        launchers->BuildButtons(buttonGrid);
-    }
-    // What room is left goes to the end, so that the arrows stay beside their buttons.
-    buttonGrid->setRowStretch(buttonGrid->rowCount(), 1);
-    buttonGrid->setColumnStretch(buttonGrid->columnCount(), 1);
     buttonGroup->setLayout(buttonGrid);
     // A disabled button gets no menu of its own, but its tool may run all the same.
     buttonGroup->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(buttonGroup, &QWidget::customContextMenuRequested, this, &DisplayOptionsPage::showButtonMenu);
-    // The grid has no constraint of its own, so the scroll area needs to be told how large it is.
-    buttonGroup->setMinimumSize(buttonGrid->sizeHint() + QSize(20, 20));
     scrollArea->setWidget(buttonGroup);
     scrollArea->setWidgetResizable(true);
     (new QHBoxLayout(this))->addWidget(scrollArea);
@@ -43,6 +35,21 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
             finish->setDefault(false);
         }
     });
+}
+
+// Once, when they are first needed: until then the launchers are those of the C++ analyser, which decides what is there.
+void DisplayOptionsPage::buildButtons(PageData& launchers)
+{
+    if (hasButtons) {
+        return;
+    }
+    hasButtons = true;
+    launchers.BuildButtons(buttonGrid);
+    // What room is left goes to the end, so that the arrows stay beside their buttons.
+    buttonGrid->setRowStretch(buttonGrid->rowCount(), 1);
+    buttonGrid->setColumnStretch(buttonGrid->columnCount(), 1);
+    // The grid has no constraint of its own, so the scroll area needs to be told how large it is.
+    buttonGroup->setMinimumSize(buttonGrid->sizeHint() + QSize(20, 20));
 }
 
 void DisplayOptionsPage::showButtonMenu(const QPoint& position)
@@ -66,6 +73,7 @@ void DisplayOptionsPage::initializePage()
     window->setOption(QWizard::HaveCustomButton1, true);
     window->setButtonText(QWizard::CustomButton1, tr("New Project Conversion"));
     if (PageData* launchers = launcherPage()) {
+        buildButtons(*launchers);
         launchers->SetProjectFile(window->ProjectFile());
         launchers->SetIsORVC(window->isORVC);
     }

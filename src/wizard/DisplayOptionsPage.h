@@ -22,6 +22,7 @@ public:
     bool isComplete() const override { return true; }
 
 private:
+    void buildButtons(PageData& launchers);
     void showButtonMenu(const QPoint& position);
     /// The first launcher page of the definitions; the others are never shown.
     static PageData* launcherPage();
@@ -29,4 +30,5 @@ private:
     QGroupBox* buttonGroup;
     QGridLayout* buttonGrid;
     QScrollArea* scrollArea;
+    bool hasButtons = false;
 };

@@ -57,8 +57,9 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     MainWindow::set(this);
     HelpManager::currentHelpPage = helpPage;
     setWizardStyle(QWizard::ModernStyle);
-    setWindowIcon(QIcon(u":/AKOVRAIcon.xpm"_s));
-    setPixmap(QWizard::LogoPixmap, QPixmap(u":/logo_shadow.jpg"_s));
+    // With their formats named, Qt does not load every plugin to find out.
+    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
+    setPixmap(QWizard::LogoPixmap, QPixmap(u":/logo_shadow.jpg"_s, "JPG"));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
     setOptions(QWizard::HaveCustomButton1 | QWizard::NoBackButtonOnLastPage | QWizard::NoBackButtonOnStartPage);

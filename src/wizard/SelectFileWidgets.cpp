@@ -54,7 +54,7 @@ SelectFileWidgets::~SelectFileWidgets()
 
 void SelectFileWidgets::createButtons()
 {
-    editButton = new QPushButton(QIcon(u":/editicon.xpm"_s), QString(), frameWidget);
+    editButton = new QPushButton(QPixmap(u":/editicon.xpm"_s, "XPM"), QString(), frameWidget);
     editButton->setToolTip(tr("Edit the specified file"));
     editButton->setAccessibleName(tr("Edit") + u": "_s + caption);
     editButton->setEnabled(false);
