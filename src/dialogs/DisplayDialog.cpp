@@ -4,6 +4,7 @@
 
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -22,6 +23,9 @@ namespace {
 constexpr qsizetype portionSize = 128LL * 1024;
 // A view lays out a line as a whole; a longer one would stall it.
 constexpr qsizetype longestLine = 10'000;
+// What a window can still show with comfort.
+constexpr qint64 largestShown = 64LL * 1024 * 1024;
+constexpr int fileWindowSize = 600;
 
 /// The end of the next portion: after a line break where there is one.
 qsizetype portionEnd(const QString& text, qsizetype from, qsizetype size)
@@ -138,6 +142,25 @@ void DisplayDialog::SetText(const QString& text)
     } else {
         messageLabel->setText(text);
     }
+}
+
+bool DisplayDialog::showFile(const QString& title, const QString& fileName)
+{
+    QFile file(fileName);
+    if (!QFileInfo(fileName).isFile() ||
+        (!file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::ExistingOnly) &&
+         !file.open(QIODevice::ReadOnly | QIODevice::Text))) {
+        return false;
+    }
+    QString text = QString::fromLocal8Bit(file.read(largestShown));
+    if (!file.atEnd()) {
+        text += u'\n' + tr("[The file is larger; only its beginning is shown]");
+    }
+    file.close();
+    DisplayDialog dialog(title, Text, fileWindowSize, fileWindowSize);
+    dialog.SetText(text);
+    dialog.exec();
+    return true;
 }
 
 void DisplayDialog::appendPortion()

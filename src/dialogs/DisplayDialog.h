@@ -25,6 +25,9 @@ public:
 
     /// Shows the text. A large plain text appears at once and is completed in portions, so that the window stays alive.
     void SetText(const QString& text);
+    /// Shows a text file in a modal window, of a very large one the beginning. False when it can not be opened, or is a
+    /// pipe or a device, which would never end.
+    static bool showFile(const QString& title, const QString& fileName);
     /// Prints the whole text; a message is not printed.
     void printTo(QPrinter& printer);
 

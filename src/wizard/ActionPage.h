@@ -27,6 +27,8 @@ public:
     bool validatePage() override { return true; }
     bool isComplete() const override { return finished; }
     bool isConverting() const { return run.isRunning(); }
+    /// The file with the output of the last run.
+    QString logFileName() const { return log.fileName(); }
 
 public Q_SLOTS:
     void ReadReady();

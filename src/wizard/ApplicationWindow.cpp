@@ -3,6 +3,7 @@
 #include "app/AppRegistry.h"
 #include "app/CommandLine.h"
 #include "definitions/InputValues.h"
+#include "dialogs/DisplayDialog.h"
 #include "dialogs/MessageBox.h"
 #include "personality/FileScans.h"
 #include "wizard/ActionPage.h"
@@ -103,6 +104,14 @@ const QString& ApplicationWindow::GetMessagePersonality()
 int ApplicationWindow::NextPage(int pageId) const
 {
     return nextPage(pageId, *this);
+}
+
+void ApplicationWindow::showConversionOutput()
+{
+    const QString log = actionPage->logFileName();
+    if (log.isEmpty() || !DisplayDialog::showFile(tr("Output of the conversion"), log)) {
+        MessageBox::warn(this, tr("Output of the conversion"), tr("The output could not be kept."));
+    }
 }
 
 void ApplicationWindow::CustomButtonClicked(int which)

@@ -26,6 +26,8 @@ public:
     const QString& GetMessagePersonality();
     /// The id of the page that follows pageId.
     int NextPage(int pageId) const;
+    /// Shows what the conversion program printed.
+    void showConversionOutput();
 
 public Q_SLOTS:
     void CustomButtonClicked(int which) override;

@@ -6,10 +6,10 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QVBoxLayout>
 
 DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     : AppPage(owner, DisplayOptionsPageId)
@@ -27,7 +27,13 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     connect(buttonGroup, &QWidget::customContextMenuRequested, this, &DisplayOptionsPage::showButtonMenu);
     scrollArea->setWidget(buttonGroup);
     scrollArea->setWidgetResizable(true);
-    (new QHBoxLayout(this))->addWidget(scrollArea);
+    // The page before is left at once, with all that its program said.
+    auto* output = new QPushButton(tr("Show the &conversion's output..."));
+    output->setAutoDefault(false);
+    connect(output, &QPushButton::clicked, owner, &ApplicationWindow::showConversionOutput);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(scrollArea);
+    layout->addWidget(output, 0, Qt::AlignLeft);
     // The page appears by itself: an Enter that was meant for the one before must not close the wizard.
     connect(owner, &QWizard::currentIdChanged, this, [owner](int id) {
         auto* finish = qobject_cast<QPushButton*>(owner->button(QWizard::FinishButton));
@@ -37,7 +43,8 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     });
 }
 
-// Once, when they are first needed: until then the launchers are those of the C++ analyser, which decides what is there.
+// Once, when they are first needed: until then the launchers are those of the C++ analyser, which decides what is
+// there.
 void DisplayOptionsPage::buildButtons(PageData& launchers)
 {
     if (hasButtons) {

@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -18,13 +17,6 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// What a window can still show with comfort.
-constexpr qint64 largestShown = 64LL * 1024 * 1024;
-
-} // namespace
 
 SelectFileWidgets::SelectFileWidgets(const QString& fieldCaption, const QString& fileFilter, const Options& options)
     : emitEditSignal(options.emitEditSignal)
@@ -159,21 +151,9 @@ void SelectFileWidgets::EditFile()
         Q_EMIT EditFile(name);
         return;
     }
-    QFile file(name);
-    // A pipe or a device would never end.
-    if (!QFileInfo(name).isFile() || (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Text) &&
-                                      !file.open(QIODevice::ReadOnly | QIODevice::Text))) {
+    if (!DisplayDialog::showFile(name, name)) {
         MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not open file"));
-        return;
     }
-    DisplayDialog dialog(name, DisplayDialog::Text, 600, 600);
-    QString text = QString::fromLocal8Bit(file.read(largestShown));
-    if (!file.atEnd()) {
-        text += u'\n' + tr("[The file is larger; only its beginning is shown]");
-    }
-    dialog.SetText(text);
-    file.close();
-    dialog.exec();
 }
 
 void SelectFileWidgets::FindAFile()

@@ -5,7 +5,9 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
+#include <QPlainTextEdit>
 #include <QTextBlock>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -108,7 +110,7 @@ private Q_SLOTS:
                    "</exe>";
         };
         const AppRegistry& registry =
-            startSuite(suite, "test -f \"$0.broken\" || echo $$ > \"$1\"\n",
+            startSuite(suite, "echo a warning; test -f \"$0.broken\" || echo $$ > \"$1\"\n",
                        "<applicationPage>" + application(u"Long"_s, "echo $$ > \"$0.pid\"; exec sleep 1000") +
                            "</application>" + application(u"Text"_s, "echo hello") +
                            "<displayoutput>text</displayoutput></application></applicationPage>");
@@ -117,6 +119,19 @@ private Q_SLOTS:
         convert(wizard, suite);
         // It is not only there, it is seen.
         QTRY_VERIFY(wizard.window.currentId() == DisplayOptionsPageId && paints.count > 0);
+        // What the conversion said can still be read.
+        QString said;
+        QTimer reader;
+        connect(&reader, &QTimer::timeout, this, [&said] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                said = dialog->findChild<QPlainTextEdit*>()->toPlainText();
+                dialog->reject();
+            }
+        });
+        reader.start(5);
+        wizard.button(u"Show the &conversion's output..."_s).click();
+        reader.stop();
+        QCOMPARE(said, u"a warning\n"_s);
         // An Enter that was meant for the page before does nothing here.
         QTest::keyClick(wizard.window.focusWidget() ? wizard.window.focusWidget() : &wizard.window, Qt::Key_Return);
         QVERIFY(wizard.window.isVisible());

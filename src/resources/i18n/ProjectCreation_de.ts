@@ -118,6 +118,14 @@ Do you wish to close the wizard?</source>
         <translation>Die Konvertierung läuft noch. Wenn Sie den Assistenten schließen, wird sie angehalten und die neue Projektdatei nicht erstellt.
 Möchten Sie den Assistenten schließen?</translation>
     </message>
+    <message>
+        <source>Output of the conversion</source>
+        <translation>Ausgabe der Konvertierung</translation>
+    </message>
+    <message>
+        <source>The output could not be kept.</source>
+        <translation>Die Ausgabe konnte nicht aufbewahrt werden.</translation>
+    </message>
 </context>
 <context>
     <name>AssistantClient</name>
@@ -454,6 +462,10 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
         <source>Print Report</source>
         <translation>Bericht drucken</translation>
     </message>
+    <message>
+        <source>[The file is larger; only its beginning is shown]</source>
+        <translation>[Die Datei ist größer; nur ihr Anfang wird gezeigt]</translation>
+    </message>
 </context>
 <context>
     <name>DisplayOptionsPage</name>
@@ -468,6 +480,10 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
     <message>
         <source>New Project Conversion</source>
         <translation>Neue Projektkonvertierung</translation>
+    </message>
+    <message>
+        <source>Show the &amp;conversion&apos;s output...</source>
+        <translation>&amp;Ausgabe der Konvertierung zeigen...</translation>
     </message>
 </context>
 <context>
@@ -762,10 +778,6 @@ Möchten Sie diese Anwendung schließen?</translation>
     <message>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>[The file is larger; only its beginning is shown]</source>
-        <translation>[Die Datei ist größer; nur ihr Anfang wird gezeigt]</translation>
     </message>
 </context>
 <context>
