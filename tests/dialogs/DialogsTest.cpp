@@ -96,6 +96,13 @@ private Q_SLOTS:
         }
         QCOMPARE(::symlink("..", qPrintable(suite.path(u"work/deep/loop"_s))), 0);
         QCOMPARE(::symlink("a.c", qPrintable(suite.path(u"work/link.c"_s))), 0);
+        // A folder that may not be read holds nothing. Root may read all, so for root it is empty.
+        const QString closed = folder + u"/closed"_s;
+        QVERIFY(QDir().mkpath(closed));
+        if (::geteuid() != 0) {
+            suite.write(u"work/closed/no.c"_s, "");
+        }
+        QVERIFY(QFile::setPermissions(closed, {}));
         FindDialog dialog;
         dialog.show();
         QLineEdit& location = *dialog.findChild<QLineEdit*>();
@@ -117,6 +124,7 @@ private Q_SLOTS:
         QCOMPARE(find(u"*.h d?.c* [x]y"_s), (QStringList{u"deep/d1.cpp"_s, u"deep/h.h"_s, u"xy"_s}));
         QCOMPARE(find(QString()), QStringList());
         QCOMPARE(find(u"*.c"_s), dotC);
+        QVERIFY(QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 
         QVERIFY(!ok.isEnabled());
         list.setCurrentRow(0);

@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -133,11 +135,14 @@ private Q_SLOTS:
         const QString body = suite.write(u"body"_s, "VersionTag\nStartProjectMarker\nname=");
         const QString loop = suite.path(u"loop"_s);
         QVERIFY(QFile::resize(line, 1LL << 30) && QFile::resize(body, 1LL << 30) && QFile::link(u"loop"_s, loop));
+        // Root may read everything, so for root this is one more file that is no project.
+        const QString closed = suite.write(u"closed"_s, ::geteuid() == 0 ? "" : "V\nStartProjectMarker\nend\n");
+        QVERIFY(QFile::setPermissions(closed, {}));
         const QString invalid = u"This project file is not a valid KOVRA project file"_s;
         const QString noFile = u"This is not a valid file selection"_s;
         for (const auto& [name, status] :
              {std::pair{binary, invalid}, std::pair{line, invalid}, std::pair{body, invalid},
-              std::pair{suite.path(u"work"_s), noFile}, std::pair{u"/dev/zero"_s, noFile},
+              std::pair{closed, invalid}, std::pair{suite.path(u"work"_s), noFile}, std::pair{u"/dev/zero"_s, noFile},
               std::pair{loop, u"This project file does not exist"_s},
               std::pair{QString(), u"Project file not selected"_s}}) {
             Project project;
