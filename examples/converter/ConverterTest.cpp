@@ -7,30 +7,15 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Result
+ProgramResult convert(const Installation& place, const QStringList& arguments)
 {
-    int status;
-    QString output;
-    QString errors;
-};
-
-Result convert(const Installation& place, const QStringList& arguments)
-{
-    QProcess converter;
-    converter.setWorkingDirectory(place.path(u"work"_s));
-    converter.start(QStringLiteral(CONVERTER), arguments);
-    if (!converter.waitForFinished()) {
-        return {-1, {}, converter.errorString()};
-    }
-    return {converter.exitCode(), QString::fromUtf8(converter.readAllStandardOutput()),
-            QString::fromUtf8(converter.readAllStandardError())};
+    return runProgram(QStringLiteral(CONVERTER), arguments, {{u"LC_ALL"_s, u"C.UTF-8"_s}}, place.path(u"work"_s));
 }
 
 } // namespace
@@ -62,7 +47,7 @@ private Q_SLOTS:
         place.write(u"work/db.json"_s, QJsonDocument(entries).toJson());
         const QString project = place.path(u"work/p.prj"_s);
         place.write(u"work/p.prj"_s, "old");
-        const Result result =
+        const ProgramResult result =
             convert(place, {u"--compile-commands"_s, u"db.json"_s, u"--output"_s, project, u"--analyser"_s, u"ORVCPP"_s,
                             u"--options"_s, u"sub-projects"_s, u"--message-personality"_s, u"/m.p_s"_s,
                             u"--analyser-personality"_s, u"/t.p_a"_s, u"--compiler-personality"_s, u""_s, u""_s});
@@ -111,7 +96,7 @@ EndOfProjectFile
         place.write(u"work/list.txt"_s, "# sources\nsrc/a.c\r\n\n  src/b.cpp\nsrc/a.c\n");
         const QString project = place.path(u"work/p.prj"_s);
         const auto files = [&](const QStringList& arguments) {
-            const Result result =
+            const ProgramResult result =
                 convert(place, arguments + QStringList{u"--output"_s, project, u"--analyser"_s, u"ORVC"_s});
             const QString text = QString::fromUtf8(place.read(u"work/p.prj"_s));
             return result.status != 0
@@ -146,7 +131,8 @@ EndOfProjectFile
         row("nothing left", "[{\"file\": \"gone.c\"}]", u"no source file is left"_s);
         row("line break in a define", R"([{"file": "a.c", "arguments": ["cc", "-DA=1\nB"]}])", u"holds a line break"_s);
         row("a folder", R"([{"file": "."}])", u"no source file is left"_s);
-        row("placeholder in a name", "[{}]", u"db.json: entry 1 has"_s);
+        row("empty entry", "[{}]", u"db.json: entry 1 has"_s);
+        row("placeholder in a name", "[{\"file\": \"%2=/a.c\"}]", u"/%2=: the "_s);
         row("line break in a name", "[{\"file\": \"x\\ny.c\"}]", u"the name holds a line break"_s);
         QTest::newRow("unwritable") << QByteArray("[{\"file\": \"a.c\"}]") << u"db.json/p.prj"_s << 1
                                     << u"db.json/p.prj: can not be written"_s;
@@ -163,10 +149,11 @@ EndOfProjectFile
         const Installation place;
         place.write(u"work/a.c"_s, "");
         place.write(u"work/x\ny.c"_s, "");
+        place.write(u"work/%2=/a.c"_s, "");
         place.write(u"work/db.json"_s, database);
         place.write(u"work/p.prj"_s, "old");
-        const Result result = convert(place, {u"--compile-commands"_s, u"db.json"_s, u"--analyser"_s, u"ORVC"_s,
-                                              u"--defines"_s, u"X"_s, u"--output"_s, output});
+        const ProgramResult result = convert(place, {u"--compile-commands"_s, u"db.json"_s, u"--analyser"_s, u"ORVC"_s,
+                                                     u"--defines"_s, u"X"_s, u"--output"_s, output});
         QCOMPARE(result.status, status);
         QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
         QCOMPARE(place.read(u"work/p.prj"_s), QByteArray("old"));
@@ -179,8 +166,8 @@ EndOfProjectFile
         place.write(u"work/a.c"_s, "");
         place.write(u"work/list"_s, "a.c\n");
         place.write(u"work/p.options.p_a"_s, "mine\n");
-        const Result result = convert(place, {u"--file-list"_s, u"list"_s, u"--analyser"_s, u"ORVC"_s, u"--defines"_s,
-                                              u"X"_s, u"--output"_s, u"p.prj"_s});
+        const ProgramResult result = convert(place, {u"--file-list"_s, u"list"_s, u"--analyser"_s, u"ORVC"_s,
+                                                     u"--defines"_s, u"X"_s, u"--output"_s, u"p.prj"_s});
         QCOMPARE(result.status, 1);
         QVERIFY2(result.errors.contains("was not written by this program"_L1), qPrintable(result.errors));
         QCOMPARE(place.read(u"work/p.options.p_a"_s), QByteArray("mine\n"));
@@ -203,8 +190,8 @@ EndOfProjectFile
         place.write(u"work/db.json"_s, QJsonDocument(entries).toJson());
         QElapsedTimer timer;
         timer.start();
-        const Result result = convert(place, {u"--compile-commands"_s, u"db.json"_s, u"--output"_s, u"p.prj"_s,
-                                              u"--analyser"_s, u"ORVC"_s, u"--options"_s, u"sub-projects"_s});
+        const ProgramResult result = convert(place, {u"--compile-commands"_s, u"db.json"_s, u"--output"_s, u"p.prj"_s,
+                                                     u"--analyser"_s, u"ORVC"_s, u"--options"_s, u"sub-projects"_s});
         // Far above what it takes, also under a sanitizer: what this catches is work that grows with the square.
         QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY2(result.output.contains("4500 source files, 45 sub-projects, 90 include folders, 1 defines"_L1),

@@ -122,10 +122,11 @@ QString BatchConversion::chooseAnalyser(const QStringList& arguments)
         complain(tr("warning: there are no KOVRA Analysers installed on this machine"));
     }
     const bool servesOne = state.projectCreator->orvcProject != state.projectCreator->orvcppProject;
-    const bool isServed = !servesOne || state.projectCreator->orvcProject == (c > cpp);
-    if (c != cpp && ((c > cpp) != state.isORVC || !isServed)) {
+    const bool asksForC = c > cpp;
+    const bool isServed = !servesOne || state.projectCreator->orvcProject == asksForC;
+    if (c != cpp && (asksForC != state.isORVC || !isServed)) {
         return tr("%1: this conversion type or installation allows only the other analyser")
-            .arg(c > cpp ? u"-c"_s : u"-cpp"_s);
+            .arg(asksForC ? u"-c"_s : u"-cpp"_s);
     }
     return state.analyserFixed ? QString() : tr("the conversion type serves both analysers: choose with -c or -cpp");
 }
@@ -172,12 +173,9 @@ QString BatchConversion::checkPersonalities()
     const ProjectCreatorData& creator = *state.projectCreator;
     const bool isC = state.isORVC;
     const std::array kinds{
-        Kind{"-mp", creator.hasMessagePersonality, &state.messagePersonality,
-             isC ? creator.cMessagePersonality : creator.cppMessagePersonality},
-        Kind{"-ap", creator.hasAnalyserPersonality, &state.analyserPersonality,
-             isC ? creator.cAnalyserPersonality : creator.cppAnalyserPersonality},
-        Kind{"-cp", creator.hasCompilerPersonality, &state.compilerPersonality,
-             isC ? creator.cCompilerPersonality : creator.cppCompilerPersonality},
+        Kind{"-mp", creator.hasMessagePersonality, &state.messagePersonality, creator.MessagePersonality(isC)},
+        Kind{"-ap", creator.hasAnalyserPersonality, &state.analyserPersonality, creator.AnalyserPersonality(isC)},
+        Kind{"-cp", creator.hasCompilerPersonality, &state.compilerPersonality, creator.CompilerPersonality(isC)},
     };
     for (const Kind& kind : kinds) {
         if (kind.asked && kind.file->isEmpty()) {

@@ -3,7 +3,6 @@
 #include "app/Translations.h"
 
 #include <QApplication>
-#include <QMutex>
 #include <QString>
 #include <QTranslator>
 

@@ -9,19 +9,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
-#include <QRegularExpression>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QRegularExpression& whiteSpace()
-{
-    static const QRegularExpression expression(u"\\s+"_s, QRegularExpression::UseUnicodePropertiesOption);
-    return expression;
-}
 
 // A personality of a conversion type serves the analyser that its TYPE names.
 void readPersonality(QXmlStreamReader& xml, const TextExpander& expand, QString& c, QString& cpp, bool& asked)
@@ -112,7 +105,7 @@ void readCrossModuleAnalysis(QXmlStreamReader& xml, CrossModuleAnalysis& analysi
         if (name == "exe"_L1) {
             analysis.exe = QDir::cleanPath(expand(ToForwardSlashes(xml.readElementText())));
         } else if (name == "exeargs"_L1) {
-            analysis.exeArgs = xml.readElementText().split(whiteSpace());
+            analysis.exeArgs = splitAtWhiteSpace(xml.readElementText());
         }
     });
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/DefinitionsXml.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 
@@ -28,6 +30,12 @@ QStringView currentPlatformName()
 #else
     return u"LINUX";
 #endif
+}
+
+QStringList splitAtWhiteSpace(const QString& text)
+{
+    static const QRegularExpression whiteSpace(u"\\s+"_s, QRegularExpression::UseUnicodePropertiesOption);
+    return text.split(whiteSpace);
 }
 
 QXmlStreamReader::TokenType readToken(QXmlStreamReader& xml, QStringView platform)

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QXmlStreamReader>
 
 /// The name under which the definitions file knows the system this program was built for.
 QStringView currentPlatformName();
+
+/// The parts of a text between runs of white space; one at either end leaves an empty part there.
+QStringList splitAtWhiteSpace(const QString& text);
 
 /// Reads the next token; a section for another platform is skipped up to its first matching end element.
 QXmlStreamReader::TokenType readToken(QXmlStreamReader& xml, QStringView platform = currentPlatformName());

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
+#include "definitions/TextExpander.h"
 
-class QString;
 class QXmlStreamReader;
 struct ArgumentDefinition;
 struct ProjectCreatorData;
-
-/// Turns a text of the definitions file into the text it stands for.
-using TextExpander = std::function<QString(const QString&)>;
 
 /// Reads one inputData element, with the fields nested in it, into the parent field or else into the creator.
 /// Fields nested more than 100 deep end the reading of the file with an error.

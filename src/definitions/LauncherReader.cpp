@@ -4,7 +4,6 @@
 #include "process/RunAppData.h"
 
 #include <QDir>
-#include <QRegularExpression>
 
 #include <array>
 
@@ -65,7 +64,7 @@ bool readPlain(QXmlStreamReader& xml, RunAppData& launcher, QStringView name)
     return false;
 }
 
-void readExe(QXmlStreamReader& xml, RunAppData& launcher, const std::function<QString(const QString&)>& expand)
+void readExe(QXmlStreamReader& xml, RunAppData& launcher, const TextExpander& expand)
 {
     const QString analyser = xml.attributes().value("TYPE"_L1).toString();
     const QString program = expand(QDir::toNativeSeparators(xml.readElementText()));
@@ -90,7 +89,7 @@ void readDisplayOutput(QXmlStreamReader& xml, RunAppData& launcher)
 
 } // namespace
 
-void PageData::ReadApplication(QXmlStreamReader& xml, const std::function<QString(const QString&)>& expand)
+void PageData::ReadApplication(QXmlStreamReader& xml, const TextExpander& expand)
 {
     RunAppData& launcher = *applications.emplace_back(std::make_unique<RunAppData>(this));
     launcher.name = xml.attributes().value("name"_L1).toString().replace("\\n"_L1, "\n"_L1);
@@ -101,8 +100,7 @@ void PageData::ReadApplication(QXmlStreamReader& xml, const std::function<QStrin
         if (name == "exe"_L1) {
             readExe(xml, launcher, expand);
         } else if (name == "exeargs"_L1) {
-            static const QRegularExpression whiteSpace(u"\\s+"_s, QRegularExpression::UseUnicodePropertiesOption);
-            launcher.exeargs = xml.readElementText().split(whiteSpace);
+            launcher.exeargs = splitAtWhiteSpace(xml.readElementText());
         } else if (name == "runFromExeDir"_L1) {
             launcher.runFromExeDir |= xml.readElementText().toInt() != 0;
         } else if (name == "condition"_L1) {

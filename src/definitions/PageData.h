@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "definitions/TextExpander.h"
+
 #include <QMap>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -24,7 +25,7 @@ public:
     ~PageData() override;
 
     /// Reads one application element into a new launcher; expand turns its program into a path.
-    void ReadApplication(QXmlStreamReader& xml, const std::function<QString(const QString&)>& expand);
+    void ReadApplication(QXmlStreamReader& xml, const TextExpander& expand);
     /// Makes a button for every launcher, with its arrows.
     void BuildButtons(QGridLayout* grid);
     /// True while a launched program runs or an output window is open.

@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QDir>
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -203,12 +202,14 @@ void RunAppData::enableButton(bool enabled)
 void RunAppData::updateToolTip()
 {
     QString text = disabledReason.isEmpty() ? description : disabledReason;
-    const QStringList starters = page ? page->StartersOf(this) : QStringList();
     if (stopAction->isVisible()) {
         text = tr("Running. Its context menu stops it.");
-    } else if (disabledReason.isEmpty() && !button->isEnabled() && !starters.isEmpty()) {
-        const QString wait = tr("Available once this has succeeded: %1").arg(starters.join(u", "_s));
-        text = text.isEmpty() ? wait : text + u'\n' + wait;
+    } else if (page && disabledReason.isEmpty() && !button->isEnabled()) {
+        const QStringList starters = page->StartersOf(this);
+        if (!starters.isEmpty()) {
+            const QString wait = tr("Available once this has succeeded: %1").arg(starters.join(u", "_s));
+            text = text.isEmpty() ? wait : text + u'\n' + wait;
+        }
     }
     button->setToolTip(PlainText::toolTip(text));
 }

@@ -34,6 +34,9 @@ struct ProcessGroup::Handle
         }
     }
 
+    /// Forgets the groups that have ended.
+    void prune();
+
     void signalLeftovers(int number) const
     {
         for (const pid_t group : leftovers) {
@@ -41,6 +44,15 @@ struct ProcessGroup::Handle
         }
     }
 };
+
+// While a group lives, no new process gets its leader's number: where one has it, the group is another program's.
+void ProcessGroup::Handle::prune()
+{
+    if (!leftovers.empty()) {
+        StrayProcesses::reap();
+        std::erase_if(leftovers, [](pid_t group) { return ::kill(group, 0) == 0 || ::kill(-group, 0) != 0; });
+    }
+}
 
 ProcessGroup::ProcessGroup()
     : handle(std::make_unique<Handle>())
@@ -79,20 +91,15 @@ void ProcessGroup::release(bool killNow)
     if (killNow) {
         kill();
     } else if (handle->leader > 0 && ::kill(-handle->leader, 0) == 0) {
-        hasLeftovers();
+        handle->prune();
         handle->leftovers.push_back(handle->leader);
     }
     handle->leader = 0;
 }
 
-// While a group lives, no new process gets its leader's number: where one has it, the group is another program's.
 bool ProcessGroup::hasLeftovers()
 {
-    if (handle->leftovers.empty()) {
-        return false;
-    }
-    StrayProcesses::reap();
-    std::erase_if(handle->leftovers, [](pid_t group) { return ::kill(group, 0) == 0 || ::kill(-group, 0) != 0; });
+    handle->prune();
     return !handle->leftovers.empty();
 }
 

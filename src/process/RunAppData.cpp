@@ -128,7 +128,7 @@ void RunAppData::Activate()
     if (CurrentExe().isEmpty()) {
         return;
     }
-    if (process.state() != QProcess::NotRunning) {
+    if (isRunning()) {
         MessageBox::warn(MainWindow::current(), title(), tr("This application is already running"));
         return;
     }

@@ -8,8 +8,6 @@
 #include <QFile>
 #include <QTextStream>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace {

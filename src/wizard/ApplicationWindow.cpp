@@ -72,11 +72,12 @@ QString ApplicationWindow::AnalyserName(bool isC)
 
 namespace {
 
-const QString& withDefault(QString& field, const ApplicationWindow& window, QString ProjectCreatorData::*c,
-                           QString ProjectCreatorData::*cpp)
+using Preset = const QString& (ProjectCreatorData::*)(bool isC) const;
+
+const QString& withDefault(QString& field, const ApplicationWindow& window, Preset preset)
 {
     if (window.projectCreator && (field.isEmpty() || FileScans::isForOtherAnalyser(field, window.isORVC))) {
-        field = window.projectCreator->*(window.isORVC ? c : cpp);
+        field = (window.projectCreator->*preset)(window.isORVC);
     }
     return field;
 }
@@ -85,20 +86,17 @@ const QString& withDefault(QString& field, const ApplicationWindow& window, QStr
 
 const QString& ApplicationWindow::GetCompilerPersonality()
 {
-    return withDefault(compilerPersonality, *this, &ProjectCreatorData::cCompilerPersonality,
-                       &ProjectCreatorData::cppCompilerPersonality);
+    return withDefault(compilerPersonality, *this, &ProjectCreatorData::CompilerPersonality);
 }
 
 const QString& ApplicationWindow::GetAnalyserPersonality()
 {
-    return withDefault(analyserPersonality, *this, &ProjectCreatorData::cAnalyserPersonality,
-                       &ProjectCreatorData::cppAnalyserPersonality);
+    return withDefault(analyserPersonality, *this, &ProjectCreatorData::AnalyserPersonality);
 }
 
 const QString& ApplicationWindow::GetMessagePersonality()
 {
-    return withDefault(messagePersonality, *this, &ProjectCreatorData::cMessagePersonality,
-                       &ProjectCreatorData::cppMessagePersonality);
+    return withDefault(messagePersonality, *this, &ProjectCreatorData::MessagePersonality);
 }
 
 int ApplicationWindow::NextPage(int pageId) const

@@ -37,9 +37,9 @@ void WizardState::SetAnalyser(bool isC)
         forgetPresets(projectCreator->inputData, isORVC);
         const ProjectCreatorData& creator = *projectCreator;
         const std::tuple<QString&, const QString&> files[] = {
-            {compilerPersonality, isORVC ? creator.cCompilerPersonality : creator.cppCompilerPersonality},
-            {analyserPersonality, isORVC ? creator.cAnalyserPersonality : creator.cppAnalyserPersonality},
-            {messagePersonality, isORVC ? creator.cMessagePersonality : creator.cppMessagePersonality},
+            {compilerPersonality, creator.CompilerPersonality(isORVC)},
+            {analyserPersonality, creator.AnalyserPersonality(isORVC)},
+            {messagePersonality, creator.MessagePersonality(isORVC)},
         };
         for (const auto& [file, preset] : files) {
             if (file == preset) {

@@ -112,7 +112,8 @@ void BoxAnswers::answer()
     }
 }
 
-ProgramResult runProgram(const QString& name, const QStringList& arguments, const Variables& variables)
+ProgramResult runProgram(const QString& name, const QStringList& arguments, const Variables& variables,
+                         const QString& folder)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const auto& variable :
@@ -125,6 +126,7 @@ ProgramResult runProgram(const QString& name, const QStringList& arguments, cons
     }
     QProcess program;
     program.setProcessEnvironment(environment);
+    program.setWorkingDirectory(folder);
     program.start(name, arguments);
     const bool ended = program.waitForFinished() && program.exitStatus() == QProcess::NormalExit;
     return {ended ? program.exitCode() : -1, QString::fromUtf8(program.readAllStandardOutput()),

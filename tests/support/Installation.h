@@ -67,6 +67,7 @@ struct ProgramResult
     QString errors;
 };
 
-/// Runs a program to its end, without a display, a home and a locale but with these variables.
+/// Runs a program to its end, without a display, a home and a locale but with these variables, in this folder if any.
 ProgramResult runProgram(const QString& name, const QStringList& arguments,
-                         const Variables& variables = {{QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8")}});
+                         const Variables& variables = {{QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8")}},
+                         const QString& folder = {});
