@@ -28,6 +28,6 @@ project file for the static analysers Orv C and Orv C++: in a wizard, or
 without a window in scripts.
 .
 It comes with a converter for compilation databases, source folders and lists
-of files, and with demonstration analysers on top of cppcheck, which are used
+of files, and with open analysers on top of cppcheck, which are used
 where no others are installed.")
 include(CPack)

@@ -20,15 +20,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The demonstration suite, installed by its own script.
-class Demonstration : public Installation
+/// The open suite, installed by its own script.
+class InstalledSuite : public Installation
 {
 public:
-    Demonstration()
+    InstalledSuite()
     {
         const QStringList arguments{path(u"."_s), u"--build-dir"_s, QStringLiteral(BUILD_FOLDER)};
-        if (runProgram(QStringLiteral(INSTALL_DEMO), arguments).status != 0) {
-            qFatal("the demonstration suite can not be installed");
+        if (runProgram(QStringLiteral(INSTALL_SUITE), arguments).status != 0) {
+            qFatal("the suite can not be installed");
         }
     }
 
@@ -43,7 +43,7 @@ constexpr auto databaseType = "CMake compile_commands.json"_L1;
 
 } // namespace
 
-class DemonstrationTest : public QObject
+class SuiteTest : public QObject
 {
     Q_OBJECT
 
@@ -52,7 +52,7 @@ private Q_SLOTS:
 
     void fromABuildToAReport()
     {
-        Demonstration suite;
+        InstalledSuite suite;
         suite.write(u"work/code/größe a.cpp"_s, "int f()\n{\n    int values[2];\n    return values[INDEX];\n}\n");
         suite.write(u"work/code/lib/b.cpp"_s, "int g() { return 0; }\n");
         const QString database =
@@ -118,7 +118,7 @@ private Q_SLOTS:
         if (!hasAnalyser) {
             QSKIP("needs cppcheck");
         }
-        const Demonstration suite;
+        const InstalledSuite suite;
         const QByteArray source = suite.write(u"work/a%2.cpp"_s, "int f() { int v[2]; return v[7]; }\n").toUtf8();
         const QByteArray out = suite.path(u"work/out"_s).toUtf8();
         const QStringList list{u"-list"_s,
@@ -140,7 +140,7 @@ private Q_SLOTS:
 
     void convertsWithoutAWindow()
     {
-        const Demonstration suite;
+        const InstalledSuite suite;
         const QString project = suite.path(u"work/batch/p.prj"_s);
         const QString wanted = u"-cpp -prj \"%1\" -type \"%2\" -input \"Compilation database=%3\" "_s.arg(
             project, databaseType, QStringLiteral(BUILD_FOLDER "/compile_commands.json"));
@@ -173,7 +173,7 @@ private Q_SLOTS:
 
     void answersWithoutAWindow()
     {
-        const Demonstration suite;
+        const InstalledSuite suite;
         const QString target = u"-prj new.prj "_s;
         const QString list = u"-type \"List of files\" -c "_s;
         const QString given = list + u"-input \"File list=/etc/passwd\" "_s;
@@ -210,7 +210,7 @@ private Q_SLOTS:
 
     void samplesTellTheAnalysersApart()
     {
-        Demonstration suite;
+        InstalledSuite suite;
         suite.start();
         for (const auto& name :
              {u"orvc/personalities/gcc.p_c"_s, u"orvc/personalities/project.p_a"_s,
@@ -222,7 +222,7 @@ private Q_SLOTS:
                      qPrintable(file));
         }
         const QString home = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(QStringLiteral(SOURCE_FOLDER "/examples/projects")));
+        QVERIFY(QDir::setCurrent(QStringLiteral(SOURCE_FOLDER "/tests/suite/projects")));
         const Project versioned(u"versioned.prj"_s);
         const Project unversioned(u"unversioned.prj"_s);
         QVERIFY(QDir::setCurrent(home));
@@ -234,7 +234,7 @@ private Q_SLOTS:
 
     void stopsOnASignal()
     {
-        const Demonstration suite;
+        const InstalledSuite suite;
         suite.define(
             "<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
             suite.writeScript(u"slow"_s, "sleep 1000 & echo $! > \"$0.pid\"; echo half > \"$1\"; wait").toUtf8() +
@@ -259,5 +259,5 @@ private:
     bool hasAnalyser = false;
 };
 
-KOVRA_TEST(DemonstrationTest)
-#include "DemonstrationTest.moc"
+KOVRA_TEST(SuiteTest)
+#include "SuiteTest.moc"
