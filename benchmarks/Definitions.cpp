@@ -31,7 +31,7 @@ int main()
     std::vector<std::unique_ptr<KOVRASettingsFile>> kept;
     const auto ours = [&] {
         KOVRASettingsFile& settings = *kept.emplace_back(std::make_unique<KOVRASettingsFile>());
-        settings.readDocument(document, places);
+        settings.readDocument(document, {.places = places});
         found = settings.projectCreators.size();
     };
     qint64 tokens = 0;

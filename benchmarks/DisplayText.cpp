@@ -21,7 +21,7 @@ int main(int argc, char** argv)
     AppRegistry registry;
     appRegistry = &registry;
     const QString text = u"one line of a long report about a large code base\n"_s.repeated(1'000'000);
-    DisplayDialog dialog(u"Report"_s, DisplayDialog::Text, 600, 600);
+    DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Text, 600, 600);
     dialog.show();
     QApplication::processEvents();
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Find over 200,000 files in the dialog, against `find DIR -name PATTERN`.
-#include "app/AppRegistry.h"
 #include "dialogs/FindDialog.h"
 #include "Ratio.h"
 #include "Sandbox.h"
@@ -18,8 +17,6 @@ int main(int argc, char** argv)
 {
     const Sandbox sandbox;
     const QApplication application(argc, argv);
-    AppRegistry registry;
-    appRegistry = &registry;
     const QString tree = sandbox.path(u"tree"_s);
     for (int i = 0; i < 200'000; ++i) {
         const QString folder = tree + u"/part%1/module%2"_s.arg(i % 20).arg(i % 1000);
@@ -31,7 +28,7 @@ int main(int argc, char** argv)
             return 1;
         }
     }
-    FindDialog dialog;
+    FindDialog dialog{QString()};
     dialog.Setup(u"Find"_s, u"*.c"_s);
     dialog.findChild<QLineEdit*>()->setText(tree);
     dialog.show();

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Option and list file of a project of 100,000 files, against the same stats and one write of the list.
-#include "app/AppRegistry.h"
+#include "app/TemporaryFiles.h"
 #include "LargeProject.h"
+#include "project/OptionSources.h"
 #include "project/Project.h"
 #include "Ratio.h"
 #include "Sandbox.h"
@@ -16,8 +17,8 @@ int main(int argc, char** argv)
 {
     const Sandbox sandbox;
     const QCoreApplication application(argc, argv);
-    AppRegistry registry;
-    appRegistry = &registry;
+    TemporaryFiles files;
+    const OptionSources sources{[&](const QString& suffix) { return files.create(suffix); }, {}};
     LargeProject large;
     if (!large.create(sandbox.path(u"project"_s))) {
         return 1;
@@ -25,8 +26,8 @@ int main(int argc, char** argv)
     Project project(large.projectFile);
     QByteArray list;
     const auto ours = [&] {
-        const QStringList arguments = project.expandLauncherArguments({u"%L"_s}, u"ORVC"_s, {});
-        QFile file(arguments.first());
+        const auto arguments = project.expandLauncherArguments({u"%L"_s}, u"ORVC"_s, {}, sources);
+        QFile file(arguments.value.first());
         list = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
     ours();

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Loading a project of 100,000 files with its status, against one stat of each source and its two output files.
-#include "app/AppRegistry.h"
 #include "LargeProject.h"
 #include "project/Project.h"
 #include "Ratio.h"
@@ -16,8 +15,6 @@ int main(int argc, char** argv)
 {
     const Sandbox sandbox;
     const QCoreApplication application(argc, argv);
-    AppRegistry registry;
-    appRegistry = &registry;
     LargeProject large;
     if (!large.create(sandbox.path(u"project"_s))) {
         return 1;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // From nothing to the first painted page, against a bare QWizard with six empty pages.
 #include "app/AppRegistry.h"
+#include "launchers/PageReader.h"
 #include "Ratio.h"
 #include "Sandbox.h"
 #include "wizard/ApplicationWindow.h"
@@ -42,6 +43,7 @@ int startWizard(int argc, char** argv)
     QApplication application(argc, argv);
     AppRegistry registry;
     appRegistry = &registry;
+    registry.readPage = readLauncherPage;
     registry.Init(&application, {u"ProjectCreation"_s, u"-file"_s, QString::fromLocal8Bit(argv[2])}, u"t"_s, 650, 430,
                   {});
     ApplicationWindow window(u"t"_s, u"projectCreation.htm"_s, {u"ProjectCreation"_s});

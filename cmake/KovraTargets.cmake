@@ -2,7 +2,6 @@
 # What every target of the project shares: warnings, sanitizers, Qt's stricter defaults.
 
 add_library(kovra_options INTERFACE)
-target_include_directories(kovra_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
 target_compile_definitions(kovra_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
     QT_NO_FOREACH QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
@@ -17,11 +16,26 @@ if(NOT MSVC)
     endif()
 endif()
 
-# One object library per source folder: kovra_folder(<folder> <sources...>)
+# One library per folder of src/, which links and finds the headers of what it needs and of nothing else:
+# kovra_folder(<folder> [NEEDS <lower folder>...] [QT <module besides Core>...] SOURCES <file>...)
 function(kovra_folder name)
-    add_library(kovra_${name} OBJECT ${ARGN})
-    target_link_libraries(kovra_${name} PUBLIC kovra_options
-        Qt6::Core Qt6::Gui Qt6::Widgets Qt6::PrintSupport Qt6::Help)
+    cmake_parse_arguments(PARSE_ARGV 1 folder "" "" "NEEDS;QT;SOURCES")
+    add_library(kovra_${name} STATIC ${folder_SOURCES})
+    # An include names its folder. Each folder is found through a root of its own, so that a wrong include finds nothing.
+    set(root "${CMAKE_BINARY_DIR}/include/${name}")
+    file(MAKE_DIRECTORY "${root}")
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${root}/${name}" SYMBOLIC)
+    target_include_directories(kovra_${name} PUBLIC "${root}")
+    target_link_libraries(kovra_${name} PUBLIC kovra_options Qt6::Core)
+    foreach(module IN LISTS folder_QT)
+        target_link_libraries(kovra_${name} PUBLIC Qt6::${module})
+    endforeach()
+    foreach(lower IN LISTS folder_NEEDS)
+        if(NOT TARGET kovra_${lower})
+            message(FATAL_ERROR "src/${name} needs src/${lower}, which does not stand below it in src/CMakeLists.txt")
+        endif()
+        target_link_libraries(kovra_${name} PUBLIC kovra_${lower})
+    endforeach()
 endfunction()
 
 # One test program per source folder: kovra_test(<name> <sources...>)

@@ -1,24 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
 #include "app/Installations.h"
+#include "app/ProcessEnvironment.h"
 #include "app/SettingsStore.h"
+#include "app/Translations.h"
 #include "personality/OptionTables.h"
-#include "process/ChildProcess.h"
-#include "process/ProcessEnvironment.h"
-#include "process/StrayProcesses.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDialog>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QScopedValueRollback>
-#include <QTemporaryFile>
-#include <QTextStream>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +18,6 @@ AppRegistry* appRegistry = nullptr;
 namespace {
 
 constexpr int shutDownWaitMs = 30000;
-constexpr int strayGraceMs = 500;
 
 // A bare name was found through PATH, so it says nothing about the folder.
 QString executablePath(const QString& argument)
@@ -49,8 +39,6 @@ AppRegistry::AppRegistry(QObject* parent)
 
 AppRegistry::~AppRegistry()
 {
-    removeTempFiles();
-    traceStream.reset();
     if (appRegistry == this) {
         appRegistry = nullptr;
     }
@@ -74,10 +62,10 @@ bool AppRegistry::Init(QCoreApplication* app, const QStringList& arguments, cons
                 Trace(u"XML file set to: "_s, definitionsFileName);
             }
         } else if (argument == "-trace"_L1) {
-            traceOn = true;
+            traceLog.turnOn();
         } else if (argument == "-tracefile"_L1) {
             if (hasNext) {
-                openTraceFile(arguments[i + 1]);
+                traceLog.openFile(arguments[i + 1]);
             }
         } else if (argument == "-help"_L1) {
             if (usage.isEmpty()) {
@@ -94,10 +82,7 @@ bool AppRegistry::Init(QCoreApplication* app, const QStringList& arguments, cons
 
 void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int width, int height)
 {
-    auto* translator = new QTranslator(app);
-    if (translator->load(u"qt_"_s + QLocale::system().name(), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(translator);
-    }
+    Translations::installQtTexts(*app);
     installValues.ReadFile(wendleToolsFileName);
     if (!arguments.isEmpty()) {
         exePath = executablePath(arguments.first());
@@ -107,7 +92,7 @@ void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int 
     const Installations::Folders folders = Installations::FindInstallations();
     cInstallDir = folders.c;
     cppInstallDir = folders.cpp;
-    definitions.ReadFile(definitionsFileName);
+    definitions.ReadFile(definitionsFileName, definitionsContext());
     cOnlyOptions = OptionTables::cOnlyOptions();
     cppOnlyOptions = OptionTables::cppOnlyOptions();
     SetProcessEnvironment(nullptr, true);
@@ -155,57 +140,14 @@ bool AppRegistry::WriteRegistry()
     return kept;
 }
 
-void AppRegistry::Trace(const QString& label, const QString& value) const
-{
-    if (!traceOn) {
-        return;
-    }
-    if (traceStream) {
-        *traceStream << label << value << '\n';
-    } else {
-        qDebug() << label << value;
-    }
-}
-
-QString AppRegistry::CreateTempFileName(const QString& suffix)
-{
-    QString fileTemplate = QDir::tempPath() + "/KOVRA-XXXXXX"_L1;
-    if (!suffix.isEmpty()) {
-        fileTemplate += suffix.startsWith(u'.') ? suffix : u'.' + suffix;
-    }
-    // Kept by name: an object for each would hold a file descriptor until the end.
-    QTemporaryFile file(fileTemplate);
-    file.setAutoRemove(false);
-    if (!file.open()) {
-        return {};
-    }
-    tempFiles += file.fileName();
-    return file.fileName();
-}
-
 void AppRegistry::ShutDown()
 {
-    {
-        const QScopedValueRollback guard(closingDown, true);
-        const QList<ChildProcess*> children = childProcesses;
-        for (ChildProcess* child : children) {
-            child->stop(shutDownWaitMs);
-        }
-        StrayProcesses::stop(strayGraceMs);
-    }
-    removeTempFiles();
+    childProcesses.stopAll(shutDownWaitMs);
+    tempFiles.removeAll();
     const QList<QDialog*> dialogs = openDialogs;
     for (QDialog* dialog : dialogs) {
         dialog->done(QDialog::Rejected);
     }
-}
-
-void AppRegistry::removeTempFiles()
-{
-    for (const QString& name : std::as_const(tempFiles)) {
-        QFile::remove(name);
-    }
-    tempFiles.clear();
 }
 
 QString AppRegistry::DefinitionsFileName() const
@@ -213,19 +155,25 @@ QString AppRegistry::DefinitionsFileName() const
     return definitions.file.fileName();
 }
 
-Places AppRegistry::places() const
+KOVRASettingsFile::Context AppRegistry::definitionsContext()
 {
-    return {values.installPath, cInstallDir, cppInstallDir};
+    return {.places = {values.installPath, cInstallDir, cppInstallDir},
+            .xmlArea = values.xmlArea,
+            .readPage = readPage,
+            .trace = [this](const QString& label, const QString& value) { Trace(label, value); }};
 }
 
-void AppRegistry::openTraceFile(const QString& name)
+ProjectFacts AppRegistry::projectFacts() const
 {
-    auto file = std::make_unique<QFile>(name);
-    if (!file->open(QIODevice::WriteOnly | QIODevice::Text)) {
-        return;
-    }
-    traceStream.reset();
-    traceFile = std::move(file);
-    traceStream = std::make_unique<QTextStream>(traceFile.get());
-    traceOn = true;
+    return {cInstallDir, cppInstallDir, values.cCurrentCEValue, values.cppCurrentCEValue};
+}
+
+OptionSources AppRegistry::optionSources()
+{
+    return {[this](const QString& suffix) { return CreateTempFileName(suffix); }, definitions.standardFiles()};
+}
+
+QStringList AppRegistry::executableFolders() const
+{
+    return {values.binArea, cInstallDir + u"/bin"_s, cppInstallDir + u"/bin"_s};
 }

@@ -3,8 +3,12 @@
 
 #include "app/PersistedValues.h"
 #include "app/StringValues.h"
+#include "app/TemporaryFiles.h"
+#include "app/TraceLog.h"
 #include "definitions/KOVRASettingsFile.h"
-#include "definitions/Placeholders.h"
+#include "process/ChildList.h"
+#include "project/OptionSources.h"
+#include "project/ProjectFacts.h"
 
 #include <QList>
 #include <QObject>
@@ -16,11 +20,8 @@
 
 #include <memory>
 
-class ChildProcess;
 class QCoreApplication;
 class QDialog;
-class QFile;
-class QTextStream;
 
 /// The state of one run and the services that every part shares: command line, trace, temporary files, settings
 /// stores, definitions, shutdown. Created once, reached through appRegistry; only source files include this header.
@@ -44,14 +45,18 @@ public:
     /// Stores the geometry and whatever the listeners add. Tells whether a store took it.
     bool WriteRegistry();
     /// Writes label and value to the trace file, or to the debug channel, when tracing is on.
-    void Trace(const QString& label, const QString& value = {}) const;
+    void Trace(const QString& label, const QString& value = {}) { traceLog.write(label, value); }
     /// A new empty file in the temporary folder, removed at shutdown; an empty text when none can be made.
-    QString CreateTempFileName(const QString& suffix);
+    QString CreateTempFileName(const QString& suffix) { return tempFiles.create(suffix); }
     /// Stops children, removes temporary files, closes dialogs.
     void ShutDown();
     QString DefinitionsFileName() const;
-    /// The folders that placeholders stand for.
-    Places places() const;
+    /// What the lower floors need to know of this run: how definitions are read, how a project is judged and told to a
+    /// tool, and where programs are looked for besides PATH.
+    KOVRASettingsFile::Context definitionsContext();
+    ProjectFacts projectFacts() const;
+    OptionSources optionSources();
+    QStringList executableFolders() const;
 
     QPoint windowPos;
     QSize windowSize;
@@ -60,9 +65,10 @@ public:
     PersistedValues values;
     StringValues installValues;
     KOVRASettingsFile definitions;
-    /// Names of the temporary files, removed at shutdown.
-    QStringList tempFiles;
-    QList<ChildProcess*> childProcesses;
+    /// Reads the launcher pages of the definitions; to be set before they are loaded.
+    PageReader readPage;
+    TemporaryFiles tempFiles;
+    ChildList childProcesses;
     QList<QDialog*> openDialogs;
     QString exePath;
     QString cInstallDir;
@@ -70,22 +76,13 @@ public:
     QStringList cOnlyOptions;
     QStringList cppOnlyOptions;
     const QSettings::Scope settingsScope = QSettings::SystemScope;
-    bool traceOn = false;
-    /// Set while ShutDown stops the children: what ends then was ended by us.
-    bool closingDown = false;
-    std::unique_ptr<QTextStream> traceStream;
+    TraceLog traceLog;
     QString wendleToolsFileName = QStringLiteral("wendleTools.xml");
     QString definitionsFileName = QStringLiteral("settings.xml");
 
 Q_SIGNALS:
     void ReadRegistryValues(QSettings* settings);
     void WriteRegistryValues(QSettings* settings);
-
-private:
-    void openTraceFile(const QString& name);
-    void removeTempFiles();
-
-    std::unique_ptr<QFile> traceFile;
 };
 
 /// The one registry of the run.

@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommandLine.h"
-#include "wizard/WizardState.h"
+#include "definitions/ConfigurationKind.h"
+#include "process/WizardState.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <tuple>
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -16,13 +22,8 @@ bool CommandLine::endsProgram(const QStringList& arguments)
 
 void CommandLine::preset(const QStringList& arguments, WizardState& state)
 {
-    bool compilerGiven = false;
-    bool analyserGiven = false;
-    bool messageGiven = false;
-    const auto takeFile = [](const QString& file, QString& field, bool& given) {
-        field = file;
-        given |= QFile::exists(file);
-    };
+    const auto& kinds = configurationKinds();
+    std::array<bool, std::tuple_size_v<std::remove_cvref_t<decltype(kinds)>>> given = {};
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString& option = arguments[i];
         if (option == "-c"_L1 || option == "-cpp"_L1) {
@@ -33,17 +34,17 @@ void CommandLine::preset(const QStringList& arguments, WizardState& state)
             break;
         }
         const QString& value = arguments[i + 1];
-        if (option == "-cp"_L1) {
-            takeFile(value, state.compilerPersonality, compilerGiven);
-        } else if (option == "-ap"_L1) {
-            takeFile(value, state.analyserPersonality, analyserGiven);
-        } else if (option == "-mp"_L1) {
-            takeFile(value, state.messagePersonality, messageGiven);
-        } else if (option == "-prj"_L1) {
+        for (std::size_t kind = 0; kind < kinds.size(); ++kind) {
+            if (option == kinds[kind].option) {
+                state.configuration(kinds[kind].kind) = value;
+                given[kind] = given[kind] || QFile::exists(value);
+            }
+        }
+        if (option == "-prj"_L1) {
             const QFileInfo file(value);
             state.fileDir = QDir::toNativeSeparators(file.absolutePath());
             state.fileName = file.baseName();
         }
     }
-    state.personalitiesGiven = compilerGiven && analyserGiven && messageGiven;
+    state.personalitiesGiven = std::ranges::all_of(given, [](bool isGiven) { return isGiven; });
 }

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QProcess>
 #include <QString>
-#include <QStringList>
 
 /// Finds the analysers that are installed, by the installers' records and the environment.
 namespace Installations {
@@ -22,8 +20,3 @@ Folders FindInstallations();
 QString FindInstallation(const QString& product, const QString& variable);
 
 } // namespace Installations
-
-/// The value of an environment variable, up to its first "="; a leading "$" of the name is dropped and letter case
-/// does not matter. With orCurrentFolder a value that names nothing on disk becomes the current folder.
-QString EnvironmentValue(const QString& name, bool orCurrentFolder,
-                         const QStringList& environment = QProcess::systemEnvironment());

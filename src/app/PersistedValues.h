@@ -7,7 +7,7 @@
 #include <QStringList>
 
 /// The user values that all tools of the suite share. Read once at start; Write() is for the wizards that keep them.
-/// The keys and defaults stand in PersistedStore.cpp.
+/// The keys and defaults stand in PersistedValues.cpp.
 class PersistedValues
 {
 public:

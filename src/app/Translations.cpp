@@ -24,9 +24,16 @@ QString messagesLocale()
     return {};
 }
 
-void keep(std::unique_ptr<QTranslator> translator)
+// The language of the program's own texts; empty for English.
+QString& installedLanguage()
 {
-    translator->setParent(QCoreApplication::instance());
+    static QString language;
+    return language;
+}
+
+void keep(std::unique_ptr<QTranslator> translator, QCoreApplication& application)
+{
+    translator->setParent(&application);
     QCoreApplication::installTranslator(translator.release());
 }
 
@@ -57,13 +64,17 @@ QString Translations::load(QTranslator& translator, const QLocale& locale)
 void Translations::install(const QLocale& locale)
 {
     auto own = std::make_unique<QTranslator>();
-    const QString language = load(*own, locale);
-    if (language.isEmpty()) {
-        return;
+    installedLanguage() = load(*own, locale);
+    if (!installedLanguage().isEmpty()) {
+        keep(std::move(own), *QCoreApplication::instance());
     }
+}
+
+void Translations::installQtTexts(QCoreApplication& application)
+{
     auto qt = std::make_unique<QTranslator>();
-    if (qt->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        keep(std::move(qt));
+    if (!installedLanguage().isEmpty() &&
+        qt->load(u"qt_"_s + installedLanguage(), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        keep(std::move(qt), application);
     }
-    keep(std::move(own));
 }

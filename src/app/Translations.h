@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QString>
 
+class QCoreApplication;
 class QTranslator;
 
 /// The texts in the user's language. The source texts are English; a catalogue each for the others is embedded.
@@ -16,7 +17,11 @@ QLocale userLocale();
 /// Loads the first catalogue that a language of this locale has; gives the language's name, empty for English.
 QString load(QTranslator& translator, const QLocale& locale);
 
-/// Gives the application that catalogue, and Qt's own texts in the same language where Qt's catalogues are installed.
+/// Gives the application that catalogue.
 void install(const QLocale& locale);
+
+/// Gives the application Qt's own texts in the same language, where Qt's catalogues are installed: whoever gets the
+/// program in English shall not find other words on its buttons.
+void installQtTexts(QCoreApplication& application);
 
 } // namespace Translations

@@ -81,10 +81,6 @@ struct ProjectCreatorData
     bool hasAnalyserPersonality = false;
     bool hasCompilerPersonality = false;
 
-    const QString& CompilerPersonality(bool isC) const { return isC ? cCompilerPersonality : cppCompilerPersonality; }
-    const QString& AnalyserPersonality(bool isC) const { return isC ? cAnalyserPersonality : cppAnalyserPersonality; }
-    const QString& MessagePersonality(bool isC) const { return isC ? cMessagePersonality : cppMessagePersonality; }
-
     /// The controls of inputData; the page owns them.
     QGroupBox* panel = nullptr;
 };

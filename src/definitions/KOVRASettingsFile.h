@@ -2,15 +2,22 @@
 #pragma once
 
 #include "definitions/DefinitionRecords.h"
-#include "definitions/PageData.h"
+#include "definitions/Placeholders.h"
+#include "definitions/TextExpander.h"
+#include "definitions/TraceFunction.h"
 
 #include <QFile>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
-struct Places;
+class PageData;
+class QXmlStreamReader;
+
+/// Reads a page of launcher buttons, at whose start element the reader stands, up to its end element.
+using PageReader = std::function<std::shared_ptr<PageData>(QXmlStreamReader& xml, const TextExpander& expand)>;
 
 /// The definitions file: all that varies between installations. Records keep the document's order and live as long as
 /// this object.
@@ -25,16 +32,29 @@ public:
         QString reason;
     };
 
+    /// What reading needs to know of the program.
+    struct Context
+    {
+        Places places = {};
+        /// The folder of the suite's definitions, where a file is looked for that is not where its name says.
+        QString xmlArea = {};
+        /// Without one, pages of launcher buttons are passed over.
+        PageReader readPage = {};
+        TraceFunction trace = {};
+    };
+
     /// Locates and reads the file. What cannot be read leaves the lists as far as they were filled; lastError tells.
-    void ReadFile(const QString& name);
+    void ReadFile(const QString& name, const Context& context);
     /// Adds the records of a document, placeholders expanded. Reading ends silently at the first XML error.
-    void readDocument(const QByteArray& document, const Places& places);
+    void readDocument(const QByteArray& document, const Context& context);
 
     /// True when there is a conversion type that can be chosen: a file that was cut short may hold one without a name.
     bool hasConversionTypes() const;
+    /// The option files of the coding standards that are in force, each standard's in the order of its fields.
+    QStringList standardFiles() const;
 
-    std::vector<std::unique_ptr<PageData>> reportsPages;
-    std::vector<std::unique_ptr<PageData>> applicationPages;
+    std::vector<std::shared_ptr<PageData>> reportsPages;
+    std::vector<std::shared_ptr<PageData>> applicationPages;
     std::vector<std::unique_ptr<CodingStandard>> codingStandards;
     std::vector<std::unique_ptr<CrossModuleAnalysis>> crossModuleAnalyses;
     std::vector<std::unique_ptr<ProjectCreatorData>> projectCreators;

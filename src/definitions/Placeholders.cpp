@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/Placeholders.h"
-#include "app/Installations.h"
+#include "definitions/EnvironmentValue.h"
 
 #include <QDir>
 #include <QSettings>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 

@@ -55,15 +55,17 @@ QString withShortLines(QStringView text)
 
 } // namespace
 
-DisplayDialog::DisplayDialog(const QString& title, int displayMode, int width, int height, QWidget* parent)
+DisplayDialog::DisplayDialog(AppRegistry& listing, const QString& title, int displayMode, int width, int height,
+                             QWidget* parent)
     : QDialog(parent)
+    , registry(&listing)
     , mode(displayMode)
 {
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
     // It must not keep the program running once the wizard is gone.
     setAttribute(Qt::WA_QuitOnClose, false);
-    appRegistry->openDialogs += this;
+    registry->openDialogs += this;
     setWindowTitle(title);
     setMinimumSize(width, height);
     auto* grid = new QGridLayout(this);
@@ -144,7 +146,7 @@ void DisplayDialog::SetText(const QString& text)
     }
 }
 
-bool DisplayDialog::showFile(const QString& title, const QString& fileName)
+bool DisplayDialog::showFile(AppRegistry& registry, const QString& title, const QString& fileName)
 {
     QFile file(fileName);
     if (!QFileInfo(fileName).isFile() ||
@@ -157,7 +159,7 @@ bool DisplayDialog::showFile(const QString& title, const QString& fileName)
         text += u'\n' + tr("[The file is larger; only its beginning is shown]");
     }
     file.close();
-    DisplayDialog dialog(title, Text, fileWindowSize, fileWindowSize);
+    DisplayDialog dialog(registry, title, Text, fileWindowSize, fileWindowSize);
     dialog.SetText(text);
     dialog.exec();
     return true;
@@ -181,7 +183,7 @@ void DisplayDialog::appendPortion()
 // Through a file, so that relative links resolve and Back and Forward work. The byte order mark declares the encoding.
 bool DisplayDialog::LoadHtml(const QString& text)
 {
-    QFile file(appRegistry->CreateTempFileName({}));
+    QFile file(registry ? registry->CreateTempFileName({}) : QString());
     if (file.fileName().isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         return false;
     }
@@ -237,7 +239,7 @@ void DisplayDialog::keyPressEvent(QKeyEvent* event)
 
 void DisplayDialog::unlist()
 {
-    if (appRegistry) {
-        appRegistry->openDialogs.removeAll(this);
+    if (registry) {
+        registry->openDialogs.removeAll(this);
     }
 }

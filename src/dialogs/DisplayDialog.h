@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
 #include <QTimer>
 
+class AppRegistry;
 class QGridLayout;
 class QLabel;
 class QPlainTextEdit;
@@ -20,14 +22,15 @@ public:
     /// The ways of showing a text, with the numbers that launchers use.
     enum Mode { Text = 1, Html = 2, Message = 3 };
 
-    DisplayDialog(const QString& title, int mode, int width, int height, QWidget* parent = nullptr);
+    DisplayDialog(AppRegistry& registry, const QString& title, int mode, int width, int height,
+                  QWidget* parent = nullptr);
     ~DisplayDialog() override;
 
     /// Shows the text. A large plain text appears at once and is completed in portions, so that the window stays alive.
     void SetText(const QString& text);
     /// Shows a text file in a modal window, of a very large one the beginning. False when it can not be opened, or is a
     /// pipe or a device, which would never end.
-    static bool showFile(const QString& title, const QString& fileName);
+    static bool showFile(AppRegistry& registry, const QString& title, const QString& fileName);
     /// Prints the whole text; a message is not printed.
     void printTo(QPrinter& printer);
 
@@ -47,6 +50,7 @@ private:
     void appendPortion();
     void unlist();
 
+    QPointer<AppRegistry> registry;
     int mode;
     QPlainTextEdit* textView = nullptr;
     QTextBrowser* htmlView = nullptr;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/FindDialog.h"
-#include "app/AppRegistry.h"
 #include "dialogs/FileSearch.h"
 #include "dialogs/MessageBox.h"
 
@@ -90,9 +89,9 @@ private:
 
 } // namespace
 
-FindDialog::FindDialog(QWidget* parent)
+FindDialog::FindDialog(const QString& searchStart, QWidget* parent)
     : QDialog(parent)
-    , searchLocation(appRegistry->values.installPath)
+    , searchLocation(searchStart)
     , filesLabel(new QLabel)
     , resultList(new QListWidget)
     , locationEdit(new QLineEdit(searchLocation))

@@ -17,7 +17,8 @@ class FindDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit FindDialog(QWidget* parent = nullptr);
+    /// Searches below searchStart until another folder is named.
+    explicit FindDialog(const QString& searchStart, QWidget* parent = nullptr);
 
     /// Sets the title and the patterns, which white space separates.
     void Setup(const QString& caption, const QString& filter);

@@ -17,8 +17,9 @@ using namespace Qt::StringLiterals;
 
 QString HelpManager::currentHelpPage = u"genericApplication.htm"_s;
 
-HelpManager::HelpManager(QObject* parent)
+HelpManager::HelpManager(const AppRegistry& suite, QObject* parent)
     : QObject(parent)
+    , registry(suite)
     , assistant(new AssistantClient({}, this))
 {
     if (parent) {
@@ -29,28 +30,28 @@ HelpManager::HelpManager(QObject* parent)
 
 HelpManager::~HelpManager() = default;
 
-QString HelpManager::HelpDirectory()
+QString HelpManager::HelpDirectory(const AppRegistry& registry)
 {
-    return QDir::cleanPath(appRegistry->values.helpArea + u'/' + appRegistry->installValues.helpDir);
+    return QDir::cleanPath(registry.values.helpArea + u'/' + registry.installValues.helpDir);
 }
 
-QString HelpManager::profile()
+QString HelpManager::profile(const AppRegistry& registry)
 {
-    return QDir::cleanPath(HelpDirectory() + u'/' + appRegistry->installValues.helpFile);
+    return QDir::cleanPath(HelpDirectory(registry) + u'/' + registry.installValues.helpFile);
 }
 
-QStringList HelpManager::ViewerArguments(const HelpCollection& collection)
+QStringList HelpManager::ViewerArguments(const AppRegistry& registry, const HelpCollection& collection)
 {
-    const QString& given = appRegistry->installValues.helpProfileStr;
+    const QString& given = registry.installValues.helpProfileStr;
     // Qt Assistant no longer knows the switch of the old profiles.
     const bool outdated = collection.isCollection() && given == StringValues().helpProfileStr;
-    return {outdated ? u"-collectionFile"_s : given, profile()};
+    return {outdated ? u"-collectionFile"_s : given, profile(registry)};
 }
 
-bool HelpManager::HelpAvailable()
+bool HelpManager::HelpAvailable(const AppRegistry& registry)
 {
-    const QString& area = appRegistry->values.helpArea;
-    return !area.isEmpty() && QFile::exists(area) && QFile::exists(profile());
+    const QString& area = registry.values.helpArea;
+    return !area.isEmpty() && QFile::exists(area) && QFile::exists(profile(registry));
 }
 
 bool HelpManager::eventFilter(QObject* /*object*/, QEvent* event)
@@ -68,9 +69,9 @@ bool HelpManager::eventFilter(QObject* /*object*/, QEvent* event)
 
 void HelpManager::slt_showHelp(const QString& helpPage, bool fullPath)
 {
-    const QString page = fullPath ? helpPage : QDir::cleanPath(HelpDirectory() + u'/' + helpPage);
+    const QString page = fullPath ? helpPage : QDir::cleanPath(HelpDirectory(registry) + u'/' + helpPage);
     if (!collection) {
-        collection = std::make_unique<HelpCollection>(profile());
+        collection = std::make_unique<HelpCollection>(profile(registry));
     }
     const QUrl address(page);
     const QUrl url = address.scheme() == "qthelp"_L1 ? address : collection->find(page);
@@ -85,7 +86,7 @@ void HelpManager::show(const QUrl& page)
 {
     // Assistant shows an empty page for a file outside its collections.
     if (page.scheme() == "qthelp"_L1 && !AssistantClient::program().isEmpty()) {
-        assistant->setArguments(ViewerArguments(*collection));
+        assistant->setArguments(ViewerArguments(registry, *collection));
         assistant->showPage(page);
         return;
     }

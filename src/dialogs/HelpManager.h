@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class AppRegistry;
 class AssistantClient;
 class HelpCollection;
 class HelpViewer;
@@ -18,14 +19,14 @@ class HelpManager : public QObject
     Q_OBJECT
 
 public:
-    explicit HelpManager(QObject* parent);
+    HelpManager(const AppRegistry& registry, QObject* parent);
     ~HelpManager() override;
 
-    static QString HelpDirectory();
+    static QString HelpDirectory(const AppRegistry& registry);
     /// True when the suite has a help area with a profile in it.
-    static bool HelpAvailable();
+    static bool HelpAvailable(const AppRegistry& registry);
     /// How Qt Assistant is told of the profile.
-    static QStringList ViewerArguments(const HelpCollection& collection);
+    static QStringList ViewerArguments(const AppRegistry& registry, const HelpCollection& collection);
     /// The page for F1 and the wizard's help button.
     static QString currentHelpPage;
 
@@ -38,9 +39,10 @@ public Q_SLOTS:
     void slt_showError(const QString& str);
 
 private:
-    static QString profile();
+    static QString profile(const AppRegistry& registry);
     void show(const QUrl& page);
 
+    const AppRegistry& registry;
     std::unique_ptr<HelpCollection> collection;
     AssistantClient* assistant;
     std::unique_ptr<HelpViewer> viewer;

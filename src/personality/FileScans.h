@@ -4,7 +4,7 @@
 class QString;
 
 /// Searches in personality and metrics files that tell which analyser they belong to. A path that names no readable
-/// regular file holds nothing. Of a file larger than 64 MiB only the beginning is searched.
+/// regular file holds nothing. Of a file larger than 8 MiB only the beginning is searched.
 namespace FileScans {
 
 /// An option that only the C analyser knows, followed by "+", "-" or a blank, in any letter case.

@@ -6,14 +6,14 @@
 
 using namespace Qt::StringLiterals;
 
-bool writeMessageSelectionFile(const QStringList& messages, const QString& fileName)
+Result<void> writeMessageSelectionFile(const QStringList& messages, const QString& fileName)
 {
     if (messages.isEmpty() || fileName.isEmpty()) {
-        return true;
+        return {};
     }
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        return false;
+        return {file.errorString()};
     }
     const QString rule(32, u'*');
     QTextStream stream(&file);
@@ -31,5 +31,6 @@ bool writeMessageSelectionFile(const QStringList& messages, const QString& fileN
     }
     stream << '\n';
     stream.flush();
-    return file.flush() && file.error() == QFile::NoError;
+    const bool isComplete = file.flush() && file.error() == QFile::NoError;
+    return {isComplete ? QString() : file.errorString()};
 }

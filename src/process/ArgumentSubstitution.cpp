@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "process/ArgumentSubstitution.h"
-#include "app/ProductNames.h"
+#include "definitions/ConfigurationKind.h"
 #include "definitions/DefinitionRecords.h"
-#include "wizard/WizardState.h"
+#include "personality/ProductNames.h"
+#include "process/WizardState.h"
 
 #include <QRegularExpression>
 
@@ -41,12 +42,12 @@ QStringList conversionArguments(const WizardState& state)
     SubstituteArgument(arguments, u"%D"_s, state.fileDir);
     SubstituteArgument(arguments, u"%J"_s, state.fileName);
     SubstituteArgument(arguments, u"%PF"_s, state.ProjectFile());
-    SubstituteArgument(arguments, u"%CP+"_s, state.compilerPersonality, via);
-    SubstituteArgument(arguments, u"%CP"_s, state.compilerPersonality);
-    SubstituteArgument(arguments, u"%AP+"_s, state.analyserPersonality, via);
-    SubstituteArgument(arguments, u"%AP"_s, state.analyserPersonality);
-    SubstituteArgument(arguments, u"%MP+"_s, state.messagePersonality, via);
-    SubstituteArgument(arguments, u"%MP"_s, state.messagePersonality);
+    const auto& kinds = configurationKinds();
+    for (auto kind = kinds.rbegin(); kind != kinds.rend(); ++kind) {
+        const QString& file = state.configuration(kind->kind);
+        SubstituteArgument(arguments, kind->placeholder + u'+', file, via);
+        SubstituteArgument(arguments, kind->placeholder, file);
+    }
     for (const auto& input : state.projectCreator->inputData) {
         SubstituteArgument(arguments, input->argument, input->value, input->prefix);
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "process/ChildProcess.h"
+#include "process/ChildList.h"
 #include "process/StrayProcesses.h"
 
 #include <chrono>
@@ -13,9 +14,13 @@ constexpr auto reapInterval = 100ms;
 
 } // namespace
 
-ChildProcess::ChildProcess(QObject* parent)
+ChildProcess::ChildProcess(ChildList* siblings, QObject* parent)
     : QProcess(parent)
+    , list(siblings)
 {
+    if (list) {
+        list->enter(this);
+    }
 #ifdef Q_OS_UNIX
     setChildProcessModifier(&ProcessGroup::becomeLeader);
 #endif
@@ -34,11 +39,19 @@ ChildProcess::ChildProcess(QObject* parent)
 
 ChildProcess::~ChildProcess()
 {
+    if (list) {
+        list->leave(this);
+    }
     if (state() != QProcess::NotRunning) {
         killGroup();
         waitForFinished(1000);
     }
     group.endLeftovers();
+}
+
+bool ChildProcess::isClosingDown() const
+{
+    return list && list->isClosing();
 }
 
 void ChildProcess::terminateGroup()

@@ -3,8 +3,11 @@
 
 #include "process/ProcessGroup.h"
 
+#include <QPointer>
 #include <QProcess>
 #include <QTimer>
+
+class ChildList;
 
 /// A child process that is stopped together with everything it started: it leads a process group of its own (a job on
 /// Windows). On Linux it does not outlive this program, even if that crashes.
@@ -16,10 +19,13 @@ public:
     /// What becomes of the children that a process leaves running at its normal end.
     enum class Leftovers { Kill, KeepUntilStopped };
 
-    explicit ChildProcess(QObject* parent = nullptr);
+    /// Enters the list, if any, and leaves it when destroyed.
+    explicit ChildProcess(ChildList* siblings = nullptr, QObject* parent = nullptr);
     /// Stops what still runs.
     ~ChildProcess() override;
 
+    /// True while all children are being stopped because the program closes.
+    bool isClosingDown() const;
     void setLeftovers(Leftovers policy) { leftovers = policy; }
     /// True while something runs that an earlier run left behind and that was kept.
     bool hasLeftovers() { return state() == QProcess::NotRunning && group.hasLeftovers(); }
@@ -31,6 +37,7 @@ public:
     bool stop(int killMs, int graceMs = 500);
 
 private:
+    QPointer<ChildList> list;
     Leftovers leftovers = Leftovers::Kill;
     ProcessGroup group;
     QTimer reaper;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "process/ConversionRun.h"
-#include "app/AppRegistry.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -17,23 +16,18 @@ constexpr int killWaitMs = 30000;
 
 } // namespace
 
-ConversionRun::ConversionRun(QObject* parent)
+ConversionRun::ConversionRun(ChildList* siblings, QObject* parent)
     : QObject(parent)
+    , process(siblings)
 {
     process.setProcessChannelMode(QProcess::MergedChannels);
     connect(&process, &QProcess::readyRead, this, &ConversionRun::outputReady);
     connect(&process, &QProcess::finished, this, &ConversionRun::processFinished);
     connect(&process, &QProcess::errorOccurred, this, &ConversionRun::processFailed);
-    if (appRegistry) {
-        appRegistry->childProcesses += &process;
-    }
 }
 
 ConversionRun::~ConversionRun()
 {
-    if (appRegistry) {
-        appRegistry->childProcesses.removeAll(&process);
-    }
     blockSignals(true);
     stop();
     process.disconnect(this);
@@ -50,9 +44,7 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
         return false;
     }
     process.start(program, arguments, QIODevice::ReadWrite);
-    if (appRegistry) {
-        appRegistry->Trace(program + u' ' + arguments.join(u' '));
-    }
+    Q_EMIT commandStarted(program + u' ' + arguments.join(u' '));
     if (process.waitForStarted(startWaitMs)) {
         forgetOldFile();
         // Nobody answers a converter that asks: it shall see the end of its input instead of waiting for ever.
@@ -111,13 +103,29 @@ QString ConversionRun::takeOutput()
     return decoder.decode(process.readAll());
 }
 
+QString ConversionRun::endText(Outcome outcome, const QString& projectFile)
+{
+    switch (outcome) {
+    case Outcome::Created:
+        return tr("New project file: ") + projectFile;
+    case Outcome::NotCreated:
+        return tr("Error: Project file [%1] not created").arg(projectFile);
+    case Outcome::NotStarted:
+        return tr("Error: Could not run conversion process");
+    case Outcome::Failed:
+    case Outcome::Stopped:
+        break;
+    }
+    return tr("Error: Conversion Process Failed");
+}
+
 void ConversionRun::processFinished()
 {
     if (!running) {
         return;
     }
     // A converter that ends politely when the program closes has not done its work either.
-    if (stopping || (appRegistry && appRegistry->closingDown)) {
+    if (stopping || process.isClosingDown()) {
         finish(Outcome::Stopped, tr("The conversion was stopped."));
     } else if (process.exitStatus() != QProcess::NormalExit || process.error() != QProcess::UnknownError) {
         finish(Outcome::Failed, process.errorString());

@@ -24,7 +24,8 @@ public:
     };
     Q_ENUM(Outcome)
 
-    explicit ConversionRun(QObject* parent = nullptr);
+    /// The program enters the list of children, if any.
+    explicit ConversionRun(ChildList* siblings = nullptr, QObject* parent = nullptr);
     ~ConversionRun() override;
 
     /// Starts the program and removes an old project file, which stays when the program can not be started; false then,
@@ -38,9 +39,13 @@ public:
     Outcome outcome() const { return result; }
     /// What the system or the exit code had to say about the end; empty for a plain success.
     QString detail() const { return detailText; }
+    /// How a run ended, as the page and the batch mode tell it.
+    static QString endText(Outcome outcome, const QString& projectFile);
     ChildProcess& child() { return process; }
 
 Q_SIGNALS:
+    /// The program is being started with this command line, unquoted.
+    void commandStarted(const QString& command);
     void outputReady();
     /// Emitted once for every start().
     void ended(ConversionRun::Outcome outcome);

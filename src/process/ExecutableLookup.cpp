@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "process/ExecutableLookup.h"
-#include "app/AppRegistry.h"
 #include "definitions/PathHelpers.h"
 
 #include <QFile>
 #include <QStandardPaths>
 
-using namespace Qt::StringLiterals;
+#include <utility>
 
-namespace {
-
-ExecutableAnswers* currentAnswers = nullptr;
-
-QString lookUp(const QString& program)
+QString FindExecutable(const QString& program, const QStringList& folders)
 {
     if (QFile::exists(program)) {
         return program;
@@ -22,8 +17,7 @@ QString lookUp(const QString& program)
     if (!onPath.isEmpty()) {
         return onPath;
     }
-    for (const QString& folder :
-         {appRegistry->values.binArea, appRegistry->cInstallDir + u"/bin"_s, appRegistry->cppInstallDir + u"/bin"_s}) {
+    for (const QString& folder : folders) {
         QString candidate = JoinPath(folder, program);
         if (QFile::exists(candidate)) {
             return candidate;
@@ -32,27 +26,16 @@ QString lookUp(const QString& program)
     return {};
 }
 
-} // namespace
-
-QString FindExecutable(const QString& program)
+ExecutableLookup::ExecutableLookup(QStringList searched)
+    : folders(std::move(searched))
 {
-    if (!currentAnswers) {
-        return lookUp(program);
-    }
-    auto answer = currentAnswers->known.find(program);
-    if (answer == currentAnswers->known.end()) {
-        answer = currentAnswers->known.insert(program, lookUp(program));
+}
+
+QString ExecutableLookup::find(const QString& program)
+{
+    auto answer = known.find(program);
+    if (answer == known.end()) {
+        answer = known.insert(program, FindExecutable(program, folders));
     }
     return *answer;
-}
-
-ExecutableAnswers::ExecutableAnswers()
-    : outer(currentAnswers)
-{
-    currentAnswers = this;
-}
-
-ExecutableAnswers::~ExecutableAnswers()
-{
-    currentAnswers = outer;
 }

@@ -3,24 +3,22 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
-/// Where a program is: as named, on PATH, in the suite's bin folder or in an analyser's. Empty when it is nowhere. The
+/// Where a program is: as named, on PATH, or in one of the folders, in their order. Empty when it is nowhere. The
 /// folders also answer an empty name, with themselves.
-QString FindExecutable(const QString& program);
+QString FindExecutable(const QString& program, const QStringList& folders);
 
-/// While one lives, each program is looked up once. For one press or one building of a page: what is installed later is
-/// found by the next.
-class ExecutableAnswers
+/// The same, each program looked up once. For one press or one building of a page: what is installed later is found
+/// by the next.
+class ExecutableLookup
 {
 public:
-    ExecutableAnswers();
-    ~ExecutableAnswers();
-    ExecutableAnswers(const ExecutableAnswers&) = delete;
-    ExecutableAnswers& operator=(const ExecutableAnswers&) = delete;
+    explicit ExecutableLookup(QStringList folders);
+
+    QString find(const QString& program);
 
 private:
-    friend QString FindExecutable(const QString& program);
-
+    QStringList folders;
     QHash<QString, QString> known;
-    ExecutableAnswers* outer;
 };

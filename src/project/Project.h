@@ -2,11 +2,14 @@
 #pragma once
 
 #include "personality/AnalyserInference.h"
+#include "personality/Result.h"
 #include "project/ProjectData.h"
+#include "project/ProjectFacts.h"
 
 #include <QObject>
 #include <QString>
 
+struct OptionSources;
 struct SurveyCounts;
 
 /// An analyser project as read from its file, with the state of its analysis at that moment.
@@ -16,15 +19,15 @@ class Project : public QObject
 
 public:
     explicit Project(QObject* parent = nullptr);
-    explicit Project(const QString& fileName);
+    explicit Project(const QString& fileName, const ProjectFacts& facts = {});
 
     /// Reads a project file of either dialect (or its newer backup), infers the analyser and evaluates the status. True
     /// when the file holds a project; statusText says why not.
-    bool load(const QString& fileName);
+    bool load(const QString& fileName, const ProjectFacts& facts = {});
     /// The arguments for a launched tool: placeholders replaced by this project's option and list files, which are
-    /// written always. problem tells what could not be written; the tool must not be started then.
-    QStringList expandLauncherArguments(const QStringList& arguments, const QString& analyser,
-                                        const QString& extraOptionFile, QString* problem = nullptr);
+    /// written always. The problem is what could not be written; the tool must not be started then.
+    Result<QStringList> expandLauncherArguments(const QStringList& arguments, const QString& analyser,
+                                                const QString& extraOptionFile, const OptionSources& sources);
     /// Decides statusText, statusOk and analysisComplete afresh.
     void evaluateStatus();
     /// True unless the project was found to be C++; one judged by its suffixes counts as C.
@@ -46,4 +49,6 @@ private:
     void reset(const QString& fileName);
     void inferProjectType(const QString& metricsPath);
     void evaluateStatus(const SurveyCounts& counts);
+
+    ProjectFacts facts;
 };

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "project/ProjectData.h"
+#include "project/OptionSources.h"
+#include "project/OptionTexts.h"
+#include "project/ProjectReader.h"
 #include "project/ProjectSurvey.h"
 
 #include <QFile>
+#include <QTextStream>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +33,12 @@ QString joined(const QString& folder, QStringView name)
     }
     path += name;
     return path;
+}
+
+QString cannotWrite(const QFile& file)
+{
+    return ProjectData::tr("The temporary file %1 can not be written: %2. Make room in its folder or make it writable.")
+        .arg(file.fileName(), file.errorString());
 }
 
 } // namespace
@@ -169,4 +179,62 @@ QStringList ProjectData::allMetricsPaths() const
 QString ProjectData::firstExistingMetricsPath() const
 {
     return ProjectSurvey().survey(*this).firstMetricsPath;
+}
+
+QString ProjectData::cannotMakeFile()
+{
+    return tr("A temporary file can not be made in %1. Make room there or make it writable.")
+        .arg(QDir::toNativeSeparators(QDir::tempPath()));
+}
+
+QString ProjectData::projectOptionText(const QStringList& standardFiles) const
+{
+    return OptionTexts::projectOptions(*this, standardFiles);
+}
+
+Result<QString> ProjectData::projectOptionFile(const OptionSources& sources)
+{
+    const QString text = projectOptionText(sources.standardFiles);
+    if (viaFilePath.isEmpty()) {
+        viaFilePath = sources.temporaryFile(u".via"_s);
+        lastViaText.clear();
+    }
+    if (viaFilePath.isEmpty()) {
+        return {{}, cannotMakeFile()};
+    }
+    if (text == lastViaText) {
+        return {viaFilePath};
+    }
+    QFile file(viaFilePath);
+    const QByteArray bytes = text.toLocal8Bit();
+    // A file that could be written only in part holds neither text.
+    lastViaText.clear();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text) || file.write(bytes) != bytes.size() || !file.flush()) {
+        return {viaFilePath, cannotWrite(file)};
+    }
+    lastViaText = text;
+    return {viaFilePath};
+}
+
+void ProjectData::crossModuleListText(QTextStream& stream) const
+{
+    OptionTexts::crossModuleList(*this, stream);
+}
+
+Result<QString> ProjectData::crossModuleListFile(const OptionSources& sources) const
+{
+    QString fileName = sources.temporaryFile(u".lst"_s);
+    QFile file(fileName);
+    if (fileName.isEmpty()) {
+        return {{}, cannotMakeFile()};
+    }
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        return {fileName, cannotWrite(file)};
+    }
+    QTextStream stream(&file);
+    stream.setEncoding(ProjectReader::encoding);
+    crossModuleListText(stream);
+    stream.flush();
+    const bool isComplete = file.flush() && file.error() == QFile::NoError;
+    return {fileName, isComplete ? QString() : cannotWrite(file)};
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "personality/Result.h"
+
 #include <QDir>
 #include <QList>
 #include <QObject>
@@ -12,6 +14,7 @@
 
 class ProjectData;
 class QTextStream;
+struct OptionSources;
 
 /// A source file of a project and the names of the files that the analyser writes for it. Sources with the same name in
 /// different folders share their output files when their projects share the output folder.
@@ -70,14 +73,17 @@ public:
     QStringList allMetricsPaths() const;
     QString firstExistingMetricsPath() const;
 
-    /// The options of the root project for an analyser: output folder, personalities, coding standards.
-    QString projectOptionText() const;
-    /// The temporary file with these options, written when they have changed. problem tells what could not be written.
-    QString projectOptionFile(QString& problem);
+    /// The options of the root project for an analyser: output folder, personalities, the standards' option files.
+    QString projectOptionText(const QStringList& standardFiles = {}) const;
+    /// The temporary file with these options, written when they have changed.
+    Result<QString> projectOptionFile(const OptionSources& sources);
     /// The analysed files of the tree and the cross-module analysis file.
     void crossModuleListText(QTextStream& stream) const;
-    /// A new temporary file with that list.
-    QString crossModuleListFile(QString& problem) const;
+    /// A new temporary file with that list; its name also where it could not be written.
+    Result<QString> crossModuleListFile(const OptionSources& sources) const;
+
+    /// Why a temporary file could not be made, and what to do.
+    static QString cannotMakeFile();
 
     /// Calls visit for this project and all below it, each before its sub-projects, until it returns true.
     template <typename Visit>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/AppRegistry.h"
+#include "project/ProjectStatus.h"
 #include "project/Project.h"
 #include "project/ProjectSurvey.h"
 
@@ -86,39 +86,13 @@ QString summarise(const SurveyCounts& counts, const QString& lastAnalysis)
 
 } // namespace
 
-void Project::evaluateStatus(const SurveyCounts& counts)
+ProjectStatus ProjectStatus::judge(const ProjectFindings& project, const SurveyCounts& counts)
 {
-    const Verdict verdict = judgeFile(projectFile, valid, counts);
-    statusOk = verdict.usable;
-    statusText =
-        verdict.usable ? judgeAnalysis(counts, configurationChanged()) + summarise(counts, lastAnalysis) : verdict.text;
-    analysisComplete = verdict.usable && counts.upToDate == counts.existing;
-}
-
-bool Project::configurationChanged() const
-{
-    if (lastAnalysis.isEmpty()) {
-        return true;
+    const Verdict verdict = judgeFile(project.file, project.valid, counts);
+    if (!verdict.usable) {
+        return {.text = verdict.text};
     }
-    const PersistedValues& values = appRegistry->values;
-    const QString& current = isCAnalyser() ? values.cCurrentCEValue : values.cppCurrentCEValue;
-    return !current.isEmpty() && current != lastAnalysis;
-}
-
-void Project::inferProjectType(const QString& metricsPath)
-{
-    projectType = inferAnalyser({.declaredLanguage = declaredLanguage,
-                                 .compilerPersonality = root.compilerPersonality,
-                                 .analyserPersonality = root.analyserPersonality,
-                                 .metricsPath = metricsPath,
-                                 .projectFile = projectFile,
-                                 .cInstallDir = appRegistry->cInstallDir,
-                                 .cppInstallDir = appRegistry->cppInstallDir,
-                                 .eachSource = [this](const std::function<bool(const QString&)>& visit) {
-                                     root.visitProjects([&](const ProjectData& project) {
-                                         return std::ranges::any_of(project.files, [&](const SourceEntry& entry) {
-                                             return visit(entry.sourcePath());
-                                         });
-                                     });
-                                 }});
+    return {.text = judgeAnalysis(counts, project.configurationChanged) + summarise(counts, project.lastAnalysis),
+            .usable = true,
+            .complete = counts.upToDate == counts.existing};
 }

@@ -33,6 +33,7 @@ ActionPage::ActionPage(ApplicationWindow* owner)
     , stopButton(new QPushButton(tr("&Stop")))
     , outputView(new OutputView)
     , logLabel(new QLabel)
+    , run(&appRegistry->childProcesses)
     , buffer(OutputView::keptLines)
 {
     setTitle(tr("Create the Project"));
@@ -60,6 +61,8 @@ ActionPage::ActionPage(ApplicationWindow* owner)
     flushTimer.setInterval(flushInterval);
     connect(&flushTimer, &QTimer::timeout, this, &ActionPage::flushOutput);
     connect(stopButton, &QPushButton::clicked, &run, &ConversionRun::stop);
+    connect(&run, &ConversionRun::commandStarted, appRegistry,
+            [](const QString& command) { appRegistry->Trace(command); });
     connect(&run, &ConversionRun::outputReady, this, &ActionPage::ReadReady);
     connect(&run, &ConversionRun::ended, this, &ActionPage::ProcessComplete);
 }
@@ -172,23 +175,8 @@ void ActionPage::showEnd()
         outputView->appendLines({run.detail()});
     }
     const bool created = outcome == ConversionRun::Outcome::Created;
-    ConversionFinished(endMessage(outcome), created, created ? u"black"_s : u"red"_s);
-}
-
-QString ActionPage::endMessage(ConversionRun::Outcome outcome) const
-{
-    switch (outcome) {
-    case ConversionRun::Outcome::Created:
-        return tr("New project file: ") + window->ProjectFile();
-    case ConversionRun::Outcome::NotCreated:
-        return tr("Error: Project file [%1] not created").arg(window->ProjectFile());
-    case ConversionRun::Outcome::NotStarted:
-        return tr("Error: Could not run conversion process");
-    case ConversionRun::Outcome::Failed:
-    case ConversionRun::Outcome::Stopped:
-        break;
-    }
-    return tr("Error: Conversion Process Failed");
+    ConversionFinished(ConversionRun::endText(outcome, window->ProjectFile()), created,
+                       created ? u"black"_s : u"red"_s);
 }
 
 void ActionPage::ConversionFinished(const QString& message, bool ok, const QString& colour)

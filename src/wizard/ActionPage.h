@@ -41,7 +41,6 @@ private:
     void nameLog();
     void showEnd();
     void ConversionFinished(const QString& message, bool ok, const QString& colour);
-    QString endMessage(ConversionRun::Outcome outcome) const;
 
     QLabel* statusLabel;
     QProgressBar* progressBar;

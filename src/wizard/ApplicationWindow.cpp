@@ -2,6 +2,7 @@
 #include "wizard/ApplicationWindow.h"
 #include "app/AppRegistry.h"
 #include "app/CommandLine.h"
+#include "definitions/ConfigurationKind.h"
 #include "definitions/InputValues.h"
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/MessageBox.h"
@@ -26,11 +27,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The paths among the wizard's own settings; kept and read in native form.
-constexpr std::array pathKeys = {
-    std::pair{"compilerPersonality"_L1, &WizardState::compilerPersonality},
-    std::pair{"analyserPersonality"_L1, &WizardState::analyserPersonality},
-    std::pair{"messagePersonality"_L1, &WizardState::messagePersonality},
+// The paths among the wizard's own settings besides the configuration files; kept and read in native form.
+constexpr std::array folderKeys = {
     std::pair{"defaultPersonalityLocation"_L1, &WizardState::defaultPersonalityLocation},
     std::pair{"fileDir"_L1, &WizardState::fileDir},
 };
@@ -70,33 +68,28 @@ QString ApplicationWindow::AnalyserName(bool isC)
     return isC ? tr("Orv C") : tr("Orv C++");
 }
 
-namespace {
-
-using Preset = const QString& (ProjectCreatorData::*)(bool isC) const;
-
-const QString& withDefault(QString& field, const ApplicationWindow& window, Preset preset)
+const QString& ApplicationWindow::configurationOrPreset(ConfigurationKind kind)
 {
-    if (window.projectCreator && (field.isEmpty() || FileScans::isForOtherAnalyser(field, window.isORVC))) {
-        field = (window.projectCreator->*preset)(window.isORVC);
+    QString& file = configuration(kind);
+    if (projectCreator && (file.isEmpty() || FileScans::isForOtherAnalyser(file, isORVC))) {
+        file = presetOf(*projectCreator, factsOf(kind), isORVC);
     }
-    return field;
+    return file;
 }
-
-} // namespace
 
 const QString& ApplicationWindow::GetCompilerPersonality()
 {
-    return withDefault(compilerPersonality, *this, &ProjectCreatorData::CompilerPersonality);
+    return configurationOrPreset(ConfigurationKind::Compiler);
 }
 
 const QString& ApplicationWindow::GetAnalyserPersonality()
 {
-    return withDefault(analyserPersonality, *this, &ProjectCreatorData::AnalyserPersonality);
+    return configurationOrPreset(ConfigurationKind::Analyser);
 }
 
 const QString& ApplicationWindow::GetMessagePersonality()
 {
-    return withDefault(messagePersonality, *this, &ProjectCreatorData::MessagePersonality);
+    return configurationOrPreset(ConfigurationKind::Message);
 }
 
 int ApplicationWindow::NextPage(int pageId) const
@@ -107,7 +100,7 @@ int ApplicationWindow::NextPage(int pageId) const
 void ApplicationWindow::showConversionOutput()
 {
     const QString log = actionPage->logFileName();
-    if (log.isEmpty() || !DisplayDialog::showFile(tr("Output of the conversion"), log)) {
+    if (log.isEmpty() || !DisplayDialog::showFile(*appRegistry, tr("Output of the conversion"), log)) {
         MessageBox::warn(this, tr("Output of the conversion"), tr("The output could not be kept."));
     }
 }
@@ -126,7 +119,10 @@ void ApplicationWindow::CustomButtonClicked(int which)
 void ApplicationWindow::DoRegistrySetValues(QSettings* settings)
 {
     settings->beginGroup(settingsGroup());
-    for (const auto& [key, member] : pathKeys) {
+    for (const ConfigurationFacts& kind : configurationKinds()) {
+        settings->setValue(kind.name, QDir::toNativeSeparators(configuration(kind.kind)));
+    }
+    for (const auto& [key, member] : folderKeys) {
         settings->setValue(key, QDir::toNativeSeparators(this->*member));
     }
     for (const auto& [key, member] : textKeys) {
@@ -140,7 +136,10 @@ void ApplicationWindow::DoRegistrySetValues(QSettings* settings)
 void ApplicationWindow::DoRegistryValues(QSettings* settings)
 {
     settings->beginGroup(settingsGroup());
-    for (const auto& [key, member] : pathKeys) {
+    for (const ConfigurationFacts& kind : configurationKinds()) {
+        configuration(kind.kind) = QDir::toNativeSeparators(settings->value(kind.name).toString());
+    }
+    for (const auto& [key, member] : folderKeys) {
         this->*member = QDir::toNativeSeparators(settings->value(key).toString());
     }
     for (const auto& [key, member] : textKeys) {

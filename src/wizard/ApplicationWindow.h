@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "process/WizardState.h"
 #include "wizard/OrvWizardWindow.h"
-#include "wizard/WizardState.h"
 
 #include <QStringList>
 
@@ -19,8 +19,9 @@ public:
     ApplicationWindow(const QString& title, const QString& helpPage, const QStringList& arguments);
 
     static QString AnalyserName(bool isC);
-    /// The configuration file of each kind, after the conversion type's default was put in place of an empty one
-    /// or of one that is written for the other analyser.
+    /// The configuration file of a kind, after the conversion type's default was put in place of an empty one or of one
+    /// that is written for the other analyser.
+    const QString& configurationOrPreset(ConfigurationKind kind);
     const QString& GetCompilerPersonality();
     const QString& GetAnalyserPersonality();
     const QString& GetMessagePersonality();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/ConfPage.h"
 #include "app/AppRegistry.h"
+#include "definitions/ConfigurationKind.h"
 #include "dialogs/MessageBox.h"
 #include "personality/FileScans.h"
 #include "wizard/ApplicationWindow.h"
@@ -25,23 +26,22 @@ SelectFileWidgets::Options fieldOptions()
     return {.withFind = true, .startFolder = QDir::currentPath(), .withEdit = true};
 }
 
-void showField(const SelectFileWidgets& field, QLabel& label, bool shown)
+QString patternOf(ConfigurationKind kind)
 {
-    field.frame()->setVisible(shown);
-    label.setVisible(shown);
+    return factsOf(kind).pattern;
 }
 
 } // namespace
 
 ConfPage::ConfPage(ApplicationWindow* owner)
     : AppPage(owner, ConfPageId)
-    , compilerField(tr("Select Compiler Configuration Options"), tr("*.p_c"), fieldOptions())
-    , analyserField(tr("Select Project Configuration Options"), tr("*.p_a"), fieldOptions())
-    , messageField(tr("Select Message Configuration Options"), tr("*.p_s"), fieldOptions())
+    , compilerField(tr("Select Compiler Configuration Options"), patternOf(ConfigurationKind::Compiler), fieldOptions())
+    , analyserField(tr("Select Project Configuration Options"), patternOf(ConfigurationKind::Analyser), fieldOptions())
+    , messageField(tr("Select Message Configuration Options"), patternOf(ConfigurationKind::Message), fieldOptions())
     , complianceCombo(new QComboBox)
-    , compilerLabel(new QLabel(tr("Compiler Configuration File:")))
-    , analyserLabel(new QLabel(tr("Project Configuration Template File:")))
-    , messageLabel(new QLabel(tr("Message Configuration File:")))
+    , fields{Field{ConfigurationKind::Message, messageField, new QLabel(tr("Message Configuration File:"))},
+             Field{ConfigurationKind::Analyser, analyserField, new QLabel(tr("Project Configuration Template File:"))},
+             Field{ConfigurationKind::Compiler, compilerField, new QLabel(tr("Compiler Configuration File:"))}}
     , noneText(tr("None"))
     , hint(new QLabel)
 {
@@ -64,9 +64,9 @@ ConfPage::ConfPage(ApplicationWindow* owner)
     connect(compilerField.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::CPersonalityChanged);
     connect(analyserField.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::APersonalityChanged);
     connect(messageField.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::MPersonalityChanged);
-    for (const SelectFileWidgets* field : {&compilerField, &analyserField, &messageField}) {
-        connect(field->lineEdit(), &QLineEdit::textChanged, this, &ConfPage::completeChanged);
-        connect(field->lineEdit(), &QLineEdit::textChanged, this, &ConfPage::updateHint);
+    for (const Field& field : fields) {
+        connect(field.widgets.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::completeChanged);
+        connect(field.widgets.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::updateHint);
     }
 }
 
@@ -74,15 +74,14 @@ QLayout* ConfPage::createFileFields()
 {
     auto* grid = new QGridLayout;
     int row = 0;
-    for (const auto& [field, label] : {std::pair{&messageField, messageLabel}, std::pair{&analyserField, analyserLabel},
-                                       std::pair{&compilerField, compilerLabel}}) {
+    for (const Field& field : fields) {
         if (row > 0) {
             grid->setRowMinimumHeight(row++, fontMetrics().height() / 2);
         }
-        label->setBuddy(field->lineEdit());
-        field->lineEdit()->setAccessibleName(label->text());
-        grid->addWidget(label, row++, 0);
-        grid->addWidget(field->frame(), row++, 0);
+        field.label->setBuddy(field.widgets.lineEdit());
+        field.widgets.lineEdit()->setAccessibleName(field.label->text());
+        grid->addWidget(field.label, row++, 0);
+        grid->addWidget(field.widgets.frame(), row++, 0);
     }
     return grid;
 }
@@ -92,16 +91,14 @@ void ConfPage::initializePage()
     const QString analyser = ApplicationWindow::AnalyserName(window->isORVC);
     setTitle(tr("%1 Configuration Information").arg(analyser));
     setSubTitle(tr("Specify configuration information required by the new %1 project file").arg(analyser));
-    for (SelectFileWidgets* field : {&compilerField, &analyserField, &messageField}) {
-        field->SetStartFolder(window->defaultPersonalityLocation);
-    }
-    compilerField.lineEdit()->setText(window->GetCompilerPersonality());
-    analyserField.lineEdit()->setText(window->GetAnalyserPersonality());
-    messageField.lineEdit()->setText(window->GetMessagePersonality());
     const ProjectCreatorData* creator = window->projectCreator;
-    showField(compilerField, *compilerLabel, creator && creator->hasCompilerPersonality);
-    showField(analyserField, *analyserLabel, creator && creator->hasAnalyserPersonality);
-    showField(messageField, *messageLabel, creator && creator->hasMessagePersonality);
+    for (const Field& field : fields) {
+        field.widgets.SetStartFolder(window->defaultPersonalityLocation);
+        field.widgets.lineEdit()->setText(window->configurationOrPreset(field.kind));
+        const bool asked = creator && creator->*factsOf(field.kind).asked;
+        field.widgets.frame()->setVisible(asked);
+        field.label->setVisible(asked);
+    }
     fillComplianceModules();
     updateHint();
 }
@@ -122,9 +119,9 @@ void ConfPage::fillComplianceModules()
 
 bool ConfPage::validatePage()
 {
-    window->compilerPersonality = compilerField.lineEdit()->text();
-    window->analyserPersonality = analyserField.lineEdit()->text();
-    window->messagePersonality = messageField.lineEdit()->text();
+    for (const Field& field : fields) {
+        window->configuration(field.kind) = field.widgets.lineEdit()->text();
+    }
     return true;
 }
 
@@ -135,10 +132,9 @@ bool ConfPage::isComplete() const
 
 const QLabel* ConfPage::firstMissing() const
 {
-    for (const auto& [field, label] : {std::pair{&messageField, messageLabel}, std::pair{&analyserField, analyserLabel},
-                                       std::pair{&compilerField, compilerLabel}}) {
-        if (!label->isHidden() && !field->isValid()) {
-            return label;
+    for (const Field& field : fields) {
+        if (!field.label->isHidden() && !field.widgets.isValid()) {
+            return field.label;
         }
     }
     return nullptr;
@@ -183,13 +179,12 @@ void ConfPage::accept(SelectFileWidgets& field, QString& stateField, const QStri
 
 void ConfPage::ComplianceChanged(int /*index*/)
 {
-    for (SelectFileWidgets* field : {&compilerField, &analyserField, &messageField}) {
-        field->SetReadOnly(false);
-    }
-    if (const auto* module = complianceCombo->currentData().value<ComplianceModule*>()) {
-        apply(compilerField, module->compilerPersonality);
-        apply(analyserField, module->analyserPersonality);
-        apply(messageField, module->messagePersonality);
+    const auto* module = complianceCombo->currentData().value<ComplianceModule*>();
+    for (const Field& field : fields) {
+        field.widgets.SetReadOnly(false);
+        if (module) {
+            apply(field.widgets, module->*factsOf(field.kind).moduleFile);
+        }
     }
 }
 

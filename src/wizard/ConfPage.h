@@ -4,6 +4,9 @@
 #include "wizard/AppPage.h"
 #include "wizard/SelectFileWidgets.h"
 
+#include <array>
+
+enum class ConfigurationKind;
 class QComboBox;
 class QLabel;
 class QLayout;
@@ -27,6 +30,13 @@ public Q_SLOTS:
     void ComplianceChanged(int index);
 
 private:
+    struct Field
+    {
+        ConfigurationKind kind;
+        SelectFileWidgets& widgets;
+        QLabel* label;
+    };
+
     QLayout* createFileFields();
     void fillComplianceModules();
     void apply(SelectFileWidgets& field, const QString& moduleFile);
@@ -38,9 +48,8 @@ private:
     SelectFileWidgets analyserField;
     SelectFileWidgets messageField;
     QComboBox* complianceCombo;
-    QLabel* compilerLabel;
-    QLabel* analyserLabel;
-    QLabel* messageLabel;
+    /// In the order in which they are asked for.
+    std::array<Field, 3> fields;
     QString noneText;
     QWidget* complianceBox = nullptr;
     /// Says which file Next is waiting for.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/DisplayOptionsPage.h"
 #include "app/AppRegistry.h"
+#include "launchers/PageData.h"
 #include "wizard/ApplicationWindow.h"
 #include "wizard/PageSequence.h"
 

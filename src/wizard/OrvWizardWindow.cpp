@@ -4,6 +4,7 @@
 #include "dialogs/HelpManager.h"
 #include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
+#include "launchers/PageData.h"
 #include "process/StrayProcesses.h"
 #include "wizard/OrvBasicWizardPage.h"
 
@@ -63,9 +64,9 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
     setOptions(QWizard::HaveCustomButton1 | QWizard::NoBackButtonOnLastPage | QWizard::NoBackButtonOnStartPage);
-    if (HelpManager::HelpAvailable()) {
+    if (HelpManager::HelpAvailable(*appRegistry)) {
         setOption(QWizard::HaveHelpButton);
-        help = new HelpManager(this);
+        help = new HelpManager(*appRegistry, this);
     }
     printButton = button(QWizard::CustomButton1);
     printButton->setText(tr("&Print"));
@@ -105,7 +106,7 @@ void OrvWizardWindow::ShowHelp()
 {
     // One manager for all requests: each would answer F1 once more.
     if (!help) {
-        help = new HelpManager(this);
+        help = new HelpManager(*appRegistry, this);
     }
     help->slt_showHelp(HelpManager::currentHelpPage);
 }

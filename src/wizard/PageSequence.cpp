@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/PageSequence.h"
+#include "definitions/ConfigurationKind.h"
 #include "definitions/DefinitionRecords.h"
-#include "wizard/WizardState.h"
+#include "process/WizardState.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -14,7 +17,8 @@ bool asksForPersonalities(const WizardState& state)
 {
     const ProjectCreatorData* creator = state.projectCreator;
     return !state.personalitiesGiven && creator &&
-           (creator->hasMessagePersonality || creator->hasAnalyserPersonality || creator->hasCompilerPersonality);
+           std::ranges::any_of(configurationKinds(),
+                               [&](const ConfigurationFacts& kind) { return creator->*kind.asked; });
 }
 
 } // namespace

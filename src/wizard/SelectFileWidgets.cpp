@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/SelectFileWidgets.h"
+#include "app/AppRegistry.h"
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/FindDialog.h"
 #include "dialogs/MainWindow.h"
@@ -151,7 +152,7 @@ void SelectFileWidgets::EditFile()
         Q_EMIT EditFile(name);
         return;
     }
-    if (!DisplayDialog::showFile(name, name)) {
+    if (!DisplayDialog::showFile(*appRegistry, name, name)) {
         MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not open file"));
     }
 }
@@ -159,7 +160,7 @@ void SelectFileWidgets::EditFile()
 void SelectFileWidgets::FindAFile()
 {
     if (!findDialog) {
-        findDialog = std::make_unique<FindDialog>();
+        findDialog = std::make_unique<FindDialog>(appRegistry->values.installPath);
         findDialog->Setup(caption, filter);
     }
     findDialog->SetSearchStart(browseStart());

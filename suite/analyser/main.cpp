@@ -3,7 +3,6 @@
 #include "OptionFiles.h"
 #include "Reports.h"
 
-#include "app/AppRegistry.h"
 #include "project/Project.h"
 
 #include <QCoreApplication>
@@ -47,8 +46,6 @@ int run(const QString& tool, const ToolOptions& options)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    AppRegistry registry;
-    appRegistry = &registry;
     const QStringList arguments = QCoreApplication::arguments();
     try {
         return run(QFileInfo(arguments.first()).baseName(), readOptions(arguments.mid(1)));

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
-#include "app/BatchInputs.h"
 #include "app/CommandLine.h"
+#include "batch/BatchInputs.h"
 #include "definitions/KOVRASettingsFile.h"
 #include "definitions/Placeholders.h"
 #include "Installation.h"
+#include "process/WizardState.h"
 #include "TestMain.h"
-#include "wizard/WizardState.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -49,7 +49,7 @@ private Q_SLOTS:
         suite.start({u"-tracefile"_s, trace, u"-file"_s, other});
         suite.start({u"-file"_s});
         QCOMPARE(appRegistry->DefinitionsFileName(), suite.path(u"xml/settings.xml"_s));
-        QVERIFY(appRegistry->definitions.projectCreators.size() == 1 && !appRegistry->traceOn);
+        QVERIFY(appRegistry->definitions.projectCreators.size() == 1 && !appRegistry->traceLog.isOn());
         const QString traced = QString::fromUtf8(suite.read(u"trace.txt"_s));
         for (const QString& line : {u"XML file set to: "_s + other, u"KOVRASettingsFile::ReadFile="_s + other,
                                     other + u":2:"_s, u"SetProcessEnvironment: 1"_s}) {
@@ -57,7 +57,7 @@ private Q_SLOTS:
         }
 
         suite.start({u"-tracefile"_s, trace + u"/below a file"_s});
-        QVERIFY(!appRegistry->traceOn);
+        QVERIFY(!appRegistry->traceLog.isOn());
         // A file that is missing where it should be is looked for by its name in the xml area.
         suite.start({u"-file"_s, u"/nowhere/settings.xml"_s});
         QCOMPARE(appRegistry->DefinitionsFileName(), suite.path(u"xml/settings.xml"_s));
@@ -137,7 +137,7 @@ private Q_SLOTS:
         };
         for (const auto& [given, values, problem] : rows) {
             BatchInputs inputs(definitions, true);
-            const QString said = inputs.set(given);
+            const QString said = inputs.set(given).problem;
             QVERIFY2(problem.isEmpty() ? said.isEmpty() : said.contains(problem), qPrintable(given + u": "_s + said));
             QStringList result;
             for (const auto& definition : definitions) {

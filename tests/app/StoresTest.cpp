@@ -2,6 +2,7 @@
 #include "app/AppRegistry.h"
 #include "app/Installations.h"
 #include "app/SettingsStore.h"
+#include "definitions/EnvironmentValue.h"
 #include "TestMain.h"
 
 #include <QDir>

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
-#include "app/BatchInputs.h"
+#include "batch/BatchInputs.h"
 #include "definitions/KOVRASettingsFile.h"
 #include "definitions/Placeholders.h"
 #include "Installation.h"
+#include "launchers/PageData.h"
+#include "launchers/PageReader.h"
+#include "launchers/RunAppData.h"
 #include "process/ArgumentSubstitution.h"
-#include "process/RunAppData.h"
+#include "process/WizardState.h"
 #include "TestMain.h"
-#include "wizard/WizardState.h"
 
 #include <QDir>
 #include <QFile>
@@ -96,7 +98,7 @@ private Q_SLOTS:
                 <inputData><inputType>RADIO</inputType><inputType TYPE="other">nonsense</inputType></inputData>
               </inputData>
             </projectCreator></group></settings>)",
-                              {u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s});
+                              {.places = {u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s}, .readPage = readLauncherPage});
         QCOMPARE(settings.projectCreators.size(), size_t(2));
         const ProjectCreatorData& creator = *settings.projectCreators[0];
         QCOMPARE(creator.name + creator.exe, u"Make  file/orvc/bin/conv"_s);
@@ -136,7 +138,7 @@ private Q_SLOTS:
             <crossModuleAnalysis><exe>%I%\bin\cma</exe><exeargs> -x  y</exeargs></crossModuleAnalysis>
             <applicationPage title="A"><title>t</title><columns>four</columns><buttonwidth>7</buttonwidth></applicationPage>
             <display_options title="ignored"/><reportsPage title="R"/></settings>)",
-                              {u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s});
+                              {.places = {u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s}, .readPage = readLauncherPage});
         const auto& modules = settings.complianceModules;
         QVERIFY(modules.size() == 3 && !modules[0]->isC && modules[1]->isC && modules[2]->isC);
         QCOMPARE(modules[0]->location, u"/orvc/m"_s);
@@ -173,14 +175,15 @@ private Q_SLOTS:
     void convertsAndLaunchesTheWorkedExample()
     {
         KOVRASettingsFile settings;
-        settings.readDocument(guideBlock(u"xml worked-example"_s).toUtf8(), {});
+        settings.readDocument(guideBlock(u"xml worked-example"_s).toUtf8(), {.readPage = readLauncherPage});
         QCOMPARE(settings.lastError.reason, QString());
         ProjectCreatorData& creator = *settings.projectCreators.at(0);
         QVERIFY(creator.orvcProject && creator.orvcppProject && creator.exe == "listprj"_L1);
         QCOMPARE(creator.inputData.at(1)->key, u"OutputfolderIN_OUTPUTMyfilelist"_s);
         QVERIFY(creator.inputData.at(0)->fileMustExist && creator.inputData.at(1)->mustBeSet);
         BatchInputs inputs(creator.inputData, true);
-        QCOMPARE(inputs.set(u"File list=files.txt"_s) + inputs.set(u"Order/Sorted=1"_s), QString());
+        QCOMPARE(inputs.set(u"File list=files.txt"_s).problem, QString());
+        QCOMPARE(inputs.set(u"Order/Sorted=1"_s).problem, QString());
         for (const auto& input : creator.inputData) {
             InputValues::value(*input, inputs.source(), true);
         }
@@ -195,7 +198,7 @@ private Q_SLOTS:
         RunAppData& show = *page.applications.at(0);
         RunAppData& count = *page.applications.at(1);
         QCOMPARE(show.name + show.cExe + show.cppExe, u"Show the\nproject filecatcat"_s);
-        QVERIFY(show.displayMode == RunAppData::TextDisplay && QFile::exists(show.rightImage));
+        QVERIFY(show.displayMode == TextDisplay && QFile::exists(show.rightImage));
         QCOMPARE(count.exeargs, (QStringList{u"-l"_s, u"%PF"_s}));
         QVERIFY(count.startsDisabled && !show.startsDisabled);
         QCOMPARE(page.conditions.value(u"seen"_s),
@@ -206,7 +209,8 @@ private Q_SLOTS:
     void readsWhatTheSchemaAccepts()
     {
         KOVRASettingsFile settings;
-        settings.readDocument(sourceFile(u"tests/definitions/schema/accepted-everything.xml"_s).toUtf8(), {});
+        settings.readDocument(sourceFile(u"tests/definitions/schema/accepted-everything.xml"_s).toUtf8(),
+                              {.readPage = readLauncherPage});
         QCOMPARE(settings.lastError.reason, QString());
         QVERIFY(settings.crossModuleAnalyses.size() == 2 && settings.complianceModules.size() == 2);
         QVERIFY(settings.codingStandards.size() == 2 && settings.reportsPages.size() == 1);

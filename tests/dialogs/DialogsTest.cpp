@@ -28,12 +28,12 @@ private Q_SLOTS:
     void showsWindowsAndListsThem()
     {
         Installation suite;
-        const AppRegistry& registry = suite.start();
-        DisplayDialog message(u"t"_s, DisplayDialog::Message, 600, 70);
+        AppRegistry& registry = suite.start();
+        DisplayDialog message(registry, u"t"_s, DisplayDialog::Message, 600, 70);
         QCOMPARE(message.findChild<QLabel*>()->textFormat(), Qt::PlainText);
         {
-            const DisplayDialog gone(u"t"_s, DisplayDialog::Text, 10, 10);
-            DisplayDialog html(u"t"_s, DisplayDialog::Html, 600, 600);
+            const DisplayDialog gone(registry, u"t"_s, DisplayDialog::Text, 10, 10);
+            DisplayDialog html(registry, u"t"_s, DisplayDialog::Html, 600, 600);
             html.SetText(u"<h1>Größe €</h1>"_s);
             html.show();
             auto* browser = html.findChild<QTextBrowser*>();
@@ -62,8 +62,8 @@ private Q_SLOTS:
         Installation suite;
         suite.start();
         const QString text = u"one line of a <b>report\n"_s.repeated(50000) + QString(100000, u'x');
-        DisplayDialog plain(u"t"_s, DisplayDialog::Text, 600, 600);
-        DisplayDialog html(u"t"_s, DisplayDialog::Html, 600, 600);
+        DisplayDialog plain(*appRegistry, u"t"_s, DisplayDialog::Text, 600, 600);
+        DisplayDialog html(*appRegistry, u"t"_s, DisplayDialog::Html, 600, 600);
         const QTextDocument& document = *plain.findChild<QPlainTextEdit*>()->document();
         plain.SetText(text);
         QVERIFY(document.blockCount() < 20000);
@@ -103,7 +103,7 @@ private Q_SLOTS:
             suite.write(u"work/closed/no.c"_s, "");
         }
         QVERIFY(QFile::setPermissions(closed, {}));
-        FindDialog dialog;
+        FindDialog dialog(appRegistry->values.installPath);
         dialog.show();
         QLineEdit& location = *dialog.findChild<QLineEdit*>();
         QListWidget& list = *dialog.findChild<QListWidget*>();

@@ -39,22 +39,23 @@ private Q_SLOTS:
     {
         Installation suite;
         AppRegistry& registry = suite.start();
-        QVERIFY(!HelpManager::HelpAvailable());
+        QVERIFY(!HelpManager::HelpAvailable(registry));
         const QString profile = installHelp(suite);
-        QVERIFY(HelpManager::HelpAvailable());
+        QVERIFY(HelpManager::HelpAvailable(registry));
         const HelpCollection collection(profile);
-        QCOMPARE(HelpManager::ViewerArguments(collection), (QStringList{u"-collectionFile"_s, profile}));
+        QCOMPARE(HelpManager::ViewerArguments(registry, collection), (QStringList{u"-collectionFile"_s, profile}));
         // What the suite says counts, up to where its file is cut.
         registry.installValues.readDocument("<x><y><helpProfileStr>-own</helpProfileStr></y><wendleHelpFile>own.qhc"
                                             "</wendleHelpFile><wendleHelpDir>cut");
-        QCOMPARE(HelpManager::ViewerArguments(collection), (QStringList{u"-own"_s, suite.path(u"help/own.qhc"_s)}));
+        QCOMPARE(HelpManager::ViewerArguments(registry, collection),
+                 (QStringList{u"-own"_s, suite.path(u"help/own.qhc"_s)}));
 
         for (const QByteArray& contents : {QByteArray("<assistantconfig/>"), QByteArray()}) {
             suite.write(u"help/wendle.adp"_s, contents);
             suite.start();
             const HelpCollection old(profile);
             QVERIFY(!old.isCollection());
-            QCOMPARE(HelpManager::ViewerArguments(old), (QStringList{u"-profile"_s, profile}));
+            QCOMPARE(HelpManager::ViewerArguments(registry, old), (QStringList{u"-profile"_s, profile}));
             QCOMPARE(suite.read(u"help/wendle.adp"_s), contents);
         }
     }
@@ -131,7 +132,7 @@ private Q_SLOTS:
         suite.start();
         {
             AssistantClient client;
-            client.setArguments(HelpManager::ViewerArguments(HelpCollection(profile)));
+            client.setArguments(HelpManager::ViewerArguments(*appRegistry, HelpCollection(profile)));
             client.showPage(QUrl(space + u"projectCreation.htm"_s));
             QTRY_VERIFY_WITH_TIMEOUT(isShown(), 30000);
         }

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
+#include "app/ProcessEnvironment.h"
 #include "definitions/DefinitionRecords.h"
 #include "Installation.h"
+#include "process/AnalyserEnvironment.h"
 #include "process/ArgumentSubstitution.h"
 #include "process/ConversionRun.h"
 #include "process/OutputBuffer.h"
-#include "process/ProcessEnvironment.h"
 #include "process/StrayProcesses.h"
+#include "process/WizardState.h"
 #include "TestMain.h"
 #include "TestRows.h"
-#include "wizard/WizardState.h"
 
 #include <QDir>
 #include <QFile>

@@ -228,7 +228,8 @@ private Q_SLOTS:
     {
         const Workspace work;
         const QString file = work.project("*lastAnalysis=V1\na.c\nb.c\n");
-        const auto status = [&file] { return Project(file).statusText.section(u'\n', 0, 0); };
+        ProjectFacts facts;
+        const auto status = [&] { return Project(file, facts).statusText.section(u'\n', 0, 0); };
         const QString complete = u"Analysis of this project is complete"_s;
         const QString outOfDate = u"Analysis of this project is out of date"_s;
         work.touch(u"a.c"_s, 1);
@@ -246,12 +247,12 @@ private Q_SLOTS:
         work.touch(u"a.p_a"_s, 20);
         QCOMPARE(status(), outOfDate);
         work.analyse(u"ab"_s, 20);
-        appRegistry->values.cCurrentCEValue = u"V1"_s;
+        facts.cConfiguration = u"V1"_s;
         QCOMPARE(status(), complete);
-        appRegistry->values.cCurrentCEValue = u"V2"_s;
+        facts.cConfiguration = u"V2"_s;
         const QString changed = complete + u", but configuration changed since last analysis"_s;
         QCOMPARE(status(), changed);
-        appRegistry->values.cCurrentCEValue.clear();
+        facts.cConfiguration.clear();
         work.project("a.c\nb.c\n");
         QCOMPARE(Project(file).statusText, changed + u"\n   Files in project: 2\n   Analysed with: unknown"_s);
     }
@@ -285,9 +286,9 @@ private Q_SLOTS:
             suite.write(u"p.prj"_s, "VersionTag\n" + versioned("P", "a.c\n", root) + "StartSubProjectMarker\n" +
                                         versioned("Q", "b.c\nc.c\n", root + "/q") + versioned("R", "d.c\n") + "end\n");
         Project project(file);
-        QString problem;
-        const QStringList result = project.expandLauncherArguments(u"%Q|%PF|%P+|%P|%L+|%L|%R+|%R| %P|%p|"_s.split(u'|'),
-                                                                   u"ORVC"_s, u"extra"_s, &problem);
+        const OptionSources sources = appRegistry->optionSources();
+        const auto [result, problem] = project.expandLauncherArguments(
+            u"%Q|%PF|%P+|%P|%L+|%L|%R+|%R| %P|%p|"_s.split(u'|'), u"ORVC"_s, u"extra"_s, sources);
         QVERIFY2(problem.isEmpty() && result.size() == 16, qPrintable(problem));
         const QString& options = result[3];
         const QString& list = result[8];
@@ -299,7 +300,7 @@ private Q_SLOTS:
         QCOMPARE(suite.read(list), "-outputpath \"" + root + "/out\"\n-outputpath \"" + root + "/q/out\"\n\"" + root +
                                        "/q/b.c\"\n-cmaf \"" + root + "/out/P\"\n");
         // The option file is kept as long as its text is the same, the list is always new.
-        const QStringList again = project.expandLauncherArguments({u"%P"_s, u"%L"_s}, {}, {});
+        const QStringList again = project.expandLauncherArguments({u"%P"_s, u"%L"_s}, {}, {}, sources).value;
         QVERIFY(again.size() == 2 && again[0] == options && again[1] != list);
     }
 };

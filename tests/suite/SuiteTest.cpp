@@ -149,7 +149,7 @@ private Q_SLOTS:
         QVERIFY2(result.status == 0 && result.errors.isEmpty(), qPrintable(result.errors));
         QVERIFY(result.output.endsWith(u"New project file: "_s + project + u'\n'));
         const QByteArray text = suite.read(u"work/batch/p.prj"_s);
-        QVERIFY(text.contains("\n" SOURCE_FOLDER "/src/app/Startup.cpp\n"));
+        QVERIFY(text.contains("\n" SOURCE_FOLDER "/src/program/Startup.cpp\n"));
 
         result = suite.run(wanted);
         QCOMPARE(result.status, 2);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Installation.h"
 #include "app/AppRegistry.h"
+#include "launchers/PageReader.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -80,6 +81,7 @@ AppRegistry& Installation::start(const QStringList& options)
     registry.reset();
     registry = std::make_unique<AppRegistry>();
     appRegistry = registry.get();
+    registry->readPage = readLauncherPage;
     registry->Init(qApp, QStringList{path(u"bin/ProjectCreation"_s)} + options, u"Create KOVRA Project"_s, 650, 430,
                    {});
     return *registry;

@@ -49,22 +49,6 @@
         <translation>Vollständige Ausgabe, solange der Assistent geöffnet ist: %1</translation>
     </message>
     <message>
-        <source>New project file: </source>
-        <translation>Neue Projektdatei: </translation>
-    </message>
-    <message>
-        <source>Error: Project file [%1] not created</source>
-        <translation>Fehler: Projektdatei [%1] wurde nicht erstellt</translation>
-    </message>
-    <message>
-        <source>Error: Could not run conversion process</source>
-        <translation>Fehler: Das Konvertierungsprogramm konnte nicht ausgeführt werden</translation>
-    </message>
-    <message>
-        <source>Error: Conversion Process Failed</source>
-        <translation>Fehler: Die Konvertierung ist fehlgeschlagen</translation>
-    </message>
-    <message>
         <source>Conversion Operation Finished</source>
         <translation>Die Konvertierung ist beendet</translation>
     </message>
@@ -246,22 +230,6 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
         <translation>-prj: Die Datei %1 kann nicht erstellt werden</translation>
     </message>
     <message>
-        <source>New project file: </source>
-        <translation>Neue Projektdatei: </translation>
-    </message>
-    <message>
-        <source>Error: Project file [%1] not created</source>
-        <translation>Fehler: Projektdatei [%1] wurde nicht erstellt</translation>
-    </message>
-    <message>
-        <source>Error: Could not run conversion process</source>
-        <translation>Fehler: Das Konvertierungsprogramm konnte nicht ausgeführt werden</translation>
-    </message>
-    <message>
-        <source>Error: Conversion Process Failed</source>
-        <translation>Fehler: Die Konvertierung ist fehlgeschlagen</translation>
-    </message>
-    <message>
         <source>%1: this conversion type or installation allows only the other analyser</source>
         <translation>%1: diese Konvertierungsart oder Installation erlaubt nur den anderen Analysator</translation>
     </message>
@@ -342,24 +310,12 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
         <translation>Konfiguration für den Compiler auswählen</translation>
     </message>
     <message>
-        <source>*.p_c</source>
-        <translation>*.p_c</translation>
-    </message>
-    <message>
         <source>Select Project Configuration Options</source>
         <translation>Konfiguration für das Projekt auswählen</translation>
     </message>
     <message>
-        <source>*.p_a</source>
-        <translation>*.p_a</translation>
-    </message>
-    <message>
         <source>Select Message Configuration Options</source>
         <translation>Konfiguration für die Meldungen auswählen</translation>
-    </message>
-    <message>
-        <source>*.p_s</source>
-        <translation>*.p_s</translation>
     </message>
     <message>
         <source>Compiler Configuration File:</source>
@@ -408,6 +364,22 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
 </context>
 <context>
     <name>ConversionRun</name>
+    <message>
+        <source>New project file: </source>
+        <translation>Neue Projektdatei: </translation>
+    </message>
+    <message>
+        <source>Error: Project file [%1] not created</source>
+        <translation>Fehler: Projektdatei [%1] wurde nicht erstellt</translation>
+    </message>
+    <message>
+        <source>Error: Could not run conversion process</source>
+        <translation>Fehler: Das Konvertierungsprogramm konnte nicht ausgeführt werden</translation>
+    </message>
+    <message>
+        <source>Error: Conversion Process Failed</source>
+        <translation>Fehler: Die Konvertierung ist fehlgeschlagen</translation>
+    </message>
     <message>
         <source>The old project file can not be removed: %1. Close programs that use it.</source>
         <translation>Die alte Projektdatei kann nicht entfernt werden: %1. Schließen Sie Programme, die sie verwenden.</translation>
@@ -721,24 +693,12 @@ Möchten Sie diese Anwendung schließen?</translation>
         <translation>In %1 kann keine temporäre Datei geschrieben werden. Schaffen Sie dort Platz, oder machen Sie den Ordner beschreibbar.</translation>
     </message>
     <message>
-        <source>[The output is longer than this and could not be kept]</source>
-        <translation>[Die Ausgabe ist länger und konnte nicht aufbewahrt werden]</translation>
-    </message>
-    <message>
-        <source>[The output is longer than this. Until the wizard is closed it is in %1]</source>
-        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie in %1]</translation>
-    </message>
-    <message>
         <source>Running. Its context menu stops it.</source>
         <translation>Läuft. Das Kontextmenü hält das Werkzeug an.</translation>
     </message>
     <message>
         <source>Available once this has succeeded: %1</source>
         <translation>Verfügbar, sobald dies gelungen ist: %1</translation>
-    </message>
-    <message>
-        <source>[The output is longer than this. Until the wizard is closed it is, without its end, in %1]</source>
-        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie ohne ihr Ende in %1]</translation>
     </message>
 </context>
 <context>
@@ -940,6 +900,21 @@ Möchten Sie diesen Ordner erstellen?
     <message>
         <source>To continue, fill in &quot;%1&quot;.</source>
         <translation>Um fortzufahren, füllen Sie „%1“ aus.</translation>
+    </message>
+</context>
+<context>
+    <name>LauncherOutput</name>
+    <message>
+        <source>[The output is longer than this and could not be kept]</source>
+        <translation>[Die Ausgabe ist länger und konnte nicht aufbewahrt werden]</translation>
+    </message>
+    <message>
+        <source>[The output is longer than this. Until the wizard is closed it is, without its end, in %1]</source>
+        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie ohne ihr Ende in %1]</translation>
+    </message>
+    <message>
+        <source>[The output is longer than this. Until the wizard is closed it is in %1]</source>
+        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie in %1]</translation>
     </message>
 </context>
 </TS>

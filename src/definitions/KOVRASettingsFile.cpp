@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "definitions/KOVRASettingsFile.h"
+#include "definitions/ConfigurationKind.h"
+#include "definitions/DefinitionsXml.h"
+#include "definitions/InputDataReader.h"
+#include "definitions/PathHelpers.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The kind that a child element gives a file of; none for any other child.
+const ConfigurationFacts* configurationOf(QStringView element, QLatin1StringView ConfigurationFacts::*name)
+{
+    const auto& kinds = configurationKinds();
+    const auto kind =
+        std::ranges::find_if(kinds, [&](const ConfigurationFacts& facts) { return element == facts.*name; });
+    return kind == kinds.end() ? nullptr : &*kind;
+}
+
+// A personality of a conversion type serves the analyser that its TYPE names.
+void readPersonality(QXmlStreamReader& xml, const TextExpander& expand, ProjectCreatorData& creator,
+                     const ConfigurationFacts& kind)
+{
+    creator.*kind.asked = true;
+    const QString analyser = xml.attributes().value("TYPE"_L1).toString();
+    const QString path = expand(xml.readElementText());
+    if (analyser == "C"_L1) {
+        creator.*kind.cPreset = path;
+    } else if (analyser == "CPP"_L1) {
+        creator.*kind.cppPreset = path;
+    }
+}
+
+void readProjectCreator(QXmlStreamReader& xml, ProjectCreatorData& creator, const TextExpander& expand)
+{
+    readRecord(xml, u"projectCreator", [&](QStringView name) {
+        if (name == "name"_L1) {
+            creator.name = xml.readElementText();
+        } else if (name == "exe"_L1) {
+            creator.exe = expand(xml.readElementText());
+        } else if (name == "exeargs"_L1) {
+            // Simplified text has single blanks between its words.
+            creator.exeArgs = xml.readElementText().simplified().split(u' ', Qt::SkipEmptyParts);
+        } else if (name == "orvcProject"_L1) {
+            creator.orvcProject |= xml.readElementText().toInt() != 0;
+        } else if (name == "orvcppProject"_L1) {
+            creator.orvcppProject |= xml.readElementText().toInt() != 0;
+        } else if (name == "inputData"_L1) {
+            readInputData(xml, creator, nullptr, expand);
+        } else if (const auto* kind = configurationOf(name, &ConfigurationFacts::name)) {
+            readPersonality(xml, expand, creator, *kind);
+        }
+    });
+}
+
+void readComplianceModule(QXmlStreamReader& xml, ComplianceModule& module, const TextExpander& expand)
+{
+    const auto path = [&] { return QDir::cleanPath(expand(ToForwardSlashes(xml.readElementText()))); };
+    readRecord(xml, u"compliance_module", [&](QStringView name) {
+        if (name == "product"_L1) {
+            const QString product = xml.readElementText();
+            module.isC = product == "ORVC"_L1 || product == "orvc"_L1;
+        } else if (name == "name"_L1) {
+            module.name = xml.readElementText();
+        } else if (name == "location"_L1) {
+            module.location = path();
+        } else if (const auto* kind = configurationOf(name, &ConfigurationFacts::moduleElement)) {
+            module.*kind->moduleFile = path();
+        }
+    });
+}
+
+// Unlike the others this record reads every child as text, so a child with elements of its own is an error.
+void readCodingStandard(QXmlStreamReader& xml, CodingStandard& standard, const TextExpander& expand)
+{
+    standard.name = xml.attributes().value("name"_L1).toString();
+    standard.isC = xml.attributes().value("language"_L1) != "C++"_L1;
+    readRecord(xml, u"codingStandard", [&](QStringView element) {
+        const QString name = element.toString();
+        const QString text = expand(ToForwardSlashes(xml.readElementText()));
+        if (const auto* kind = configurationOf(name, &ConfigurationFacts::name)) {
+            standard.*kind->standardFile = text;
+        } else if (name == "description"_L1) {
+            standard.description = text;
+        }
+    });
+}
+
+void readCrossModuleAnalysis(QXmlStreamReader& xml, CrossModuleAnalysis& analysis, const TextExpander& expand)
+{
+    readRecord(xml, u"crossModuleAnalysis", [&](QStringView name) {
+        if (name == "exe"_L1) {
+            analysis.exe = QDir::cleanPath(expand(ToForwardSlashes(xml.readElementText())));
+        } else if (name == "exeargs"_L1) {
+            analysis.exeArgs = splitAtWhiteSpace(xml.readElementText());
+        }
+    });
+}
+
+void readPage(QXmlStreamReader& xml, std::vector<std::shared_ptr<PageData>>& pages, const PageReader& read,
+              const TextExpander& expand)
+{
+    if (read) {
+        pages.push_back(read(xml, expand));
+    } else {
+        readRecord(xml, xml.name().toString(), [](QStringView) {});
+    }
+}
+
+template <typename Record>
+Record& add(std::vector<std::unique_ptr<Record>>& list)
+{
+    return *list.emplace_back(std::make_unique<Record>());
+}
+
+} // namespace
+
+void KOVRASettingsFile::ReadFile(const QString& name, const Context& context)
+{
+    const auto trace = [&](const QString& label, const QString& value) {
+        if (context.trace) {
+            context.trace(label, value);
+        }
+    };
+    const QString located = LocateFile(name, context.xmlArea);
+    trace(u"KOVRASettingsFile::ReadFile="_s, located);
+    file.setFileName(located);
+    reportsPages.clear();
+    applicationPages.clear();
+    lastError = {};
+    const QFileInfo info(located);
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+        const QString reason = !info.exists()   ? u"it does not exist"_s
+                               : !info.isFile() ? u"it is not a file"_s
+                                                : file.errorString();
+        trace(u"KOVRASettingsFile::ReadFile: "_s, located + u": "_s + reason);
+        return;
+    }
+    const QByteArray document = file.readAll();
+    file.close();
+    readDocument(document, context);
+    if (lastError.line > 0) {
+        trace(u"KOVRASettingsFile::ReadFile: "_s,
+              u"%1:%2:%3: %4"_s.arg(located).arg(lastError.line).arg(lastError.column).arg(lastError.reason));
+    }
+}
+
+bool KOVRASettingsFile::hasConversionTypes() const
+{
+    return std::ranges::any_of(projectCreators, [](const auto& creator) { return !creator->name.isEmpty(); });
+}
+
+QStringList KOVRASettingsFile::standardFiles() const
+{
+    QStringList files;
+    for (const auto& standard : codingStandards) {
+        if (standard->available && standard->selected) {
+            for (const ConfigurationFacts& kind : configurationKinds()) {
+                files += (*standard).*kind.standardFile;
+            }
+        }
+    }
+    return files;
+}
+
+void KOVRASettingsFile::readDocument(const QByteArray& document, const Context& context)
+{
+    const QStringList environment = QProcess::systemEnvironment();
+    const TextExpander expand = [&](const QString& text) {
+        return ExpandPlaceholders(text, context.places, environment);
+    };
+    QXmlStreamReader xml(document);
+    while (!xml.atEnd() && !xml.hasError()) {
+        if (readToken(xml) != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        const QString element = xml.name().toString();
+        if (element == "reportsPage"_L1) {
+            readPage(xml, reportsPages, context.readPage, expand);
+        } else if (element == "applicationPage"_L1 || element == "display_options"_L1) {
+            readPage(xml, applicationPages, context.readPage, expand);
+        } else if (element == "codingStandard"_L1) {
+            readCodingStandard(xml, add(codingStandards), expand);
+        } else if (element == "crossModuleAnalysis"_L1) {
+            readCrossModuleAnalysis(xml, add(crossModuleAnalyses), expand);
+        } else if (element == "compliance_module"_L1) {
+            readComplianceModule(xml, add(complianceModules), expand);
+        } else if (element == "projectCreator"_L1) {
+            readProjectCreator(xml, add(projectCreators), expand);
+        }
+    }
+    if (xml.hasError()) {
+        lastError = {xml.lineNumber(), xml.columnNumber(), xml.errorString()};
+    }
+}

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "launchers/LauncherOutput.h"
+#include "launchers/WindowLock.h"
+#include "personality/Result.h"
+#include "process/ChildProcess.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QPushButton>
+#include <QString>
+#include <QStringList>
+
+class ExecutableLookup;
+class PageData;
+class QAction;
+
+/// A launcher: a button that runs a tool of the suite on the new project.
+class RunAppData : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit RunAppData(PageData* page);
+    ~RunAppData() override;
+
+    /// The program for the page's analyser.
+    const QString& CurrentExe() const;
+    /// Looks the program and its dependencies up; what is missing is told in disabledReason.
+    bool ExecutablesFound(ExecutableLookup& lookup);
+    bool isRunning() const { return process.state() != QProcess::NotRunning; }
+    /// The same, or something runs that an earlier run left behind.
+    bool isAlive() { return isRunning() || process.hasLeftovers(); }
+    /// The name in one line.
+    QString title() const;
+    /// Stops the run and closes all output windows.
+    void Terminate();
+    /// Marks the button while the tool runs, and offers Stop in its context menu.
+    void attachButton(QPushButton* pushButton);
+    void enableButton(bool enabled);
+
+public Q_SLOTS:
+    void Activate();
+    void ActivateComplete();
+
+public:
+    /// Stops this run only; what it still prints is not shown.
+    void Stop();
+
+    QString name;
+    QString cExe;
+    QString cppExe;
+    QString colour;
+    QString image;
+    QString aboveImage;
+    QString belowImage;
+    QString leftImage;
+    QString rightImage;
+    QStringList exeargs;
+    bool runFromExeDir = false;
+    int type = 0;
+    int buttonwidth = 0;
+    int columnspan = 1;
+    int rowspan = 1;
+    int displayMode = NoDisplay;
+    /// Show the wait cursor and lock the wizard while the program runs.
+    bool busyCursor = false;
+    QString description;
+    QStringList dependency;
+    QPointer<QPushButton> button;
+    bool startsDisabled = false;
+    QString disabledReason;
+    ChildProcess process;
+    bool terminated = false;
+    PageData* page;
+
+private:
+    Result<QStringList> prepareArguments();
+    /// The message selection for the tool; no file when the user does not want one.
+    static Result<QString> prepareMessageFile();
+    void readOutput();
+    void readErrors();
+    bool showOutput();
+    void showFailure();
+    void markRunning(bool isRunning);
+    void updateToolTip();
+
+    bool awaitingEnd = false;
+    LauncherOutput output;
+    WindowLock windowLock;
+    QPointer<QAction> stopAction;
+};
