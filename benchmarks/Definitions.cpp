@@ -6,6 +6,9 @@
 
 #include <QXmlStreamReader>
 
+#include <memory>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 int main()

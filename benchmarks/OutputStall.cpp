@@ -13,6 +13,9 @@
 #include <QFile>
 #include <QTimer>
 
+#include <algorithm>
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -8,6 +8,7 @@
 #include <QSettings>
 
 #include <array>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 

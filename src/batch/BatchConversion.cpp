@@ -163,7 +163,7 @@ Result<void> BatchConversion::fillInputs(const BatchArguments& batch)
         return {text.arg(missing->displayName)};
     }
     for (const auto& input : state.projectCreator->inputData) {
-        InputValues::value(*input, source, true);
+        InputValues::remember(*input, source);
     }
     return {};
 }

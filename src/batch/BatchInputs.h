@@ -14,7 +14,7 @@
 class BatchInputs
 {
 public:
-    BatchInputs(const ArgumentDefinitions& definitions, bool isC);
+    BatchInputs(const ArgumentDefinitions& definitions, bool forC);
 
     /// Takes <name>=<value>, where the name is a field's path ("group/field") or its own name.
     Result<void> set(const QString& input);

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;

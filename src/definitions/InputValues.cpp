@@ -9,15 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void remember(ArgumentDefinition& definition, const FieldState& field)
-{
-    if (field.hasText && field.textEnabled) {
-        definition.value = field.text;
-    } else if (field.hasSwitch && field.switchActive) {
-        definition.value = field.checked ? u"1"_s : u"0"_s;
-    }
-}
-
 QString switchValue(const ArgumentDefinition& definition, const FieldState& field)
 {
     if (!field.hasSwitch || !field.switchActive) {
@@ -29,23 +20,29 @@ QString switchValue(const ArgumentDefinition& definition, const FieldState& fiel
     return field.checked ? definition.outputString : QString();
 }
 
-QString groupValue(ArgumentDefinition& group, const FieldSource& source, bool store)
+QString groupValue(const ArgumentDefinition& group, const FieldSource& source)
 {
     QStringList parts;
     for (const auto& child : group.children) {
-        const FieldState field = source(*child);
         if (child->isSwitch()) {
+            const FieldState field = source(*child);
             if (field.hasSwitch && field.switchActive && field.checked) {
                 parts += child->outputString.isEmpty() ? child->displayName : child->outputString;
             }
-        } else if (const QString text = InputValues::value(*child, source, false); !text.isEmpty()) {
+        } else if (const QString text = InputValues::value(*child, source); !text.isEmpty()) {
             parts += text;
-        }
-        if (store) {
-            remember(*child, field);
         }
     }
     return parts.join(group.separator);
+}
+
+void rememberField(ArgumentDefinition& definition, const FieldState& field)
+{
+    if (field.hasText && field.textEnabled) {
+        definition.value = field.text;
+    } else if (field.hasSwitch && field.switchActive) {
+        definition.value = field.checked ? u"1"_s : u"0"_s;
+    }
 }
 
 template <typename Visit>
@@ -67,22 +64,27 @@ void forEachField(const std::vector<std::unique_ptr<ProjectCreatorData>>& creato
 
 } // namespace
 
-QString InputValues::value(ArgumentDefinition& definition, const FieldSource& source, bool store)
+QString InputValues::value(const ArgumentDefinition& definition, const FieldSource& source)
 {
-    const FieldState field = source(definition);
-    QString result;
     if (definition.inputType == InputType::Group) {
-        result = groupValue(definition, source, store);
-    } else if (definition.isSwitch()) {
-        result = switchValue(definition, field);
-    } else if (field.textEnabled) {
-        result = field.text;
+        return groupValue(definition, source);
     }
-    if (store) {
-        definition.value = result;
-        remember(definition, field);
+    const FieldState field = source(definition);
+    if (definition.isSwitch()) {
+        return switchValue(definition, field);
     }
-    return result;
+    return field.textEnabled ? field.text : QString();
+}
+
+void InputValues::remember(ArgumentDefinition& definition, const FieldSource& source)
+{
+    definition.value = value(definition, source);
+    rememberField(definition, source(definition));
+    if (definition.inputType == InputType::Group) {
+        for (const auto& child : definition.children) {
+            rememberField(*child, source(*child));
+        }
+    }
 }
 
 const ArgumentDefinition* InputValues::firstIncomplete(const ArgumentDefinitions& definitions,
@@ -93,7 +95,7 @@ const ArgumentDefinition* InputValues::firstIncomplete(const ArgumentDefinitions
         if (!definition->mustBeSet && !(namesFile && definition->fileMustExist)) {
             continue;
         }
-        const QString text = value(*definition, source, false);
+        const QString text = value(*definition, source);
         if (definition->mustBeSet && text.simplified().isEmpty()) {
             return definition.get();
         }

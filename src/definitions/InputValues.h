@@ -6,6 +6,8 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
+#include <vector>
 
 class QSettings;
 
@@ -26,8 +28,11 @@ using FieldSource = std::function<FieldState(const ArgumentDefinition&)>;
 /// How the fields of a conversion type become texts, whether they are complete, and how they are remembered.
 namespace InputValues {
 
-/// The field's value; a group joins what its children contribute. With store the value is remembered in the record.
-QString value(ArgumentDefinition& definition, const FieldSource& source, bool store);
+/// The field's value; a group joins what its children contribute.
+QString value(const ArgumentDefinition& definition, const FieldSource& source);
+
+/// Keeps what the field and, of a group, its children hold in their records.
+void remember(ArgumentDefinition& definition, const FieldSource& source);
 
 /// The first top-level field that lacks what it must have; none when all is complete.
 const ArgumentDefinition* firstIncomplete(const ArgumentDefinitions& definitions, const FieldSource& source);

@@ -55,10 +55,10 @@ QString withShortLines(QStringView text)
 
 } // namespace
 
-DisplayDialog::DisplayDialog(AppRegistry& listing, const QString& title, int displayMode, int width, int height,
+DisplayDialog::DisplayDialog(AppRegistry& owner, const QString& title, int displayMode, int width, int height,
                              QWidget* parent)
     : QDialog(parent)
-    , registry(&listing)
+    , registry(&owner)
     , mode(displayMode)
 {
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |

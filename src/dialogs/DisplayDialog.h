@@ -22,8 +22,7 @@ public:
     /// The ways of showing a text, with the numbers that launchers use.
     enum Mode { Text = 1, Html = 2, Message = 3 };
 
-    DisplayDialog(AppRegistry& registry, const QString& title, int mode, int width, int height,
-                  QWidget* parent = nullptr);
+    DisplayDialog(AppRegistry& owner, const QString& title, int mode, int width, int height, QWidget* parent = nullptr);
     ~DisplayDialog() override;
 
     /// Shows the text. A large plain text appears at once and is completed in portions, so that the window stays alive.

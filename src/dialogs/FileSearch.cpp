@@ -5,7 +5,9 @@
 #include <QFile>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <dirent.h>

@@ -24,7 +24,7 @@ public:
         virtual void fileFound(const QString& absolutePath) = 0;
     };
 
-    explicit FileSearch(const QStringList& patterns);
+    explicit FileSearch(const QStringList& wildcards);
 
     void run(const QString& folder, Listener& listener) const;
 

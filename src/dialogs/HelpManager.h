@@ -19,7 +19,7 @@ class HelpManager : public QObject
     Q_OBJECT
 
 public:
-    HelpManager(const AppRegistry& registry, QObject* parent);
+    HelpManager(const AppRegistry& suite, QObject* parent);
     ~HelpManager() override;
 
     static QString HelpDirectory(const AppRegistry& registry);

@@ -7,6 +7,7 @@
 #include <QDir>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 

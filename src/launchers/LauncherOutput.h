@@ -19,7 +19,7 @@ public:
     using FileMaker = std::function<QString(const QString& suffix)>;
 
     /// makeFile gives an empty file for an output that is too long to be kept here, or an empty text.
-    explicit LauncherOutput(FileMaker makeFile);
+    explicit LauncherOutput(FileMaker fileMaker);
 
     /// Forgets what there was; what comes will be shown in this mode.
     void start(int displayMode);

@@ -7,6 +7,7 @@
 #include "process/ExecutableLookup.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 

@@ -16,6 +16,7 @@
 #include <QDir>
 
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

@@ -22,7 +22,7 @@ class RunAppData : public QObject
     Q_OBJECT
 
 public:
-    explicit RunAppData(PageData* page);
+    explicit RunAppData(PageData* owner);
     ~RunAppData() override;
 
     /// The program for the page's analyser.

@@ -14,7 +14,7 @@ QString FindExecutable(const QString& program, const QStringList& folders);
 class ExecutableLookup
 {
 public:
-    explicit ExecutableLookup(QStringList folders);
+    explicit ExecutableLookup(QStringList searched);
 
     QString find(const QString& program);
 

@@ -21,7 +21,7 @@ public:
     void terminate();
     void kill();
     /// Lets go of a finished leader: kills what it left running, or remembers it.
-    void release(bool killLeftovers);
+    void release(bool killNow);
     /// True while something that was remembered runs.
     bool hasLeftovers();
     /// Asks what was remembered to end, and kills what has not after half a second.

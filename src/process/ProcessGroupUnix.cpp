@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <memory>
 #include <sys/types.h>
 #include <thread>
 #include <unistd.h>

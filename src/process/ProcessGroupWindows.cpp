@@ -4,6 +4,8 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+#include <memory>
+
 struct ProcessGroup::Handle
 {
     HANDLE job = nullptr;

@@ -13,6 +13,8 @@
 #include <QApplication>
 #include <QCoreApplication>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -22,7 +22,7 @@ struct ArgumentValues
 class ArgumentExpander
 {
 public:
-    ArgumentExpander(const ArgumentValues& values, const OptionSources& sources);
+    ArgumentExpander(const ArgumentValues& standFor, const OptionSources& files);
 
     /// The problem is a temporary file that could not be made.
     Result<QStringList> expand(const QStringList& arguments);

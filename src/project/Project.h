@@ -19,11 +19,11 @@ class Project : public QObject
 
 public:
     explicit Project(QObject* parent = nullptr);
-    explicit Project(const QString& fileName, const ProjectFacts& facts = {});
+    explicit Project(const QString& fileName, const ProjectFacts& surroundings = {});
 
     /// Reads a project file of either dialect (or its newer backup), infers the analyser and evaluates the status. True
     /// when the file holds a project; statusText says why not.
-    bool load(const QString& fileName, const ProjectFacts& facts = {});
+    bool load(const QString& fileName, const ProjectFacts& surroundings = {});
     /// The arguments for a launched tool: placeholders replaced by this project's option and list files, which are
     /// written always. The problem is what could not be written; the tool must not be started then.
     Result<QStringList> expandLauncherArguments(const QStringList& arguments, const QString& analyser,

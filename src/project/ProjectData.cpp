@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -22,7 +22,7 @@ class SourceEntry
 {
 public:
     /// line is relative to the owner's source folder or absolute.
-    SourceEntry(const QString& line, const ProjectData& owner);
+    SourceEntry(const QString& line, const ProjectData& project);
 
     const QString& sourcePath() const { return source; }
     QString metricsPath() const { return outputPath(u".met"); }

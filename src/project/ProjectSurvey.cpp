@@ -4,6 +4,7 @@
 #include "project/ProjectData.h"
 
 #include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 

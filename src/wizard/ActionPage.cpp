@@ -14,6 +14,10 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <algorithm>
+#include <chrono>
+#include <climits>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 

@@ -19,7 +19,7 @@ class ActionPage : public AppPage
     Q_OBJECT
 
 public:
-    explicit ActionPage(ApplicationWindow* window);
+    explicit ActionPage(ApplicationWindow* owner);
     ~ActionPage() override;
 
     void initializePage() override;

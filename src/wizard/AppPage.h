@@ -11,7 +11,7 @@ class AppPage : public OrvBasicWizardPage
     Q_OBJECT
 
 public:
-    AppPage(ApplicationWindow* window, int pageId);
+    AppPage(ApplicationWindow* owner, int pageId);
 
     int nextId() const override;
 

@@ -17,7 +17,7 @@ class ConfPage : public AppPage
     Q_OBJECT
 
 public:
-    explicit ConfPage(ApplicationWindow* window);
+    explicit ConfPage(ApplicationWindow* owner);
 
     void initializePage() override;
     bool validatePage() override;

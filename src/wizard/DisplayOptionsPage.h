@@ -14,7 +14,7 @@ class DisplayOptionsPage : public AppPage
     Q_OBJECT
 
 public:
-    explicit DisplayOptionsPage(ApplicationWindow* window);
+    explicit DisplayOptionsPage(ApplicationWindow* owner);
 
     void initializePage() override;
     void cleanupPage() override;

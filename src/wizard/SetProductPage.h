@@ -14,7 +14,7 @@ class SetProductPage : public AppPage
     Q_OBJECT
 
 public:
-    explicit SetProductPage(ApplicationWindow* window);
+    explicit SetProductPage(ApplicationWindow* owner);
     ~SetProductPage() override;
 
     void initializePage() override;

@@ -14,7 +14,7 @@ class StartPage : public AppPage
     Q_OBJECT
 
 public:
-    explicit StartPage(ApplicationWindow* window);
+    explicit StartPage(ApplicationWindow* owner);
 
     void initializePage() override;
     bool validatePage() override;

@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <utility>
+
 XmlPage::XmlPage(ApplicationWindow* owner)
     : AppPage(owner, XmlPageId)
     , hint(new QLabel)
@@ -92,8 +94,12 @@ bool XmlPage::isComplete() const
 
 QString XmlPage::Value(ArgumentDefinition& definition, bool store) const
 {
-    return InputValues::value(
-        definition, [this](const ArgumentDefinition& field) { return fieldState(field); }, store);
+    const FieldSource source = [this](const ArgumentDefinition& field) { return fieldState(field); };
+    QString text = InputValues::value(definition, source);
+    if (store) {
+        InputValues::remember(definition, source);
+    }
+    return text;
 }
 
 void XmlPage::valueChanged()

@@ -12,7 +12,7 @@ class XmlPage : public AppPage
     Q_OBJECT
 
 public:
-    explicit XmlPage(ApplicationWindow* window);
+    explicit XmlPage(ApplicationWindow* owner);
 
     void initializePage() override;
     /// Going back keeps what was entered.

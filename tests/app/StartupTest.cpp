@@ -141,7 +141,7 @@ private Q_SLOTS:
             QVERIFY2(problem.isEmpty() ? said.isEmpty() : said.contains(problem), qPrintable(given + u": "_s + said));
             QStringList result;
             for (const auto& definition : definitions) {
-                result += InputValues::value(*definition, inputs.source(), false);
+                result += InputValues::value(*definition, inputs.source());
             }
             QCOMPARE(result.join(u'|'), values);
         }

@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(inputs.set(u"File list=files.txt"_s).problem, QString());
         QCOMPARE(inputs.set(u"Order/Sorted=1"_s).problem, QString());
         for (const auto& input : creator.inputData) {
-            InputValues::value(*input, inputs.source(), true);
+            InputValues::remember(*input, inputs.source());
         }
         WizardState state;
         state.projectCreator = &creator;
