@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "../wizard/WizardDriver.h"
 #include "app/AppRegistry.h"
 #include "Installation.h"
 #include "personality/FileScans.h"
 #include "project/Project.h"
 #include "TestMain.h"
 #include "wizard/PageSequence.h"
+#include "WizardDriver.h"
 
 #include <QDir>
 #include <QFile>

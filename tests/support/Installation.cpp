@@ -8,9 +8,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QSettings>
 #include <QTimer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -99,8 +102,16 @@ BoxAnswers::~BoxAnswers() = default;
 
 void BoxAnswers::answer()
 {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible()) {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    // The window that locks the wizard waits for a program.
+    if (!dialog || !dialog->isVisible() || dialog->inherits("BusyDialog")) {
+        return;
+    }
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    if (!box) {
+        const auto* text = dialog->findChild<QPlainTextEdit*>();
+        texts += dialog->windowTitle() + (text ? u'|' + text->toPlainText() : QString());
+        dialog->reject();
         return;
     }
     texts += box->windowTitle() + u'|' + box->text();

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <utility>
 
 class AppRegistry;
 class QTimer;
@@ -39,13 +40,14 @@ private:
     std::unique_ptr<AppRegistry> registry;
 };
 
-/// Answers message boxes while it lives and remembers what they said.
+/// Answers message boxes while it lives and remembers what they said. Other dialogs are rejected.
 class BoxAnswers
 {
 public:
     explicit BoxAnswers(QList<QMessageBox::StandardButton> answers);
     ~BoxAnswers();
 
+    /// The title of each and its text, if any, divided by a bar.
     QStringList texts;
     /// What stands behind the "Show Details" of each box.
     QStringList details;

@@ -3,14 +3,54 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLabel>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <utility>
 
 std::vector<std::function<std::unique_ptr<QObject>()>>& testFactories()
 {
     static std::vector<std::function<std::unique_ptr<QObject>()>> factories;
     return factories;
 }
+
+namespace {
+
+/// Ends the process with a message when a dialog waits for an answer that nobody gives.
+class DialogGuard : public QObject
+{
+public:
+    DialogGuard() { startTimer(100); }
+
+private:
+    void timerEvent(QTimerEvent*) override
+    {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (dialog != waiting) {
+            waiting = dialog;
+            ticks = 0;
+        }
+        // The window that locks the wizard waits for a program. Ticks, as on a busy machine also the answers are late.
+        if (!dialog || dialog->inherits("BusyDialog") || ++ticks < 40) {
+            return;
+        }
+        QStringList texts;
+        for (const auto* label : dialog->findChildren<QLabel*>()) {
+            texts += label->text();
+        }
+        texts.removeAll(QString());
+        const char* row = QTest::currentDataTag();
+        qFatal("%s(%s): nobody answers the dialog \"%s\": %s", QTest::currentTestFunction(), row ? row : "",
+               qPrintable(dialog->windowTitle()), qPrintable(texts.join(u' ')));
+    }
+
+    QPointer<QWidget> waiting;
+    int ticks = 0;
+};
+
+} // namespace
 
 // Every place a test could leave something behind lies in one folder that goes with the run.
 int main(int argc, char** argv)
@@ -35,6 +75,7 @@ int main(int argc, char** argv)
 
     QApplication application(argc, argv);
     application.setQuitOnLastWindowClosed(false);
+    const DialogGuard guard;
     int failures = 0;
     for (const auto& create : testFactories()) {
         const std::unique_ptr<QObject> test = create();

@@ -35,6 +35,18 @@ void WizardDriver::press(QWizard::WizardButton which) const
     QTest::mouseClick(target, Qt::LeftButton);
 }
 
+QStringList WizardDriver::checked() const
+{
+    QStringList names;
+    const auto all = window.currentPage()->findChildren<QAbstractButton*>();
+    for (const QAbstractButton* button : all) {
+        if (button->isVisible() && button->isChecked()) {
+            names += button->accessibleName();
+        }
+    }
+    return names;
+}
+
 void WizardDriver::passStartPage(const QString& name, const QString& folder, const QString& type) const
 {
     edit(u"Name of project to be created:"_s).setText(name);

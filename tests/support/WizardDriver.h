@@ -31,6 +31,8 @@ public:
     QString output() const { return page().findChild<QTextBrowser*>()->toPlainText(); }
     bool canGoOn() const { return window.button(QWizard::NextButton)->isEnabled(); }
     void press(QWizard::WizardButton which) const;
+    /// The accessible names of the page's visible buttons that are checked.
+    QStringList checked() const;
     /// Fills the start page and presses Next.
     void passStartPage(const QString& name, const QString& folder, const QString& type) const;
 
