@@ -4,12 +4,12 @@
 #include "app/SettingsStore.h"
 #include "definitions/EnvironmentValue.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -33,9 +33,12 @@ private Q_SLOTS:
         store.sync();
         PersistedValues values;
         values.Read(u"/opt/tools/bin/wizard"_s);
-        QCOMPARE(values.binArea + values.xmlArea + values.helpArea, u"/opt/tools/bin/opt/tools/xml/opt/tools/help"_s);
+        QCOMPARE(values.binArea, u"/opt/tools/bin"_s);
+        QCOMPARE(values.xmlArea, u"/opt/tools/xml"_s);
+        QCOMPARE(values.helpArea, u"/opt/tools/help"_s);
         QCOMPARE(values.cMessagePersonality, u"C:\\m.p_s"_s);
-        QVERIFY(values.runCMA && values.rootMakefile.isEmpty());
+        QVERIFY(values.runCMA);
+        QCOMPARE(values.rootMakefile, QString());
         values.rootMakefile = u"C:\\src\\Makefile"_s;
         values.projectList = {u"a\\b.prj"_s};
         values.installPath = u"/changed"_s;
@@ -59,61 +62,71 @@ private Q_SLOTS:
         // A file where the folder should be: not even the administrator can write there.
         const QByteArray blocked = QDir::tempPath().toLocal8Bit() + "/blocked";
         QVERIFY(QFile(QString::fromLocal8Bit(blocked)).open(QIODevice::WriteOnly));
-        const std::pair<QString, QByteArray> steps[] = {
-            {u"system"_s, systemFolder},
-            {u"user"_s, blocked},
-            {u"system again"_s, systemFolder},
-            // Both scopes may be set to one folder: what was just written must not be taken for an older copy.
-            {u"shared"_s, qgetenv("XDG_CONFIG_HOME")}};
         const auto kept = [] { return SettingsStore::openForReading(u"Stores"_s)->value(u"key"_s).toString(); };
-        QString before;
-        for (const auto& step : steps) {
+        // What is read at once, and what when the system's folder is the usual one again.
+        const auto written = [&](const QString& value, const QByteArray& folder) {
+            qputenv("XDG_CONFIG_DIRS", folder);
+            const bool done = SettingsStore::write(u"Stores"_s, [&](auto& store) { store.setValue(u"key"_s, value); });
+            QString found = done ? kept() : u"failed"_s;
             qputenv("XDG_CONFIG_DIRS", systemFolder);
-            QCOMPARE(kept(), before);
-            qputenv("XDG_CONFIG_DIRS", step.second);
-            QVERIFY(SettingsStore::write(u"Stores"_s, [&](auto& store) { store.setValue(u"key"_s, step.first); }));
-            QCOMPARE(kept(), step.first);
-            before = step.first;
-        }
-        qputenv("XDG_CONFIG_DIRS", systemFolder);
+            return found + u", later "_s + kept();
+        };
+        QCOMPARE(written(u"system"_s, systemFolder), u"system, later system"_s);
+        QCOMPARE(written(u"user"_s, blocked), u"user, later user"_s);
+        QCOMPARE(written(u"system again"_s, systemFolder), u"system again, later system again"_s);
+        // Both scopes may be set to one folder: what was just written must not be taken for an older copy.
+        QCOMPARE(written(u"shared"_s, qgetenv("XDG_CONFIG_HOME")), u"shared, later shared"_s);
+    }
+
+    void findsTheLastVersion_data()
+    {
+        const TestRows<QSettings::Scope, QStringList, QString, QString> row("scope", "versions", "stale", "found");
+        const auto system = QSettings::SystemScope;
+        row("last", system, {u"8.1"_s, u"9.0"_s}, {}, u"9.0"_s);
+        row("last in the order of texts", system, {u"10.0"_s, u"9.0"_s}, {}, u"9.0"_s);
+        // Where that one is stale, no older one takes its place.
+        row("stale", system, {u"8.1"_s, u"9.0"_s}, u"9.0"_s, u"variable"_s);
+        row("none", system, {}, {}, u"variable"_s);
+        // The installers write system-wide, a user may have an installation of his own: both count.
+        row("last of the user's", QSettings::UserScope, {u"8.1"_s, u"9.0"_s}, {}, u"9.0"_s);
+        row("stale of the user's", QSettings::UserScope, {u"8.1"_s, u"9.0"_s}, u"9.0"_s, u"variable"_s);
     }
 
     void findsTheLastVersion()
     {
+        QFETCH(const QSettings::Scope, scope);
+        QFETCH(const QStringList, versions);
+        QFETCH(const QString, stale);
+        QFETCH(const QString, found);
         QTemporaryDir folder;
         qputenv("TEST_ORV_PATH", folder.filePath(u"variable"_s).toLocal8Bit());
-        // The last in the order of texts counts. Where that one is stale, no older one takes its place.
-        const std::tuple<QStringList, QString, QString> rows[] = {{{u"8.1"_s, u"9.0"_s}, {}, u"9.0"_s},
-                                                                  {{u"10.0"_s, u"9.0"_s}, {}, u"9.0"_s},
-                                                                  {{u"8.1"_s, u"9.0"_s}, u"9.0"_s, u"variable"_s},
-                                                                  {{}, {}, u"variable"_s}};
-        for (const auto& [versions, stale, found] : rows) {
-            // The installers write system-wide, a user may have an installation of his own: both count.
-            for (const QSettings::Scope scope : {QSettings::SystemScope, QSettings::UserScope}) {
-                QSettings store(scope, u"KOVRA"_s, u"Orv Test Analyser"_s);
-                for (const QString& version : versions) {
-                    QDir(folder.path()).mkpath(version);
-                    store.setValue(version + "/Path"_L1, version == stale ? u"/nowhere"_s : folder.filePath(version));
-                }
-                store.sync();
-                QCOMPARE(Installations::FindInstallation(u"Orv Test Analyser"_s, u"TEST_ORV_PATH"_s),
-                         folder.filePath(found));
-                store.clear();
-            }
+        QSettings store(scope, u"KOVRA"_s, u"Orv Test Analyser"_s);
+        for (const QString& version : versions) {
+            QDir(folder.path()).mkpath(version);
+            store.setValue(version + "/Path"_L1, version == stale ? u"/nowhere"_s : folder.filePath(version));
         }
+        store.sync();
+        const QString place = Installations::FindInstallation(u"Orv Test Analyser"_s, u"TEST_ORV_PATH"_s);
+        store.clear();
+        QCOMPARE(place, folder.filePath(found));
+    }
+
+    void readsVariables_data()
+    {
+        const TestRows<QString, bool, QString> row("name", "orCurrent", "value");
+        row("any letter case", u"ORVCPATH"_s, false, u"C:/A"_s);
+        row("with a dollar", u"$ORVCPATH"_s, false, u"C:/A"_s);
+        row("beginning of a name", u"ORVC"_s, false, {});
+        row("empty", u"EMPTY"_s, false, {});
+        row("a folder", u"ROOT"_s, true, u"/"_s);
+        row("no folder", u"ORVCPATH"_s, true, QDir::currentPath());
     }
 
     void readsVariables()
     {
-        const std::tuple<QString, bool, QString> rows[] = {{u"ORVCPATH"_s, false, u"C:/A"_s},
-                                                           {u"$ORVCPATH"_s, false, u"C:/A"_s},
-                                                           {u"ORVC"_s, false, {}},
-                                                           {u"EMPTY"_s, false, {}},
-                                                           {u"ROOT"_s, true, u"/"_s},
-                                                           {u"ORVCPATH"_s, true, QDir::currentPath()}};
-        for (const auto& [name, orCurrent, value] : rows) {
-            QCOMPARE(EnvironmentValue(name, orCurrent, {u"orvcpath=C:/A=B"_s, u"EMPTY="_s, u"ROOT=/"_s}), value);
-        }
+        QFETCH(const QString, name);
+        QFETCH(const bool, orCurrent);
+        QTEST(EnvironmentValue(name, orCurrent, {u"orvcpath=C:/A=B"_s, u"EMPTY="_s, u"ROOT=/"_s}), "value");
     }
 };
 

@@ -2,6 +2,7 @@
 #include "app/Translations.h"
 #include "Installation.h"
 #include "TestMain.h"
+#include "TestRows.h"
 #include "wizard/PageSequence.h"
 #include "WizardDriver.h"
 
@@ -9,8 +10,10 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLibraryInfo>
-#include <QTest>
 #include <QTranslator>
+
+#include <map>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -53,28 +56,31 @@ class TranslationsTest : public QObject
 private Q_SLOTS:
     void cleanup() { qDeleteAll(qApp->findChildren<QTranslator*>()); }
 
-    void obeysTheEnvironment()
+    void obeysTheEnvironment_data()
     {
         const std::pair english{u"LC_ALL"_s, u"C.UTF-8"_s};
-        const std::pair<Variables, bool> rows[] = {{{{u"LANG"_s, u"de_DE.UTF-8"_s}}, true},
-                                                   {{{u"LC_ALL"_s, u"de_AT.UTF-8"_s}}, true},
-                                                   {{english, {u"LANGUAGE"_s, u"de"_s}}, true},
-                                                   {{english, {u"LANGUAGE"_s, u"fr:de"_s}}, true},
-                                                   {{english, {u"LANGUAGE"_s, u"en:de"_s}}, false},
-                                                   {{{u"LC_ALL"_s, u"fr_FR.UTF-8"_s}}, false},
-                                                   // For a script.
-                                                   {{{u"LC_ALL"_s, u"C"_s}, {u"LANGUAGE"_s, u"de"_s}}, false}};
-        for (const auto& [variables, german] : rows) {
-            // Without a display there is no application yet that could translate.
-            for (const auto& [arguments, inGerman, inEnglish] :
-                 {std::tuple{QStringList{u"-batch"_s}, u"Aufruf: ProjectCreation"_s, u"Usage: ProjectCreation"_s},
-                  std::tuple{QStringList{u"-batch"_s, u"-bogus"_s}, u"unbekanntes Argument „-bogus“"_s,
-                             u"unknown argument \"-bogus\""_s},
-                  std::tuple{QStringList(), u"DISPLAY ist nicht gesetzt"_s, u"DISPLAY is not set"_s}}) {
-                const QString errors = runProgram(QStringLiteral(PROGRAM), arguments, variables).errors;
-                QVERIFY2(errors.contains(german ? inGerman : inEnglish), qPrintable(variables.last().second + errors));
-            }
-        }
+        const TestRows<Variables, bool> row("variables", "german");
+        row("LANG", {{u"LANG"_s, u"de_DE.UTF-8"_s}}, true);
+        row("LC_ALL", {{u"LC_ALL"_s, u"de_AT.UTF-8"_s}}, true);
+        row("LANGUAGE", {english, {u"LANGUAGE"_s, u"de"_s}}, true);
+        row("no French", {english, {u"LANGUAGE"_s, u"fr:de"_s}}, true);
+        row("English first", {english, {u"LANGUAGE"_s, u"en:de"_s}}, false);
+        row("French", {{u"LC_ALL"_s, u"fr_FR.UTF-8"_s}}, false);
+        row("a script", {{u"LC_ALL"_s, u"C"_s}, {u"LANGUAGE"_s, u"de"_s}}, false);
+    }
+
+    void obeysTheEnvironment()
+    {
+        QFETCH(const Variables, variables);
+        QFETCH(const bool, german);
+        const auto says = [&](const QStringList& arguments, const QString& inGerman, const QString& inEnglish) {
+            const QString errors = runProgram(QStringLiteral(PROGRAM), arguments, variables).errors;
+            QVERIFY2(errors.contains(german ? inGerman : inEnglish), qPrintable(errors));
+        };
+        says({u"-batch"_s}, u"Aufruf: ProjectCreation"_s, u"Usage: ProjectCreation"_s);
+        says({u"-batch"_s, u"-bogus"_s}, u"unbekanntes Argument „-bogus“"_s, u"unknown argument \"-bogus\""_s);
+        // Without a display there is no application yet that could translate.
+        says({}, u"DISPLAY ist nicht gesetzt"_s, u"DISPLAY is not set"_s);
     }
 
     void theWizardIsGermanAndFits()

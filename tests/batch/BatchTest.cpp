@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "batch/BatchInputs.h"
+#include "definitions/KOVRASettingsFile.h"
+#include "definitions/Placeholders.h"
+#include "Installation.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QProcess>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray input(const QByteArray& name, const QByteArray& contents = {})
+{
+    return "<inputData><displayName>" + name + "</displayName>" + contents + "</inputData>";
+}
+
+/// A conversion type with inputs that share names, that hide and that exclude each other.
+QByteArray confusingType()
+{
+    const QByteArray preset = "<defaultValue>1</defaultValue>";
+    const QByteArray choice = input("One", R"(<inputType OUT_STR="-1">RADIO</inputType>)" + preset) +
+                              input("Two", R"(<inputType OUT_STR="-2">RADIO</inputType>)" + preset);
+    const QByteArray texts = input("Name") + input("Twin") + input("Twin");
+    return "<s><projectCreator>" + input("Both", "<defaultValue>both</defaultValue>") +
+           input("Only", R"(<inputType TYPE="C_ONLY">EDIT</inputType><defaultValue>c</defaultValue>)") +
+           input("Only", R"(<inputType TYPE="CPP_ONLY">EDIT</inputType>)") + input("Name") + input("A=B pairs") +
+           input("Group", R"(<inputType SEP="+">GROUP</inputType>)" + choice) +
+           input("Group", "<inputType>GROUP</inputType>" + texts +
+                              input("Hidden", R"(<inputType TYPE="CPP_ONLY">CHECK</inputType>)")) +
+           "</projectCreator></s>";
+}
+
+/// A suite whose conversion goes on until it may end, and the program that runs it without a window.
+struct SlowSuite : Installation
+{
+    SlowSuite()
+    {
+        const QString script =
+            writeScript(u"slow"_s, "echo $$ > \"$0.pid\"; echo half > \"$1\"\n"
+                                   "while [ -e \"$0\" ] && [ ! -e \"$0.go\" ]; do sleep 0.02; done\n");
+        define("<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" + script.toUtf8() +
+               "</exe><exeargs>%PF</exeargs></projectCreator>");
+    }
+
+    QStringList arguments(const QStringList& more = {}) const
+    {
+        return QStringList{u"-batch"_s, u"-file"_s, path(u"xml/settings.xml"_s), u"-prj"_s, project, u"-type"_s,
+                           u"Slow"_s,   u"-c"_s} +
+               more;
+    }
+    bool isHalfWay() const { return read(project) == "half\n"; }
+
+    const QString project = path(u"work/p.prj"_s);
+};
+
+} // namespace
+
+/// What the program does without a window.
+class BatchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsTheInputThatIsMeant_data()
+    {
+        const QString presets = u"both|c||||-2|"_s;
+        const TestRows<QString, QString, QString> row("given", "values", "problem");
+        row("for both analysers", u"Both=both"_s, presets, {});
+        row("namesake of the other analyser", u"Only=x"_s, u"both|x||||-2|"_s, {});
+        row("namesake in a group", u"Name=x"_s, u"both|c||x||-2|"_s, {});
+        row("in a group", u"Group/Name=x"_s, u"both|c||||-2|x"_s, {});
+        row("equals sign in the name", u"A=B pairs=C=D"_s, u"both|c|||C=D|-2|"_s, {});
+        row("equals sign in the value", u"Both=A=B"_s, u"A=B|c||||-2|"_s, {});
+        row("choice", u"One=yes"_s, u"both|c||||-1|"_s, {});
+        row("choice taken back", u"Two=0"_s, presets, u"one of a choice"_s);
+        row("hidden", u"Hidden=1"_s, presets, u"for the other analyser"_s);
+        row("unknown", u"what=1=2"_s, presets, u"no input \"what\""_s);
+        row("ambiguous", u"Twin=1"_s, presets, u"several inputs"_s);
+    }
+
+    void findsTheInputThatIsMeant()
+    {
+        QFETCH(const QString, given);
+        QFETCH(const QString, problem);
+        KOVRASettingsFile settings;
+        settings.readDocument(confusingType(), {});
+        const ArgumentDefinitions& definitions = settings.projectCreators.at(0)->inputData;
+        BatchInputs inputs(definitions, true);
+        const QString said = inputs.set(given).problem;
+        QVERIFY2(said.contains(problem), qPrintable(said));
+        QCOMPARE(said.isEmpty(), problem.isEmpty());
+        QStringList result;
+        for (const auto& definition : definitions) {
+            result += InputValues::value(*definition, inputs.source());
+        }
+        QTEST(result.join(u'|'), "values");
+    }
+
+    void refusesTheOtherAnalysersFile_data()
+    {
+        const TestRows<QString> row("option");
+        row("messages", u"-mp"_s);
+        row("analyser", u"-ap"_s);
+        row("compiler", u"-cp"_s);
+    }
+
+    void refusesTheOtherAnalysersFile()
+    {
+        QFETCH(const QString, option);
+        const SlowSuite suite;
+        suite.write(u"slow.go"_s, "");
+        const QString foreign = suite.write(u"cpp.p_c"_s, "-rvaluerefbind+\n");
+        const ProgramResult result = runProgram(QStringLiteral(PROGRAM), suite.arguments({option, foreign}));
+        QCOMPARE(result.errors, u"ProjectCreation: "_s + option + u": the configuration file "_s + foreign +
+                                    u" is for the other analyser\n"_s);
+        QCOMPARE(result.status, 2);
+    }
+
+    void takesItsConverterAlongWhenItIsKilled()
+    {
+        const SlowSuite suite;
+        QProcess program;
+        program.start(QStringLiteral(PROGRAM), suite.arguments());
+        QTRY_VERIFY(suite.isHalfWay());
+        const QByteArray converter = suite.read(u"slow.pid"_s);
+        QVERIFY(Installation::isAlive(converter));
+        program.kill();
+        QVERIFY(program.waitForFinished());
+        QTRY_VERIFY(!Installation::isAlive(converter));
+    }
+
+    void outlivesItsTerminalUnderNohup()
+    {
+        const SlowSuite suite;
+        QProcess program;
+        program.start(u"nohup"_s, QStringList{QStringLiteral(PROGRAM)} + suite.arguments());
+        QTRY_VERIFY(suite.isHalfWay());
+        ::kill(pid_t(program.processId()), SIGHUP);
+        suite.write(u"slow.go"_s, "");
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.readAllStandardOutput(), "New project file: " + suite.project.toUtf8() + '\n');
+        QCOMPARE(program.exitCode(), 0);
+    }
+};
+
+KOVRA_TEST(BatchTest)
+#include "BatchTest.moc"
