@@ -9,13 +9,14 @@
 #include "launchers/RunAppData.h"
 #include "process/ArgumentSubstitution.h"
 #include "process/WizardState.h"
+#include "RecordTexts.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSettings>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -45,29 +46,31 @@ class DefinitionsReaderTest : public QObject
 private Q_SLOTS:
     void initTestCase() { suite.start(); }
 
+    void expandsPlaceholders_data()
+    {
+        const TestRows<QString, QString> row("text", "expanded");
+        row("C analyser", u"%ORVC%/personalities"_s, u"C:/Orv/personalities"_s);
+        row("C++ analyser", u"%ORVCPP%/x"_s, u"D:/Orv/x"_s);
+        row("of one kind only", u"%I%/%ORVC%"_s, u"/suite/%ORVC%"_s);
+        row("every occurrence", u"%I%/%I%"_s, u"/suite/suite"_s);
+        row("one variable only", u"%HOME%/a/%TMP%"_s, u"/home/me/a/%TMP%"_s);
+        row("stored value", u"%R%App%Key"_s, u"kovra"_s);
+        row("stored value, closed", u"%R%App%Key%"_s, u"kovra"_s);
+        row("of another organisation", u"%R%Other%App%Key%/a%/b"_s, u"other/a/b"_s);
+        row("nothing stored", u"%R%App%None"_s, {});
+        row("half a name", u"%R%App"_s, u"%R%App"_s);
+        row("only installations are cleaned", u"%HOME%//a"_s, u"/home/me//a"_s);
+        row("a percentage", u"100%"_s, u"100%"_s);
+        row("plain", u"plain//text"_s, u"plain//text"_s);
+    }
+
     void expandsPlaceholders()
     {
+        QFETCH(const QString, text);
         QSettings(QSettings::SystemScope, u"KOVRA"_s, u"App"_s).setValue(u"Key"_s, u"kovra"_s);
         QSettings(QSettings::SystemScope, u"Other"_s, u"App"_s).setValue(u"Key"_s, u"other"_s);
-        const std::pair<QString, QString> rows[] = {{u"%ORVC%/personalities"_s, u"C:/Orv/personalities"_s},
-                                                    {u"%ORVCPP%/x"_s, u"D:/Orv/x"_s},
-                                                    // Every occurrence, but of one kind only.
-                                                    {u"%I%/%ORVC%"_s, u"/suite/%ORVC%"_s},
-                                                    {u"%I%/%I%"_s, u"/suite/suite"_s},
-                                                    {u"%HOME%/a/%TMP%"_s, u"/home/me/a/%TMP%"_s},
-                                                    {u"%R%App%Key"_s, u"kovra"_s},
-                                                    {u"%R%App%Key%"_s, u"kovra"_s},
-                                                    {u"%R%Other%App%Key%/a%/b"_s, u"other/a/b"_s},
-                                                    {u"%R%App%None"_s, QString()},
-                                                    {u"%R%App"_s, u"%R%App"_s},
-                                                    // Only what lies in an installation is cleaned.
-                                                    {u"%HOME%//a"_s, u"/home/me//a"_s},
-                                                    {u"100%"_s, u"100%"_s},
-                                                    {u"plain//text"_s, u"plain//text"_s}};
         const Places places{u"/suite"_s, u"C:/Orv/"_s, u"D:/Orv"_s};
-        for (const auto& [text, expanded] : rows) {
-            QCOMPARE(ExpandPlaceholders(text, places, {u"HOME=/home/me"_s, u"TMP=/tmp"_s}), expanded);
-        }
+        QTEST(ExpandPlaceholders(text, places, {u"HOME=/home/me"_s, u"TMP=/tmp"_s}), "expanded");
     }
 
     void readsConversionTypes()
@@ -99,32 +102,20 @@ private Q_SLOTS:
               </inputData>
             </projectCreator></group></settings>)",
                               {.places = {u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s}, .readPage = readLauncherPage});
-        QCOMPARE(settings.projectCreators.size(), size_t(2));
-        const ProjectCreatorData& creator = *settings.projectCreators[0];
-        QCOMPARE(creator.name + creator.exe, u"Make  file/orvc/bin/conv"_s);
-        QCOMPARE(creator.exeArgs, (QStringList{u"-a"_s, u"%PF"_s, u"-b"_s}));
-        QVERIFY(creator.orvcProject && !creator.orvcppProject);
-        QCOMPARE(creator.cCompilerPersonality + creator.cppCompilerPersonality, u"/orvc/c.p_c/orvcpp/cpp.p_c"_s);
-        QVERIFY(creator.hasMessagePersonality && !creator.hasAnalyserPersonality);
-        QCOMPARE(creator.cMessagePersonality + creator.cppMessagePersonality, QString());
-        QCOMPARE(creator.inputData.size(), size_t(2));
-        QCOMPARE(creator.inputData[0]->displayName + creator.inputData[1]->displayName, u"Linux onlyFound inside"_s);
-
-        const ArgumentDefinitions& inputs = settings.projectCreators[1]->inputData;
-        const ArgumentDefinition& plain = *inputs.at(0);
-        QVERIFY(plain.inputType == InputType::Edit && plain.columns == 1);
-        QCOMPARE(plain.separator + plain.extension, u" *"_s);
-        const ArgumentDefinition& file = *inputs.at(1);
-        QVERIFY(file.inputType == InputType::File && file.mustBeSet && file.fileMustExist);
-        QVERIFY(file.separator.isEmpty() && file.columns == 0);
-        QCOMPARE((QStringList{file.prefix, file.argument, file.cDefaultValue, file.cppDefaultValue, file.key}),
-                 (QStringList{u"-in"_s, u"%In"_s, u"/suite/x"_s, u"cpp"_s, u"GrößeabInTx"_s}));
-        const ArgumentDefinition& group = *inputs.at(2);
-        QVERIFY(group.cOnly && !group.cppOnly && group.separator == ","_L1 && group.columns == 2);
-        const ArgumentDefinition& check = *group.children.at(0);
-        QVERIFY(check.cppOnly && check.mustBeSet && !check.fileMustExist && check.outputString == "-a"_L1);
+        QCOMPARE(described(settings.projectCreators),
+                 u"[name=Make  file forC=true exe=/orvc/bin/conv args=-a,%PF,-b cc=/orvc/c.p_c cppc=/orvcpp/cpp.p_c "
+                 "hasM=true hasC=true][name=T (x)]"_s);
+        QCOMPARE(described(settings.projectCreators[0]->inputData),
+                 u"[name=Linux only key=LinuxonlyMakefile][name=Found inside key=FoundinsideMakefile]"_s);
         // An unknown kind leaves the one before it.
-        QCOMPARE(group.children.at(1)->inputType, InputType::Radio);
+        QCOMPARE(
+            described(settings.projectCreators[1]->inputData),
+            u"[name=Plain key=PlainTx]"
+            "[name=Größe: a-b kind=file key=GrößeabInTx help=tip needed=true exists=true ext=*.json sep= columns=0 "
+            "prefix=-in arg=%In c=/suite/x cpp=cpp]"
+            "[name=G kind=group key=GTx sep=, columns=2 forC=true fields=[kind=check key=Tx needed=true out=-a "
+            "sep= columns=0 forCpp=true]"
+            "[kind=radio key=Tx sep= columns=0]]"_s);
     }
 
     void readsTheOtherRecords()
@@ -139,37 +130,34 @@ private Q_SLOTS:
             <applicationPage title="A"><title>t</title><columns>four</columns><buttonwidth>7</buttonwidth></applicationPage>
             <display_options title="ignored"/><reportsPage title="R"/></settings>)",
                               {.places = {u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s}, .readPage = readLauncherPage});
-        const auto& modules = settings.complianceModules;
-        QVERIFY(modules.size() == 3 && !modules[0]->isC && modules[1]->isC && modules[2]->isC);
-        QCOMPARE(modules[0]->location, u"/orvc/m"_s);
-        const auto& standards = settings.codingStandards;
-        QVERIFY(standards.size() == 2 && !standards[0]->isC && standards[1]->isC);
-        QCOMPARE(standards[0]->description + standards[1]->messagePersonality, u"a/b/suite/m"_s);
-        QCOMPARE(settings.crossModuleAnalyses.at(0)->exe, u"/suite/bin/cma"_s);
-        QCOMPARE(settings.crossModuleAnalyses[0]->exeArgs, (QStringList{QString(), u"-x"_s, u"y"_s}));
-        const auto& pages = settings.applicationPages;
-        QVERIFY(pages.size() == 2 && settings.reportsPages.size() == 1);
-        QVERIFY(pages[0]->columns == 0 && pages[0]->buttonWidth == 7);
-        QCOMPARE(pages[0]->titleAttribute + pages[1]->titleAttribute, u"A"_s);
+        QCOMPARE(described(settings.complianceModules), u"[name=M forC=false place=/orvc/m][][]"_s);
+        QCOMPARE(described(settings.codingStandards), u"[name=S forC=false about=a/b][name=T m=/suite/m]"_s);
+        QCOMPARE(described(settings.crossModuleAnalyses), u"[exe=/suite/bin/cma args=,-x,y]"_s);
+        QCOMPARE(described(settings.applicationPages), u"[attribute=A title=t columns=0 width=7][]"_s);
+        QCOMPARE(described(settings.reportsPages), u"[attribute=R]"_s);
+    }
+
+    void stopsAtErrors_data()
+    {
+        const QByteArray record = "<projectCreator><name>A</name></projectCreator>\n";
+        const TestRows<QByteArray, size_t, int> row("document", "types", "line");
+        row("empty", {}, 0, 1);
+        row("not XML", "not XML", 0, 1);
+        row("cut", "<s>" + record + record.left(20), 2, 2);
+        row("wrong end", "<s>" + record + "</t>" + record, 1, 2);
+        row("element in a text", "<s>\n" + record + "<codingStandard><x><y/></x></codingStandard>" + record + "</s>", 1,
+            3);
+        row("too deep", "<s><projectCreator>" + QByteArray("<inputData>").repeated(100000), 1, 1);
     }
 
     void stopsAtErrors()
     {
-        const QByteArray record = "<projectCreator><name>A</name></projectCreator>\n";
-        const std::tuple<QByteArray, int, int> rows[] = {
-            {{}, 0, 1},
-            {"not XML", 0, 1},
-            {"<s>" + record + record.left(20), 2, 2},
-            {"<s>" + record + "</t>" + record, 1, 2},
-            {"<s>\n" + record + "<codingStandard><x><y/></x></codingStandard>" + record + "</s>", 1, 3},
-            {"<s><projectCreator>" + QByteArray("<inputData>").repeated(100000), 1, 1}};
-        for (const auto& [document, creators, line] : rows) {
-            KOVRASettingsFile settings;
-            settings.readDocument(document, {});
-            QVERIFY2(int(settings.projectCreators.size()) == creators, document.left(200));
-            QVERIFY2(int(settings.lastError.line) == line, document.left(200));
-            QVERIFY(!settings.lastError.reason.isEmpty());
-        }
+        QFETCH(const QByteArray, document);
+        KOVRASettingsFile settings;
+        settings.readDocument(document, {});
+        QTEST(settings.projectCreators.size(), "types");
+        QTEST(int(settings.lastError.line), "line");
+        QVERIFY(!settings.lastError.reason.isEmpty());
     }
 
     void convertsAndLaunchesTheWorkedExample()
@@ -178,9 +166,10 @@ private Q_SLOTS:
         settings.readDocument(guideBlock(u"xml worked-example"_s).toUtf8(), {.readPage = readLauncherPage});
         QCOMPARE(settings.lastError.reason, QString());
         ProjectCreatorData& creator = *settings.projectCreators.at(0);
-        QVERIFY(creator.orvcProject && creator.orvcppProject && creator.exe == "listprj"_L1);
+        QCOMPARE(
+            described(settings.projectCreators),
+            u"[name=My file list forC=true forCpp=true exe=listprj args=%IN_LIST,%PF,%J,%Q,%IN_OUTPUT,%IN_ORDER]"_s);
         QCOMPARE(creator.inputData.at(1)->key, u"OutputfolderIN_OUTPUTMyfilelist"_s);
-        QVERIFY(creator.inputData.at(0)->fileMustExist && creator.inputData.at(1)->mustBeSet);
         BatchInputs inputs(creator.inputData, true);
         QCOMPARE(inputs.set(u"File list=files.txt"_s).problem, QString());
         QCOMPARE(inputs.set(u"Order/Sorted=1"_s).problem, QString());
@@ -197,10 +186,12 @@ private Q_SLOTS:
         const PageData& page = *settings.applicationPages.at(0);
         RunAppData& show = *page.applications.at(0);
         RunAppData& count = *page.applications.at(1);
-        QCOMPARE(show.name + show.cExe + show.cppExe, u"Show the\nproject filecatcat"_s);
-        QVERIFY(show.displayMode == TextDisplay && QFile::exists(show.rightImage));
+        QCOMPARE((QStringList{show.name, show.cExe, show.cppExe, show.rightImage}),
+                 (QStringList{u"Show the\nproject file"_s, u"cat"_s, u"cat"_s, u":right_arrow.xpm"_s}));
+        QCOMPARE(show.displayMode, int(TextDisplay));
         QCOMPARE(count.exeargs, (QStringList{u"-l"_s, u"%PF"_s}));
-        QVERIFY(count.startsDisabled && !show.startsDisabled);
+        QVERIFY(count.startsDisabled);
+        QVERIFY(!show.startsDisabled);
         QCOMPARE(page.conditions.value(u"seen"_s),
                  (QMap<RunAppData*, QString>{{&show, u"start"_s}, {&count, u"enable"_s}}));
     }
@@ -212,20 +203,33 @@ private Q_SLOTS:
         settings.readDocument(sourceFile(u"tests/definitions/schema/accepted-everything.xml"_s).toUtf8(),
                               {.readPage = readLauncherPage});
         QCOMPARE(settings.lastError.reason, QString());
-        QVERIFY(settings.crossModuleAnalyses.size() == 2 && settings.complianceModules.size() == 2);
-        QVERIFY(settings.codingStandards.size() == 2 && settings.reportsPages.size() == 1);
-        QVERIFY(settings.projectCreators.size() == 2 && settings.applicationPages.size() == 2);
-        const ArgumentDefinitions& inputs = settings.projectCreators[1]->inputData;
-        QVERIFY(inputs.size() == 5 && inputs[0]->cppOnly && inputs[2]->cOnly);
-        QVERIFY(inputs[3]->mustBeSet && inputs[4]->inputType == InputType::Radio);
-        QCOMPARE(inputs[0]->children.at(0)->displayName, u"Only here"_s);
-        const PageData& page = *settings.applicationPages[1];
-        QVERIFY(page.columns == 12 && page.conditions.size() == 3);
-        const RunAppData& launcher = *page.applications.at(1);
-        QCOMPARE(launcher.cExe + launcher.cppExe, u"xy"_s);
-        QCOMPARE(launcher.aboveImage + launcher.belowImage, u":up_longarrow.xpm:down_doublearrow.xpm"_s);
-        QCOMPARE(launcher.leftImage + launcher.rightImage, u":left_cornerarrowupaway.xpm:right_longdoublearrow.xpm"_s);
-        QCOMPARE(launcher.dependency + launcher.exeargs, (QStringList{u"one"_s, u"two words"_s, u"%P+"_s, u"-x"_s}));
+        QCOMPARE(described(settings.crossModuleAnalyses), u"[exe=cma args=%L][exe=cma]"_s);
+        QCOMPARE(described(settings.complianceModules), u"[name=n forC=false place=l][name=n place=l c=c a=a]"_s);
+        QCOMPARE(described(settings.codingStandards), u"[name=s][name=All forC=false c=c a=a m=m]"_s);
+        QCOMPARE(described(settings.reportsPages), u"[attribute=r]"_s);
+        QCOMPARE(described(settings.applicationPages), u"[]"
+                                                       "[attribute=t title=t subtitle=s help=h.htm columns=12 "
+                                                       "width=1 height=1 across=0 down=0 launchers=2 conditions=3]"_s);
+        QCOMPARE(described(settings.projectCreators),
+                 u"[name=On Linux exe=b]"
+                 "[name=Two words forC=true forCpp=true "
+                 "exe=/usr/local/my tools/conv args=--list,LIST cc=C:\\Program Files\\gcc.p_c "
+                 "hasM=true hasA=true hasC=true]"_s);
+        QCOMPARE(described(settings.projectCreators[1]->inputData),
+                 u"[name=Group kind=group key=GroupPIX sep= columns=5 prefix=-a b arg=%P%I%%X forCpp=true "
+                 u"fields=[name=Only here key=Onlyhere needed=true exists=true fields=[name=in key=in]]]"
+                 "[name=File kind=file key=FileLIST sep= arg=LIST]"
+                 "[name=Folder kind=dir key=FolderC sep= columns=0 arg=%C% forC=true]"
+                 "[name=Text key=TextIN_P help=\n        Over two lines & more  needed=true ext=*.c *.h sep= columns=0 "
+                 "arg=%IN_P c= c  cpp=50%]"
+                 "[name=No placeholder kind=radio key=Noplaceholder sep= columns=0]"_s);
+        const RunAppData& launcher = *settings.applicationPages[1]->applications.at(1);
+        QCOMPARE((QStringList{launcher.cExe, launcher.cppExe}), (QStringList{u"x"_s, u"y"_s}));
+        QCOMPARE((QStringList{launcher.aboveImage, launcher.belowImage, launcher.leftImage, launcher.rightImage}),
+                 (QStringList{u":up_longarrow.xpm"_s, u":down_doublearrow.xpm"_s, u":left_cornerarrowupaway.xpm"_s,
+                              u":right_longdoublearrow.xpm"_s}));
+        QCOMPARE(launcher.dependency, (QStringList{u"one"_s, u"two words"_s}));
+        QCOMPARE(launcher.exeargs, (QStringList{u"%P+"_s, u"-x"_s}));
     }
 
     // Every kind of arrow that the schema names has its pictures, and the schema leaves none out.

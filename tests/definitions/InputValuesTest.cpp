@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/InputValues.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QHash>
-#include <QTest>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +20,7 @@ ArgumentDefinition& add(ArgumentDefinitions& list, InputType type, const QString
     return definition;
 }
 
-FieldState text(const QString& value, bool enabled = true)
+FieldState entered(const QString& value, bool enabled = true)
 {
     return {.hasText = true, .textEnabled = enabled, .text = value};
 }
@@ -26,6 +28,16 @@ FieldState text(const QString& value, bool enabled = true)
 FieldState toggle(bool checked, bool active = true)
 {
     return {.hasSwitch = true, .switchActive = active, .checked = checked};
+}
+
+// The values of a group and of its fields.
+QString remembered(const ArgumentDefinition& group)
+{
+    QString values = group.value;
+    for (const auto& field : group.children) {
+        values += u'|' + field->value;
+    }
+    return values;
 }
 
 } // namespace
@@ -48,59 +60,68 @@ private Q_SLOTS:
         inner.separator = u"+"_s;
         add(inner.children, InputType::Edit, u"e"_s);
         add(inner.children, InputType::Check, u"f"_s);
-        QHash<QString, FieldState> states{{u"a"_s, toggle(true)}, {u"b"_s, toggle(false)}, {u"c"_s, toggle(true)},
-                                          {u"d"_s, text(u"D"_s)}, {u"e"_s, text(u"E"_s)},  {u"f"_s, toggle(true)}};
+        QHash<QString, FieldState> states{{u"a"_s, toggle(true)},    {u"b"_s, toggle(false)},   {u"c"_s, toggle(true)},
+                                          {u"d"_s, entered(u"D"_s)}, {u"e"_s, entered(u"E"_s)}, {u"f"_s, toggle(true)}};
         const FieldSource source = [&](const ArgumentDefinition& field) { return states.value(field.displayName); };
         QCOMPARE(InputValues::value(group, source), u"-a,c,D,E+f"_s);
-        QVERIFY(group.value.isEmpty() && group.children[0]->value.isEmpty());
+        QCOMPARE(remembered(group), u"|||||"_s);
         states[u"c"_s] = toggle(true, false);
-        states[u"d"_s] = text(u"hidden"_s, false);
+        states[u"d"_s] = entered(u"hidden"_s, false);
         QCOMPARE(InputValues::value(group, source), u"-a,E+f"_s);
         InputValues::remember(group, source);
-        QCOMPARE(group.value, u"-a,E+f"_s);
-        QCOMPARE(group.children[0]->value + group.children[1]->value, u"10"_s);
-        QVERIFY(group.children[2]->value.isEmpty() && group.children[3]->value.isEmpty());
         // What is nested deeper is joined but not remembered.
-        QVERIFY(inner.children[0]->value.isEmpty());
+        QCOMPARE(remembered(group), u"-a,E+f|1|0|||"_s);
+        QCOMPARE(remembered(inner), u"||"_s);
+    }
+
+    void switches_data()
+    {
+        const TestRows<QString, FieldState, QString, QString> row("output", "state", "value", "kept");
+        row("on", {}, toggle(true), u"1"_s, u"1"_s);
+        row("off", {}, toggle(false), u"0"_s, u"0"_s);
+        row("on, with a text", u"-x"_s, toggle(true), u"-x"_s, u"1"_s);
+        row("off, with a text", u"-x"_s, toggle(false), {}, u"0"_s);
+        row("hidden", u"-x"_s, toggle(true, false), {}, {});
     }
 
     void switches()
     {
-        // Of the last text the first part goes into the command, the second is remembered.
-        const std::tuple<QString, FieldState, QString> rows[] = {{{}, toggle(true), u"1|1"_s},
-                                                                 {{}, toggle(false), u"0|0"_s},
-                                                                 {u"-x"_s, toggle(true), u"-x|1"_s},
-                                                                 {u"-x"_s, toggle(false), u"|0"_s},
-                                                                 {u"-x"_s, toggle(true, false), u"|"_s}};
-        for (const auto& [output, state, values] : rows) {
-            ArgumentDefinitions list;
-            ArgumentDefinition& check = add(list, InputType::Check, u"c"_s, output);
-            check.value = u"old"_s;
-            const FieldSource source = [field = state](const auto&) { return field; };
-            const QString value = InputValues::value(check, source);
-            InputValues::remember(check, source);
-            QCOMPARE(value + u'|' + check.value, values);
-        }
+        QFETCH(const QString, output);
+        QFETCH(const FieldState, state);
+        ArgumentDefinitions list;
+        ArgumentDefinition& check = add(list, InputType::Check, u"c"_s, output);
+        check.value = u"old"_s;
+        const FieldSource source = [&state](const auto&) { return state; };
+        QTEST(InputValues::value(check, source), "value");
+        InputValues::remember(check, source);
+        QTEST(check.value, "kept");
+    }
+
+    void completeness_data()
+    {
+        const TestRows<InputType, bool, QString, bool> row("type", "needed", "text", "complete");
+        row("optional, empty", InputType::File, false, {}, true);
+        row("needed, blanks only", InputType::Edit, true, u" \t "_s, false);
+        row("needed, given", InputType::Edit, true, u"x"_s, true);
+        row("must exist, missing", InputType::File, true, u"/nowhere"_s, false);
+        row("must exist, there", InputType::File, true, QCoreApplication::applicationFilePath(), true);
+        row("an edit never must exist", InputType::Edit, true, u"/nowhere"_s, true);
     }
 
     void completeness()
     {
-        const std::tuple<const char*, InputType, bool, bool, FieldState, bool> rows[] = {
-            {"optional, empty", InputType::File, false, false, text({}), true},
-            {"needed, blanks only", InputType::Edit, true, false, text(u" \t "_s), false},
-            {"needed, given", InputType::Edit, true, false, text(u"x"_s), true},
-            {"must exist, missing", InputType::File, true, true, text(u"/nowhere"_s), false},
-            {"must exist, there", InputType::File, true, true, text(QCoreApplication::applicationFilePath()), true},
-            {"an edit never must exist", InputType::Edit, true, true, text(u"/nowhere"_s), true}};
-        for (const auto& [name, type, mustBeSet, mustExist, state, complete] : rows) {
-            ArgumentDefinitions list;
-            add(list, InputType::Edit, u"optional"_s);
-            ArgumentDefinition& field = add(list, type, u"f"_s);
-            field.mustBeSet = mustBeSet;
-            field.fileMustExist = mustExist;
-            const FieldSource source = [entered = state](const auto&) { return entered; };
-            QVERIFY2(InputValues::firstIncomplete(list, source) == (complete ? nullptr : &field), name);
-        }
+        QFETCH(const InputType, type);
+        QFETCH(const bool, needed);
+        QFETCH(const QString, text);
+        QFETCH(const bool, complete);
+        ArgumentDefinitions list;
+        add(list, InputType::Edit, u"optional"_s);
+        ArgumentDefinition& field = add(list, type, u"f"_s);
+        field.mustBeSet = needed;
+        field.fileMustExist = needed;
+        const FieldState state = entered(text);
+        const auto* incomplete = InputValues::firstIncomplete(list, [&state](const auto&) { return state; });
+        QCOMPARE(incomplete, complete ? nullptr : &field);
     }
 };
 
