@@ -6,19 +6,70 @@
 #include "dialogs/FindDialog.h"
 #include "Installation.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPrinter>
 #include <QPushButton>
-#include <QTest>
 #include <QTextBrowser>
 
+#include <memory>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The Find dialog over a folder of sources, links and a closed folder.
+struct Find : Installation
+{
+    Find()
+    {
+        start();
+        for (const auto& name : {u"a.c"_s, u"xy"_s, u"deep/b <b>x</b>.C"_s, u"deep/h.h"_s, u"deep/d1.cpp"_s,
+                                 u"deep/deeper/ü\nz.c"_s, u".hidden/no.c"_s}) {
+            write(u"work/"_s + name, "");
+        }
+        QFile::link(u".."_s, folder + u"/deep/loop"_s);
+        QFile::link(u"a.c"_s, folder + u"/link.c"_s);
+        // A folder that may not be read holds nothing. Root may read all, so for root it is empty.
+        QDir().mkpath(closed);
+        if (::geteuid() != 0) {
+            write(u"work/closed/no.c"_s, "");
+        }
+        QFile::setPermissions(closed, {});
+        dialog = std::make_unique<FindDialog>(folder);
+        dialog->show();
+    }
+    ~Find() { QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner); }
+
+    QStringList search(const QString& filter) const
+    {
+        dialog->Setup(u"Caption"_s, filter);
+        button(u"&Search"_s).click();
+        QStringList names;
+        for (int i = 0; i < list().count(); ++i) {
+            names += list().item(i)->text().mid(folder.size() + 1);
+        }
+        names.sort();
+        return names;
+    }
+    QLineEdit& location() const { return *dialog->findChild<QLineEdit*>(); }
+    QListWidget& list() const { return *dialog->findChild<QListWidget*>(); }
+    QPushButton& button(const QString& name) const { return controlCalled<QPushButton>(*dialog, name); }
+
+    const QString folder = path(u"work"_s);
+    const QString closed = folder + u"/closed"_s;
+    std::unique_ptr<FindDialog> dialog;
+};
+
+} // namespace
 
 class DialogsTest : public QObject
 {
@@ -41,20 +92,24 @@ private Q_SLOTS:
             QPushButton& back = controlCalled<QPushButton>(html, u"Back"_s);
             QVERIFY(!back.isEnabled());
             browser->setSource(QUrl::fromLocalFile(suite.write(u"work/next.htm"_s, "<p>Next</p>")));
-            QVERIFY(back.isEnabled() && browser->toPlainText() == "Next"_L1);
+            QVERIFY(back.isEnabled());
+            QCOMPARE(browser->toPlainText(), u"Next"_s);
             back.click();
             QCOMPARE(browser->toPlainText(), u"Größe €"_s);
             // The frame's button only hides it, Escape and the Close button take it off the list.
             html.close();
-            QVERIFY(!html.isVisible() && registry.openDialogs.size() == 3);
+            QVERIFY(!html.isVisible());
+            QCOMPARE(registry.openDialogs.size(), 3);
             html.show();
             QTest::keyClick(&html, Qt::Key_Escape);
-            QVERIFY(!html.isVisible() && registry.openDialogs.size() == 2);
+            QVERIFY(!html.isVisible());
+            QCOMPARE(registry.openDialogs.size(), 2);
         }
         QCOMPARE(registry.openDialogs, QList<QDialog*>{&message});
         message.show();
         controlCalled<QPushButton>(message, u"Close"_s).click();
-        QVERIFY(!message.isVisible() && registry.openDialogs.isEmpty());
+        QVERIFY(!message.isVisible());
+        QCOMPARE(registry.openDialogs, QList<QDialog*>());
     }
 
     void completesAndPrintsALargeText()
@@ -73,64 +128,52 @@ private Q_SLOTS:
 
         plain.SetText(text);
         html.SetText(u"a line\n"_s.repeated(60000));
-        for (DisplayDialog* dialog : {&plain, &html}) {
-            const QString name = dialog == &plain ? u"work/plain.pdf"_s : u"work/html.pdf"_s;
+        const auto printed = [&suite](DisplayDialog& dialog) {
             QPrinter printer(QPrinter::ScreenResolution);
             printer.setOutputFormat(QPrinter::PdfFormat);
-            printer.setOutputFileName(suite.path(name));
-            dialog->printTo(printer);
-            QVERIFY(suite.read(name).startsWith("%PDF-"));
-        }
+            printer.setOutputFileName(suite.path(u"work/printed.pdf"_s));
+            dialog.printTo(printer);
+            return suite.read(u"work/printed.pdf"_s).first(5);
+        };
+        QCOMPARE(printed(plain), QByteArray("%PDF-"));
+        QVERIFY(QFile::remove(suite.path(u"work/printed.pdf"_s)));
+        QCOMPARE(printed(html), QByteArray("%PDF-"));
         // Printing does not leave out what was still to be shown.
         QCOMPARE(document.characterCount(), text.size() + 10 + 1);
     }
 
-    void findsFilesAndPicksOne()
+    void findsFiles_data()
     {
-        Installation suite;
-        const QString folder = suite.path(u"work"_s);
-        suite.start().values.installPath = folder;
-        for (const auto& name : {u"a.c"_s, u"xy"_s, u"deep/b <b>x</b>.C"_s, u"deep/h.h"_s, u"deep/d1.cpp"_s,
-                                 u"deep/deeper/ü\nz.c"_s, u".hidden/no.c"_s}) {
-            suite.write(u"work/"_s + name, "");
-        }
-        QCOMPARE(::symlink("..", qPrintable(suite.path(u"work/deep/loop"_s))), 0);
-        QCOMPARE(::symlink("a.c", qPrintable(suite.path(u"work/link.c"_s))), 0);
-        // A folder that may not be read holds nothing. Root may read all, so for root it is empty.
-        const QString closed = folder + u"/closed"_s;
-        QVERIFY(QDir().mkpath(closed));
-        if (::geteuid() != 0) {
-            suite.write(u"work/closed/no.c"_s, "");
-        }
-        QVERIFY(QFile::setPermissions(closed, {}));
-        FindDialog dialog(appRegistry->values.installPath);
-        dialog.show();
-        QLineEdit& location = *dialog.findChild<QLineEdit*>();
-        QListWidget& list = *dialog.findChild<QListWidget*>();
-        QPushButton& searchButton = controlCalled<QPushButton>(dialog, u"&Search"_s);
-        QPushButton& ok = controlCalled<QPushButton>(dialog, u"&Ok"_s);
-        const auto find = [&](const QString& filter) {
-            dialog.Setup(u"Caption"_s, filter);
-            searchButton.click();
-            QStringList names;
-            for (int i = 0; i < list.count(); ++i) {
-                names += list.item(i)->text().mid(folder.size() + 1);
-            }
-            names.sort();
-            return names;
-        };
-        const QStringList dotC{u"a.c"_s, u"deep/b <b>x</b>.C"_s, u"deep/deeper/ü\nz.c"_s};
-        QCOMPARE(find(u"*.*"_s), (QStringList{dotC[0], dotC[1], u"deep/d1.cpp"_s, dotC[2], u"deep/h.h"_s}));
-        QCOMPARE(find(u"*.h d?.c* [x]y"_s), (QStringList{u"deep/d1.cpp"_s, u"deep/h.h"_s, u"xy"_s}));
-        QCOMPARE(find(QString()), QStringList());
-        QCOMPARE(find(u"*.c"_s), dotC);
-        QVERIFY(QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        const QString b = u"deep/b <b>x</b>.C"_s;
+        const QString z = u"deep/deeper/ü\nz.c"_s;
+        const TestRows<QString, QStringList> row("filter", "found");
+        row("with a dot", u"*.*"_s, {u"a.c"_s, b, u"deep/d1.cpp"_s, z, u"deep/h.h"_s});
+        row("several patterns", u"*.h d?.c* [x]y"_s, {u"deep/d1.cpp"_s, u"deep/h.h"_s, u"xy"_s});
+        row("none", {}, {});
+        row("any letter case", u"*.c"_s, {u"a.c"_s, b, z});
+    }
 
+    void findsFiles()
+    {
+        QFETCH(const QString, filter);
+        QFETCH(const QStringList, found);
+        const Find find;
+        QVERIFY(QFileInfo(find.path(u"work/link.c"_s)).isSymLink());
+        QVERIFY(QFileInfo(find.path(u"work/deep/loop"_s)).isSymLink());
+        QCOMPARE(find.search(filter).join(u'|'), found.join(u'|'));
+    }
+
+    void picksAFile()
+    {
+        const Find find;
+        FindDialog& dialog = *find.dialog;
+        QPushButton& ok = find.button(u"&Ok"_s);
+        find.search(u"a.c"_s);
         QVERIFY(!ok.isEnabled());
-        list.setCurrentRow(0);
-        list.setFocus();
-        QTest::keyClick(&list, Qt::Key_Return);
-        QCOMPARE(dialog.SelectedFile(), folder + u"/a.c"_s);
+        find.list().setCurrentRow(0);
+        find.list().setFocus();
+        QTest::keyClick(&find.list(), Qt::Key_Return);
+        QCOMPARE(dialog.SelectedFile(), find.folder + u"/a.c"_s);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         // Escape keeps the earlier choice, Cancel forgets it.
         dialog.show();
@@ -139,27 +182,38 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         dialog.show();
         dialog.reject();
-        QCOMPARE(dialog.SelectedFile(), folder + u"/a.c"_s);
+        QCOMPARE(dialog.SelectedFile(), find.folder + u"/a.c"_s);
         dialog.show();
-        controlCalled<QPushButton>(dialog, u"&Cancel"_s).click();
+        find.button(u"&Cancel"_s).click();
         QVERIFY(dialog.SelectedFile().isEmpty());
+    }
 
-        BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
-        for (const QString& place : {u"/nowhere"_s, folder + u"/xy"_s}) {
-            location.setText(place);
-            searchButton.click();
-        }
+    void saysWhereItCanNotSearch()
+    {
+        const Find find;
+        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
+        QPushButton& searchButton = find.button(u"&Search"_s);
+        find.location().setText(u"/nowhere"_s);
+        searchButton.click();
+        find.location().setText(find.folder + u"/xy"_s);
+        searchButton.click();
         QCOMPARE(boxes.texts,
                  (QStringList{u"Unable to search for files|The specified search location does not exist"_s,
                               u"Unable to search for files|The specified search location must be a directory"_s}));
-        location.clear();
+        find.location().clear();
         QVERIFY(!searchButton.isEnabled());
+    }
+
+    void startsWhereTheFileLies()
+    {
+        const Find find;
+        find.location().clear();
         // Below the last search folder nothing changes; elsewhere the folder of the file is proposed.
-        dialog.SetSearchStart(folder + u"/deep/h.h"_s);
-        dialog.SetSearchStart(u"/nowhere"_s);
-        QCOMPARE(location.text(), QString());
-        dialog.SetSearchStart(suite.write(u"other/b.c"_s, ""));
-        QCOMPARE(location.text(), suite.path(u"other"_s));
+        find.dialog->SetSearchStart(find.folder + u"/deep/h.h"_s);
+        find.dialog->SetSearchStart(u"/nowhere"_s);
+        QCOMPARE(find.location().text(), QString());
+        find.dialog->SetSearchStart(find.write(u"other/b.c"_s, ""));
+        QCOMPARE(find.location().text(), find.path(u"other"_s));
     }
 
     void stopsSearchingAtAnyEntry()
@@ -177,7 +231,8 @@ private Q_SLOTS:
         }
         FileSearch({u"*.c"_s}).run(suite.path(u"work"_s), listener);
         // Three folders were announced, then seven files found.
-        QVERIFY(listener.found == 7 && listener.asked == 11);
+        QCOMPARE(listener.found, 7);
+        QCOMPARE(listener.asked, 11);
     }
 };
 

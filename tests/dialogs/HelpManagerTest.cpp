@@ -6,11 +6,11 @@
 #include "dialogs/HelpViewer.h"
 #include "Installation.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QProcess>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTest>
 #include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
@@ -49,15 +49,25 @@ private Q_SLOTS:
                                             "</wendleHelpFile><wendleHelpDir>cut");
         QCOMPARE(HelpManager::ViewerArguments(registry, collection),
                  (QStringList{u"-own"_s, suite.path(u"help/own.qhc"_s)}));
+    }
 
-        for (const QByteArray& contents : {QByteArray("<assistantconfig/>"), QByteArray()}) {
-            suite.write(u"help/wendle.adp"_s, contents);
-            suite.start();
-            const HelpCollection old(profile);
-            QVERIFY(!old.isCollection());
-            QCOMPARE(HelpManager::ViewerArguments(registry, old), (QStringList{u"-profile"_s, profile}));
-            QCOMPARE(suite.read(u"help/wendle.adp"_s), contents);
-        }
+    void leavesOldProfilesAlone_data()
+    {
+        const TestRows<QByteArray> row("contents");
+        row("old format", "<assistantconfig/>");
+        row("empty", {});
+    }
+
+    void leavesOldProfilesAlone()
+    {
+        QFETCH(const QByteArray, contents);
+        Installation suite;
+        const QString profile = suite.write(u"help/wendle.adp"_s, contents);
+        suite.start();
+        const HelpCollection old(profile);
+        QVERIFY(!old.isCollection());
+        QCOMPARE(HelpManager::ViewerArguments(*appRegistry, old), (QStringList{u"-profile"_s, profile}));
+        QCOMPARE(suite.read(profile), contents);
     }
 
     void findsPages()
@@ -85,28 +95,38 @@ private Q_SLOTS:
     {
         const Installation suite;
         const QUrl page(u"qthelp://ns/folder/ä.htm"_s);
-        {
-            AssistantClient client(suite.writeScript(u"viewer"_s, "{ echo \"$@\"; cat; } > \"$0.heard\""));
-            client.setArguments({u"-profile"_s, u"p"_s});
-            client.showPage(page);
-            client.showPage(page);
-            QTRY_COMPARE(suite.read(u"viewer.heard"_s),
-                         "-enableRemoteControl -profile p\n" +
-                             QByteArray("setSource " + page.toEncoded() + '\n').repeated(2));
-        }
-        // One does not like its profile, one dies, one is not there. Each is reported, and tried again when asked.
-        for (const QString& viewer : {suite.writeScript(u"picky"_s, "echo 'Unknown option'; exit 255"),
-                                      suite.writeScript(u"dying"_s, "kill -KILL $$"), u"/gone"_s}) {
-            AssistantClient client(viewer);
-            const QSignalSpy errors(&client, &AssistantClient::error);
-            client.showPage(page);
-            QTRY_COMPARE(errors.size(), 1);
-            const QString text = errors[0][0].toString();
-            QVERIFY2(text.contains(viewer), qPrintable(text));
-            QCOMPARE(text.endsWith("Unknown option"_L1), viewer.endsWith("picky"_L1));
-            client.showPage(page);
-            QTRY_COMPARE(errors.size(), 2);
-        }
+        AssistantClient client(suite.writeScript(u"viewer"_s, "{ echo \"$@\"; cat; } > \"$0.heard\""));
+        client.setArguments({u"-profile"_s, u"p"_s});
+        client.showPage(page);
+        client.showPage(page);
+        QTRY_COMPARE(suite.read(u"viewer.heard"_s), "-enableRemoteControl -profile p\n" +
+                                                        QByteArray("setSource " + page.toEncoded() + '\n').repeated(2));
+    }
+
+    void reportsABrokenViewer_data()
+    {
+        const TestRows<QByteArray, QString> row("script", "reason");
+        row("does not like its profile", "echo 'Unknown option'; exit 255", u"Unknown option"_s);
+        row("dies", "kill -KILL $$", {});
+        row("is not there", {}, {});
+    }
+
+    void reportsABrokenViewer()
+    {
+        QFETCH(const QByteArray, script);
+        QFETCH(const QString, reason);
+        const Installation suite;
+        const QString viewer = script.isEmpty() ? u"/gone"_s : suite.writeScript(u"viewer"_s, script);
+        AssistantClient client(viewer);
+        const QSignalSpy errors(&client, &AssistantClient::error);
+        client.showPage(QUrl(u"qthelp://ns/folder/page.htm"_s));
+        QTRY_COMPARE(errors.size(), 1);
+        const QString text = errors[0][0].toString();
+        QVERIFY2(text.contains(viewer), qPrintable(text));
+        QVERIFY2(text.endsWith(reason), qPrintable(text));
+        // Tried again when asked.
+        client.showPage(QUrl(u"qthelp://ns/folder/page.htm"_s));
+        QTRY_COMPARE(errors.size(), 2);
     }
 
     void drivesTheRealAssistant()
