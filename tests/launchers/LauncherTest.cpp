@@ -5,6 +5,7 @@
 #include "launchers/LauncherGrid.h"
 #include "launchers/PageData.h"
 #include "launchers/RunAppData.h"
+#include "personality/AnalyserInference.h"
 #include "process/ExecutableLookup.h"
 #include "process/StrayProcesses.h"
 #include "TestMain.h"
@@ -13,18 +14,24 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGridLayout>
+#include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QTextBrowser>
 
 #include <csignal>
+#include <memory>
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// A child that says who it is and does not listen.
+const QByteArray deaf = "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\n";
 
 /// A launcher page with buttons, on a project that does not exist.
 struct Launchers : Installation
@@ -33,12 +40,16 @@ struct Launchers : Installation
     {
         Installation::define("<applicationPage>" + applications + "</applicationPage>");
         start().values.useMessageViewerMessages = false;
-        PageData& page = *appRegistry->definitions.applicationPages.at(0);
-        page.SetProjectFile(path(u"work/p.prj"_s));
+        page().SetProjectFile(path(u"work/p.prj"_s));
         holder = std::make_unique<QWidget>();
-        page.BuildButtons(new QGridLayout(holder.get()));
-        return page;
+        page().BuildButtons(new QGridLayout(holder.get()));
+        return page();
     }
+
+    static PageData& page() { return *appRegistry->definitions.applicationPages.at(0); }
+
+    /// The process whose id a tool's script wrote.
+    QByteArray child(int number) const { return read(u"tool%1.pid"_s.arg(number)); }
 
     QByteArray application(int number, const QByteArray& script, const QByteArray& more = {}) const
     {
@@ -78,20 +89,33 @@ private Q_SLOTS:
         PageData& page = suite.define(R"(<columns>3</columns>
             <application name="A\nB"><exe TYPE="ORVC">missing/c</exe><dependency>no such program</dependency>
               <exeargs>
-                %PF</exeargs><columnspan>4</columnspan><displayoutput>text</displayoutput><displayoutput>pdf</displayoutput>
+                %PF</exeargs><columnspan>4</columnspan><rowspan>2</rowspan><displayoutput>text</displayoutput><displayoutput>pdf</displayoutput>
               <leftimage>arrow</leftimage><runFromExeDir>1</runFromExeDir><runFromExeDir>0</runFromExeDir></application>
             <application name="R"><exe>sh</exe><description>&lt;b&gt;</description><colour>nonsense</colour>
               <condition name="G" action="disable"/><condition name="G" action="enable"/></application>
             <application><exe TYPE="ORVC">sh</exe></application>)");
         RunAppData& first = *page.applications.at(0);
-        QVERIFY(page.applications.size() == 3 && page.columns == 4 && first.name == "A\nB"_L1);
+        const RunAppData& second = *page.applications.at(1);
+        QCOMPARE(page.applications.size(), size_t(3));
+        QCOMPARE(page.columns, 4);
+        QCOMPARE(first.name, u"A\nB"_s);
         QCOMPARE(first.exeargs, (QStringList{QString(), u"%PF"_s}));
-        QVERIFY(first.displayMode == NoDisplay && first.busyCursor && first.runFromExeDir);
+        QCOMPARE(first.displayMode, int(NoDisplay));
+        QVERIFY(first.busyCursor);
+        QVERIFY(first.runFromExeDir);
+        // An arrow column lies between two button columns, so each of three steps brings its gap twice.
+        QCOMPARE(first.button->size(), QSize(4 * 180 + 3 * 2 * 2, 2 * 50 + 2));
+        QCOMPARE(second.button->size(), QSize(180, 50));
         // The bin folder answers the empty name of the other analyser's program, the dependency is missing.
         QCOMPARE(first.button->toolTip(), u"Disabled, could not locate required executables: no such program"_s);
         const auto arrows = first.button->parentWidget()->findChildren<QLabel*>();
-        QVERIFY(!first.button->isEnabled() && arrows.size() == 1 && !arrows[0]->pixmap().isNull());
-        QVERIFY(page.applications[1]->startsDisabled && page.applications[1]->button->toolTip().contains("&lt;b"_L1));
+        QVERIFY(!first.button->isEnabled());
+        QCOMPARE(arrows.size(), 1);
+        const QImage arrow = arrows[0]->pixmap().toImage();
+        QCOMPARE(arrow.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(arrow.pixelColor(arrow.width() / 4, arrow.height() / 2), QColor(Qt::black));
+        QVERIFY(second.startsDisabled);
+        QVERIFY2(second.button->toolTip().contains("&lt;b"_L1), qPrintable(second.button->toolTip()));
         QVERIFY(!page.applications[2]->button);
         page.SetIsORVC(true);
         ExecutableLookup lookup(appRegistry->executableFolders());
@@ -139,21 +163,27 @@ private Q_SLOTS:
         QVERIFY(!next.isEnabled());
         QCOMPARE(next.toolTip(), u"Available once this has succeeded: Tool 1"_s);
         // When its button was made, it could be run.
-        QVERIFY(starts ||
-                (script == "gone" ? QFile::remove(tool.cppExe) : QFile::setPermissions(tool.cppExe, QFile::ReadOwner)));
+        if (script == "gone") {
+            QVERIFY(QFile::remove(tool.cppExe));
+        } else if (script == "locked") {
+            QVERIFY(QFile::setPermissions(tool.cppExe, QFile::ReadOwner));
+        }
         tool.button->click();
-        QVERIFY(!starts || tool.button->text() == "Tool 1\nrunning..."_L1);
-        QTRY_VERIFY(!tool.isRunning() && !tool.button->text().contains("running"_L1));
+        QCOMPARE(tool.button->text(), starts ? u"Tool 1\nrunning..."_s : u"Tool\n1"_s);
+        QTRY_VERIFY(!tool.isRunning());
+        QTRY_COMPARE(tool.button->text(), u"Tool\n1"_s);
         QTRY_COMPARE(boxes.texts, box);
         QCoreApplication::processEvents();
-        QVERIFY(boxes.texts.size() == box.size() && !QApplication::overrideCursor());
-        QVERIFY(next.isEnabled() == box.isEmpty() && next.toolTip().isEmpty() == box.isEmpty());
+        QCOMPARE(boxes.texts, box);
+        QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(next.isEnabled(), box.isEmpty());
+        QCOMPARE(next.toolTip().isEmpty(), box.isEmpty());
         const QDialog* window = appRegistry->openDialogs.value(0);
         QCOMPARE(window ? window->findChild<QPlainTextEdit*>()->toPlainText() : QString(),
                  box.isEmpty() ? says : QString());
         // The end of the road shows the way: what ran, and what it said.
         const QString details = boxes.details.value(0);
-        QVERIFY2(box.isEmpty() || says.contains("|No data"_L1) || details.contains(tool.cppExe), qPrintable(details));
+        QCOMPARE(details.contains(tool.cppExe), !box.isEmpty() && !says.contains("|No data"_L1));
         QCOMPARE(details.contains("reason"_L1), script.contains("reason"));
     }
 
@@ -177,40 +207,53 @@ private Q_SLOTS:
         QCOMPARE(boxes.texts.size(), 2);
         QVERIFY2(boxes.texts[0].contains("A temporary file can not be made in "_L1), qPrintable(boxes.texts[0]));
         QVERIFY2(boxes.texts[1].contains(" can not be written: "_L1), qPrintable(boxes.texts[1]));
-        QVERIFY(!page.applications[0]->isRunning() && !QFile::exists(suite.path(u"tool1.ran"_s)));
+        QVERIFY(!page.applications[0]->isRunning());
+        QVERIFY(!QFile::exists(suite.path(u"tool1.ran"_s)));
+    }
+
+    void showsTheBeginningOfAFlood_data()
+    {
+        const TestRows<QByteArray> row("mode");
+        row("text", "text");
+        row("html", "html");
+        row("message", "message");
     }
 
     void showsTheBeginningOfAFlood()
     {
+        QFETCH(const QByteArray, mode);
         Launchers suite;
-        QByteArray applications;
-        for (const char* mode : {"text", "html", "message"}) {
-            applications += suite.application(1, "yes '<p>word</p>' | head -c 100000000",
-                                              QByteArray("<displayoutput>") + mode + "</displayoutput>");
-        }
-        for (const auto& tool : suite.define(applications).applications) {
-            const qsizetype windows = appRegistry->openDialogs.size();
-            tool->button->click();
-            QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), windows + 1, 60000);
-            const QDialog& dialog = *appRegistry->openDialogs.last();
-            // Its end names the file that holds everything.
-            const auto keptBytes = [&dialog] {
-                const auto* text = dialog.findChild<QPlainTextEdit*>();
-                const auto* browser = dialog.findChild<QTextBrowser*>();
-                const QString shown = text      ? text->document()->lastBlock().text()
-                                      : browser ? browser->document()->lastBlock().text()
-                                                : dialog.findChild<QLabel*>()->text();
-                return QFileInfo(shown.section(u' ', -1).remove(u']')).size();
-            };
-            QTRY_COMPARE_WITH_TIMEOUT(keptBytes(), 100000000, 30000);
-        }
+        const PageData& page = suite.define(suite.application(1, "yes '<p>word</p>' | head -c 100000000",
+                                                              "<displayoutput>" + mode + "</displayoutput>"));
+        page.applications[0]->button->click();
+        QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), 1, 60000);
+        const QDialog& dialog = *appRegistry->openDialogs[0];
+        // Its end names the file that holds everything.
+        const auto keptBytes = [&dialog] {
+            const auto* text = dialog.findChild<QPlainTextEdit*>();
+            const auto* browser = dialog.findChild<QTextBrowser*>();
+            const QString shown = text      ? text->document()->lastBlock().text()
+                                  : browser ? browser->document()->lastBlock().text()
+                                            : dialog.findChild<QLabel*>()->text();
+            return QFileInfo(shown.section(u' ', -1).remove(u']')).size();
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(keptBytes(), 100000000, 30000);
         // Nothing stays behind, neither of this nor of the option and list files.
         appRegistry->ShutDown();
         QCOMPARE(QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}), QStringList());
     }
 
+    void givesTheToolItsPlaceAndItsMessages_data()
+    {
+        const TestRows<ProjectType, QByteArray> row("project", "messages");
+        row("C", ProjectType::C, "-only 7");
+        row("C++", ProjectType::Cpp, "-only 8");
+    }
+
     void givesTheToolItsPlaceAndItsMessages()
     {
+        QFETCH(const ProjectType, project);
+        QFETCH(const QByteArray, messages);
         Launchers suite;
         PageData& page = suite.define(
             suite.application(1, "pwd > \"$0.out\"; echo \"$ORVCPPPATH\" >> \"$0.out\"; tail -n 1 \"$4\" >> \"$0.out\"",
@@ -218,63 +261,84 @@ private Q_SLOTS:
         appRegistry->values.useMessageViewerMessages = true;
         appRegistry->values.cMessages = {u"7"_s};
         appRegistry->values.cppMessages = {u"8"_s};
-        for (const bool isC : {true, false}) {
-            // The list is chosen by the suite's current project.
-            appRegistry->values.project.projectType = isC ? ProjectType::C : ProjectType::Cpp;
-            page.applications[0]->button->click();
-            QTRY_VERIFY(!page.applications[0]->isRunning());
-            QCOMPARE(suite.read(u"tool1.out"_s), suite.path(u"."_s).chopped(2).toUtf8() + '\n' +
-                                                     suite.path(u"orvcpp"_s).toUtf8() +
-                                                     (isC ? "\n-only 7\n" : "\n-only 8\n"));
-        }
+        // The list is chosen by the suite's current project.
+        appRegistry->values.project.projectType = project;
+        page.applications[0]->button->click();
+        QTRY_VERIFY(!page.applications[0]->isRunning());
+        QCOMPARE(suite.read(u"tool1.out"_s), suite.path(u"."_s).chopped(2).toUtf8() + '\n' +
+                                                 suite.path(u"orvcpp"_s).toUtf8() + '\n' + messages + '\n');
     }
 
-    void stopsWhatItStarted()
+    void stopsAllWhenItsPageIsReset()
     {
         Launchers suite;
-        // It says who it is and does not listen.
-        const QByteArray deaf = "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\n";
-        PageData& page = suite.define(
+        const PageData& page = suite.define(
             suite.application(1, "trap '' TERM\n" + deaf + "wait\n", "<condition name='G' action='finish'/>") +
             suite.application(2, "echo hello",
-                              "<displayoutput>message</displayoutput><condition name='G' action='disable'/>") +
-            suite.application(3, deaf + "wait\n", "<displayoutput>cursor</displayoutput>") +
-            suite.application(4, "setsid " + deaf) + suite.application(5, "sleep 1000 & echo $! > \"$0.pid\""));
-        StrayProcesses::adopt();
-        const auto tool = [&page](int number) -> RunAppData& { return *page.applications[size_t(number - 1)]; };
-        const auto child = [&suite](int number) { return suite.read(u"tool%1.pid"_s.arg(number)); };
-        tool(1).button->click();
-        QVERIFY(!tool(2).button->isEnabled());
-        QTRY_VERIFY(!child(1).isEmpty());
+                              "<displayoutput>message</displayoutput><condition name='G' action='disable'/>"));
+        RunAppData& tool = *page.applications[0];
+        RunAppData& other = *page.applications[1];
+        tool.button->click();
+        QVERIFY(!other.button->isEnabled());
+        QTRY_VERIFY(!suite.child(1).isEmpty());
         const BoxAnswers boxes({QMessageBox::Ok});
-        tool(1).button->click();
+        tool.button->click();
         QCOMPARE(boxes.texts, QStringList{u"Tool 1|This application is already running"_s});
-        tool(2).Activate();
+        other.Activate();
         QTRY_COMPARE(appRegistry->openDialogs.size(), 1);
-        QVERIFY(page.ApplicationsRunning() && appRegistry->openDialogs[0]->isVisible());
-        page.ResetApplications();
-        QVERIFY(!appRegistry->openDialogs[0]->isVisible() && tool(2).button->isEnabled());
-        QTRY_VERIFY_WITH_TIMEOUT(!tool(1).isRunning() && !Installation::isAlive(child(1)), 8000);
+        const QDialog& window = *appRegistry->openDialogs[0];
+        QVERIFY(window.isVisible());
+        QVERIFY(page.ApplicationsRunning());
+        suite.page().ResetApplications();
+        QVERIFY(!window.isVisible());
+        QVERIFY(other.button->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(!tool.isRunning(), 8000);
+        QTRY_VERIFY(!Installation::isAlive(suite.child(1)));
         QCOMPARE(boxes.texts.size(), 1);
+    }
 
-        // One that listens, with a child that does not, stopped by the window that locks the wizard.
-        tool(3).button->click();
-        QTRY_VERIFY(!child(3).isEmpty());
+    // One that listens, with a child that does not.
+    void stopsFromTheWindowThatLocksTheWizard()
+    {
+        Launchers suite;
+        const PageData& page =
+            suite.define(suite.application(1, deaf + "wait\n", "<displayoutput>cursor</displayoutput>"));
+        const RunAppData& tool = *page.applications[0];
+        const BoxAnswers boxes({});
+        tool.button->click();
+        QTRY_VERIFY(!suite.child(1).isEmpty());
         const auto busy = [] { return qobject_cast<BusyDialog*>(QApplication::activeWindow()); };
         QTRY_VERIFY(busy());
         QVERIFY(QApplication::overrideCursor());
         busy()->reject();
-        QTRY_VERIFY(!tool(3).isRunning() && !Installation::isAlive(child(3)));
-        QVERIFY(boxes.texts.size() == 1 && !QApplication::overrideCursor());
+        QTRY_VERIFY(!tool.isRunning());
+        QTRY_VERIFY(!Installation::isAlive(suite.child(1)));
+        QCOMPARE(boxes.texts, QStringList());
+        QVERIFY(!QApplication::overrideCursor());
+    }
 
-        // What a tool leaves behind stays for the user, but not longer than the program, wherever it went.
-        for (const int number : {4, 5}) {
-            tool(number).Activate();
-            QTRY_VERIFY(!tool(number).isRunning() && !child(number).isEmpty());
-        }
-        QVERIFY(Installation::isAlive(child(4)) && Installation::isAlive(child(5)) && page.ProgramsRunning());
+    void endsWhatItLeftBehind_data()
+    {
+        const TestRows<QByteArray, bool> row("script", "counts");
+        row("detached", "setsid " + deaf, false);
+        row("in the background", "sleep 1000 & echo $! > \"$0.pid\"", true);
+    }
+
+    // It stays for the user, but not longer than the program, wherever it went.
+    void endsWhatItLeftBehind()
+    {
+        QFETCH(const QByteArray, script);
+        Launchers suite;
+        const PageData& page = suite.define(suite.application(1, script));
+        StrayProcesses::adopt();
+        page.applications[0]->Activate();
+        QTRY_VERIFY(!page.applications[0]->isRunning());
+        QTRY_VERIFY(!suite.child(1).isEmpty());
+        QVERIFY(Installation::isAlive(suite.child(1)));
+        QTEST(page.ProgramsRunning(), "counts");
         appRegistry->ShutDown();
-        QVERIFY(!Installation::isAlive(child(4)) && !Installation::isAlive(child(5)) && !page.ProgramsRunning());
+        QVERIFY(!Installation::isAlive(suite.child(1)));
+        QVERIFY(!page.ProgramsRunning());
     }
 };
 
