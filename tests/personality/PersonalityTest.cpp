@@ -5,79 +5,117 @@
 #include "personality/MessageSelectionFile.h"
 #include "personality/OptionTables.h"
 #include "TestMain.h"
-
-#include <QTest>
+#include "TestRows.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a file is found to be for.
+QString scanned(const QString& file)
+{
+    using namespace FileScans;
+    QStringList found{mentionsCOnlyOption(file) ? u"c"_s : QString(),
+                      mentionsCppOnlyOption(file) ? u"cpp"_s : QString(), hasCMetrics(file) ? u"cmet"_s : QString(),
+                      hasCppMetrics(file) ? u"cppmet"_s : QString()};
+    found.removeAll(QString());
+    return found.join(u' ');
+}
+
+} // namespace
 
 class PersonalityTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void scans_data()
+    {
+        const TestRows<QByteArray, QString> row("text", "found");
+        row("any letter case", "x\n-XCASE-", u"c"_s);
+        row("with a value", "-namelength 31", u"c"_s);
+        row("C option without a setting", "-xcase", {});
+        row("C option at the end of a line", "-xcase\n", {});
+        row("C++ option anywhere", "text-ccx", u"cpp"_s);
+        row("both", "-xcase+ -rvaluerefbind", u"c cpp"_s);
+        row("neither", "-via \"x\"\n-maxcount 3\n", {});
+        row("C metrics", "<S>STBUG 1", u"cmet"_s);
+        row("C++ metrics", "<S>STWMC <s>stbug", u"cppmet"_s);
+        row("binary", QByteArray("\0\xff-xcase+\0", 10), u"c"_s);
+    }
+
     void scans()
     {
-        using namespace FileScans;
+        QFETCH(const QByteArray, text);
         const Installation suite;
-        const auto found = [&suite](const QByteArray& text) {
-            const QString file = suite.write(u"file"_s, text);
-            return QByteArray(mentionsCOnlyOption(file) ? "c " : "") + (mentionsCppOnlyOption(file) ? "cpp " : "") +
-                   (hasCMetrics(file) ? "cmet " : "") + (hasCppMetrics(file) ? "cppmet " : "");
-        };
-        // A lost option of either table would decide for the wrong analyser.
-        QVERIFY(OptionTables::cOnlyOptions().size() == 41 && OptionTables::cppOnlyOptions().size() == 92);
-        QCOMPARE(found("x\n-XCASE-"), "c ");
-        QCOMPARE(found("-namelength 31"), "c ");
-        // A C option is one with a setting only, a C++ option is one anywhere.
-        QCOMPARE(found("-xcase"), "");
-        QCOMPARE(found("-xcase\n"), "");
-        QCOMPARE(found("text-ccx"), "cpp ");
-        QCOMPARE(found("-xcase+ -rvaluerefbind"), "c cpp ");
-        QCOMPARE(found("-via \"x\"\n-maxcount 3\n"), "");
-        QCOMPARE(found("<S>STBUG 1"), "cmet ");
-        QCOMPARE(found("<S>STWMC <s>stbug"), "cppmet ");
-        QCOMPARE(found(QByteArray("\0\xff-xcase+\0", 10)), "c ");
-        for (const auto& scan : {mentionsCOnlyOption, mentionsCppOnlyOption, hasCMetrics, hasCppMetrics}) {
-            QVERIFY(!scan(suite.path(u"work"_s)) && !scan(u"/dev/zero"_s) && !scan(QString()));
-        }
+        QTEST(scanned(suite.write(u"file"_s, text)), "found");
+    }
+
+    void scansNothingButFiles()
+    {
+        const Installation suite;
+        QCOMPARE(scanned(suite.path(u"work"_s)), QString());
+        QCOMPARE(scanned(u"/dev/zero"_s), QString());
+        QCOMPARE(scanned({}), QString());
+    }
+
+    // A lost option of either table would decide for the wrong analyser.
+    void tablesAreWhole()
+    {
+        QCOMPARE(OptionTables::cOnlyOptions().size(), size_t(41));
+        QCOMPARE(OptionTables::cppOnlyOptions().size(), size_t(92));
+    }
+
+    void infers_data()
+    {
+        using enum ProjectType;
+        // What lies nearer to the project decides first: its settings, its metrics, its place, its sources.
+        const TestRows<QStringList, QString, QString, QStringList, ProjectType> row("settings", "metrics", "project",
+                                                                                    "sources", "inferred");
+        row("compiler", {u"c"_s, u"cpp"_s}, {}, {}, {}, C);
+        row("analyser", {u"both"_s, u"cpp"_s}, {}, {}, {}, Cpp);
+        row("metrics", {u"gone"_s, u"both"_s}, u"cpp"_s, {}, {}, Cpp);
+        row("metrics before sources", {}, u"c"_s, {}, {u"x.cpp"_s}, C);
+        row("place before sources", {}, {}, u"/opt/orvcpp/p.prj"_s, {u"x.c"_s}, Cpp);
+        row("in both places", {}, {}, u"/opt/orvcpp/opt/orvc/p.prj"_s, {}, C);
+        row("first C source", {}, {}, u"/p.prj"_s, {u"x.h"_s, u"x.CPP"_s, u"a.tar.c"_s, u"y.cpp"_s}, CBySuffix);
+        row("first C++ source", {}, {}, u"/p.prj"_s, {u"x.cxx"_s, u"y.c"_s}, CppBySuffix);
+        row("headers only", {}, {}, u"/p.prj"_s, {u"x.h"_s}, Unknown);
     }
 
     void infers()
     {
-        using enum ProjectType;
+        QFETCH(QStringList, settings);
+        QFETCH(const QString, metrics);
+        QFETCH(const QStringList, sources);
+        QFETCH(const QString, project);
         const Installation suite;
-        const QString c = suite.write(u"c"_s, "-xcase+ <S>STBUG");
-        const QString cpp = suite.write(u"cpp"_s, "-rvaluerefbind <S>STWMC");
-        const QString both = suite.write(u"both"_s, "-rvaluerefbind -xcase+");
+        suite.write(u"c"_s, "-xcase+ <S>STBUG");
+        suite.write(u"cpp"_s, "-rvaluerefbind <S>STWMC");
+        suite.write(u"both"_s, "-rvaluerefbind -xcase+");
         InferenceInput input;
         input.cInstallDir = u"/opt/orvc/"_s;
         input.cppInstallDir = u"/opt/orvcpp"_s;
-        // What lies nearer to the project decides first: its settings, its metrics, its place, its sources.
-        const auto inferred = [&input](const QStringList& settings, const QString& metrics, const QString& project,
-                                       const QStringList& sources) {
-            input.compilerPersonality = settings.value(0);
-            input.analyserPersonality = settings.value(1);
-            input.metricsPath = metrics;
-            input.projectFile = project;
-            input.eachSource = [&sources](const auto& visit) { std::ranges::any_of(sources, visit); };
-            return inferAnalyser(input);
-        };
-        QCOMPARE(inferred({c, cpp}, {}, {}, {}), C);
-        QCOMPARE(inferred({both, cpp}, {}, {}, {}), Cpp);
-        QCOMPARE(inferred({u"/gone"_s, both}, cpp, {}, {}), Cpp);
-        QCOMPARE(inferred({}, c, {}, {u"x.cpp"_s}), C);
-        QCOMPARE(inferred({}, {}, u"/opt/orvcpp/p.prj"_s, {u"x.c"_s}), Cpp);
-        QCOMPARE(inferred({}, {}, u"/opt/orvcpp/opt/orvc/p.prj"_s, {}), C);
-        QCOMPARE(inferred({}, {}, u"/p.prj"_s, {u"x.h"_s, u"x.CPP"_s, u"a.tar.c"_s, u"y.cpp"_s}), CBySuffix);
-        QCOMPARE(inferred({}, {}, u"/p.prj"_s, {u"x.cxx"_s, u"y.c"_s}), CppBySuffix);
-        QCOMPARE(inferred({}, {}, u"/p.prj"_s, {u"x.h"_s}), Unknown);
+        input.compilerPersonality = settings.isEmpty() ? QString() : suite.path(settings[0]);
+        input.analyserPersonality = settings.isEmpty() ? QString() : suite.path(settings[1]);
+        input.metricsPath = metrics.isEmpty() ? QString() : suite.path(metrics);
+        input.projectFile = project;
+        input.eachSource = [&sources](const auto& visit) { std::ranges::any_of(sources, visit); };
+        QTEST(inferAnalyser(input), "inferred");
+    }
+
+    void infersFromWhatIsDeclared()
+    {
+        InferenceInput input;
+        input.cppInstallDir = u"/opt/orvcpp"_s;
+        input.projectFile = u"/opt/orvcpp/p.prj"_s;
+        input.eachSource = [](const auto&) {};
         // A folder that is not known lies in every path.
-        input.cInstallDir.clear();
-        QCOMPARE(inferred({}, {}, u"/opt/orvcpp/p.prj"_s, {}), C);
-        input.declaredLanguage = Cpp;
-        QCOMPARE(inferred({c}, {}, {}, {}), Cpp);
+        QCOMPARE(inferAnalyser(input), ProjectType::C);
+        input.declaredLanguage = ProjectType::Cpp;
+        QCOMPARE(inferAnalyser(input), ProjectType::Cpp);
     }
 
     void selectsMessages()
