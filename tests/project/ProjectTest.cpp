@@ -4,10 +4,12 @@
 #include "Installation.h"
 #include "project/ProjectReader.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QBuffer>
 #include <QDateTime>
-#include <QTest>
+#include <QDir>
+#include <QFile>
 
 #include <unistd.h>
 
@@ -39,8 +41,6 @@ QString shape(const ProjectData& project)
 /// Sources, outputs and personalities of one project; times are seconds after a fixed start.
 struct Workspace : Installation
 {
-    Workspace() { start(); }
-
     void touch(const QString& name, int seconds, const QByteArray& contents = "x") const
     {
         write(u"work/"_s + name, contents, begin.addSecs(seconds));
@@ -71,37 +71,45 @@ class ProjectTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsBothDialects()
+    void readsBothDialects_data()
     {
-        const Workspace suite;
-        // The tree, the declared language (4 for none) and what analysed it.
-        const auto read = [&suite](const QByteArray& text) {
-            const Project project(suite.write(u"work/p.prj"_s, text));
-            const QString facts = u"|%1|"_s.arg(int(project.declaredLanguage)) + project.lastAnalysis;
-            return project.valid ? shape(project.root) + facts : u"invalid"_s;
-        };
         const QByteArray start = "versiontag 3\n";
         const QByteArray nest = "StartSubProjectMarker\n";
         const QByteArray up = "EndSubProjectMarker\n";
-        QCOMPARE(read(start + versioned("A", "a.c\n") + nest + versioned("B", "b.c\n") + nest + versioned("D", "") +
-                      up + versioned("C", "c.c\n") + up + versioned("lost", "") + "end\n"),
-                 u"A a.c(B b.c(D))(C c.c)|4|"_s);
-        QCOMPARE(read("x\nStartProjectMarker\nA\nunused\nout\nsrc\na.c\n*project=ORVC\nEndContainedFilesMarker\nm\na\n"
-                      "c\n*project=ORVCPP and more\n*lastAnalysis=x*lastAnalysis=y\nStartSubProjectMarker\n"
-                      "StartProjectMarker\nB\n\n\n\nb.c\nEndContainedFilesMarker\nm\na\nc\nend\n"),
-                 u"A a.c *project=ORVC(B b.c)|1|xy"_s);
-        // Annotations among the files are no files, and the last one counts.
-        QCOMPARE(read(start + versioned("A", "*project=ORVC\na.c\n*lastAnalysis=1\nb.c\n") +
-                      "*lastAnalysis=2\n*Project=ORVCPP\n"),
-                 u"A a.c b.c|0|2"_s);
-        // A value ends at the second equals sign.
-        QCOMPARE(read(start + versioned("a=b", "")), u"a|4|"_s);
-        // The first line is only looked at for the version, the last one is no file.
-        QCOMPARE(read("StartProjectMarker\nx\n"), u"invalid"_s);
-        QCOMPARE(read(start + versioned("A", "").replace("EndContainedFilesMarker\n", "a.c\nb.c")), u"A a.c|4|"_s);
-        QCOMPARE(read(start + versioned("A", "") + up + versioned("B", "") + "end\n"), u"A|4|"_s);
-        QCOMPARE(read(start + "StartProjectMarker\nname=A\nsour"), u"A|4|"_s);
-        QCOMPARE(read(QByteArray(start + versioned("A", "a.c\n")).replace('\n', "\r\n")), u"A a.c|4|"_s);
+        // The tree, the declared language (4 for none) and what analysed it.
+        const TestRows<QByteArray, QString> row("text", "read");
+        row("nested",
+            start + versioned("A", "a.c\n") + nest + versioned("B", "b.c\n") + nest + versioned("D", "") + up +
+                versioned("C", "c.c\n") + up + versioned("lost", "") + "end\n",
+            u"A a.c(B b.c(D))(C c.c)|4|"_s);
+        row("without version",
+            "x\nStartProjectMarker\nA\nunused\nout\nsrc\na.c\n*project=ORVC\nEndContainedFilesMarker\nm\na\n"
+            "c\n*project=ORVCPP and more\n*lastAnalysis=x*lastAnalysis=y\nStartSubProjectMarker\n"
+            "StartProjectMarker\nB\n\n\n\nb.c\nEndContainedFilesMarker\nm\na\nc\nend\n",
+            u"A a.c *project=ORVC(B b.c)|1|xy"_s);
+        row("annotations among the files, of which the last counts",
+            start + versioned("A", "*project=ORVC\na.c\n*lastAnalysis=1\nb.c\n") + "*lastAnalysis=2\n*Project=ORVCPP\n",
+            u"A a.c b.c|0|2"_s);
+        row("value with two equals signs", start + versioned("a=b", ""), u"a|4|"_s);
+        row("first line is for the version only", "StartProjectMarker\nx\n", u"invalid"_s);
+        row("last line is no file", start + versioned("A", "").replace("EndContainedFilesMarker\n", "a.c\nb.c"),
+            u"A a.c|4|"_s);
+        row("ends too often", start + versioned("A", "") + up + versioned("B", "") + "end\n", u"A|4|"_s);
+        row("cut", start + "StartProjectMarker\nname=A\nsour", u"A|4|"_s);
+        row("Windows line ends", QByteArray(start + versioned("A", "a.c\n")).replace('\n', "\r\n"), u"A a.c|4|"_s);
+        const auto length = ProjectReader::longestLine;
+        row("longest line", start + versioned("A", QByteArray(length - 1, 'x') + '\n'),
+            u"A "_s + QString(length - 1, u'x') + u"|4|"_s);
+        row("longer line", start + versioned("A", QByteArray(length, 'x') + '\n'), u"invalid"_s);
+    }
+
+    void readsBothDialects()
+    {
+        QFETCH(const QByteArray, text);
+        const Workspace suite;
+        const Project project(suite.write(u"work/p.prj"_s, text));
+        const QString facts = u"|%1|"_s.arg(int(project.declaredLanguage)) + project.lastAnalysis;
+        QTEST(project.valid ? shape(project.root) + facts : u"invalid"_s, "read");
     }
 
     void resolvesWhatItRead()
@@ -117,38 +125,47 @@ private Q_SLOTS:
         const ProjectData& child = *project.root.subProjects.at(0);
         const QString here = QDir::currentPath();
         QCOMPARE(project.root.allSourcePaths().join(u' '), u"/s/main.c /abs/x.cpp %1/rel/y.c"_s.arg(here));
-        QCOMPARE(first.metricsPath() + first.errorPath() + first.preprocessedPath(),
-                 u"/o/main.c.met/o/main.c.err/o/main.c.i"_s);
+        QCOMPARE(first.metricsPath(), u"/o/main.c.met"_s);
+        QCOMPARE(first.errorPath(), u"/o/main.c.err"_s);
+        QCOMPARE(first.preprocessedPath(), u"/o/main.c.i"_s);
         QCOMPARE(child.files.at(0).metricsPath(), here + u"/y.c.met"_s);
-        QCOMPARE(child.resolvedMessagePersonality() + child.resolvedAnalyserPersonality() +
-                     child.resolvedCompilerPersonality(),
-                 u"/m.p_sown"_s);
+        QCOMPARE(child.resolvedMessagePersonality(), u"/m.p_s"_s);
+        QCOMPARE(child.resolvedAnalyserPersonality(), QString());
+        QCOMPARE(child.resolvedCompilerPersonality(), u"own"_s);
+    }
+
+    void survivesWhatIsNoProject_data()
+    {
+        const QString invalid = u"This project file is not a valid KOVRA project file"_s;
+        const QString noFile = u"This is not a valid file selection"_s;
+        const TestRows<QString, QString> row("file", "status");
+        row("binary", u"binary"_s, invalid);
+        row("one line of a gigabyte", u"line"_s, invalid);
+        row("name of a gigabyte", u"body"_s, invalid);
+        row("may not be read", u"closed"_s, invalid);
+        row("folder", u"work"_s, noFile);
+        row("device", u"zero"_s, noFile);
+        row("link to itself", u"loop"_s, u"This project file does not exist"_s);
+        row("none", {}, u"Project file not selected"_s);
     }
 
     void survivesWhatIsNoProject()
     {
+        QFETCH(const QString, file);
         const Workspace suite;
-        const QString binary =
-            suite.write(u"binary"_s, QByteArray("\0\xff\r\n\1StartProjectMarker", 22).repeated(1000));
+        suite.write(u"binary"_s, QByteArray("\0\xff\r\n\1StartProjectMarker", 22).repeated(1000));
         // A hole of 1 GiB reads as one line.
-        const QString line = suite.write(u"line"_s, {});
-        const QString body = suite.write(u"body"_s, "VersionTag\nStartProjectMarker\nname=");
-        const QString loop = suite.path(u"loop"_s);
-        QVERIFY(QFile::resize(line, 1LL << 30) && QFile::resize(body, 1LL << 30) && QFile::link(u"loop"_s, loop));
+        QVERIFY(QFile::resize(suite.write(u"line"_s, {}), 1LL << 30));
+        QVERIFY(QFile::resize(suite.write(u"body"_s, "VersionTag\nStartProjectMarker\nname="), 1LL << 30));
+        QVERIFY(QFile::link(u"loop"_s, suite.path(u"loop"_s)));
+        QVERIFY(QFile::link(u"/dev/zero"_s, suite.path(u"zero"_s)));
         // Root may read everything, so for root this is one more file that is no project.
         const QString closed = suite.write(u"closed"_s, ::geteuid() == 0 ? "" : "V\nStartProjectMarker\nend\n");
         QVERIFY(QFile::setPermissions(closed, {}));
-        const QString invalid = u"This project file is not a valid KOVRA project file"_s;
-        const QString noFile = u"This is not a valid file selection"_s;
-        for (const auto& [name, status] :
-             {std::pair{binary, invalid}, std::pair{line, invalid}, std::pair{body, invalid},
-              std::pair{closed, invalid}, std::pair{suite.path(u"work"_s), noFile}, std::pair{u"/dev/zero"_s, noFile},
-              std::pair{loop, u"This project file does not exist"_s},
-              std::pair{QString(), u"Project file not selected"_s}}) {
-            Project project;
-            QVERIFY2(!project.load(name) && !project.statusOk, qPrintable(name));
-            QCOMPARE(project.statusText, status);
-        }
+        Project project;
+        QVERIFY(!project.load(file.isEmpty() ? QString() : suite.path(file)));
+        QVERIFY(!project.statusOk);
+        QTEST(project.statusText, "status");
     }
 
     void endsWhereReadingFails()
@@ -189,39 +206,47 @@ private Q_SLOTS:
         QVERIFY(last->resolvedAnalyserPersonality().isEmpty());
     }
 
-    void decides()
+    void decides_data()
     {
-        // The project lists a.c, b.c and c.c; "sources" are those that exist.
-        const auto judged = [](const QString& sources, const QString& analysed, const QString& stale = {},
-                               const QByteArray& files = "a.c\nb.c\nc.c\n") {
-            const Workspace work;
-            work.analyse(analysed, 10);
-            work.analyse(stale, 9);
-            for (const QChar name : sources) {
-                work.touch(name + u".c"_s, 10);
-            }
-            const Project project(work.project("*lastAnalysis=V\n" + files));
-            return (project.analysisComplete ? u"+"_s : project.statusOk ? u""_s : u"!"_s) + project.statusText;
-        };
         const QString some = u"Some of the files specified in this project do not exist, "_s;
         const QString files = u"\n   Files in project: 3"_s;
         const QString with = u"\n   Analysed with: V"_s;
-        QCOMPARE(judged({}, {}, {}, {}), u"!This project does not contain any source files"_s);
-        QCOMPARE(judged({}, {}), u"!None of the files specified in this project exist"_s);
-        QCOMPARE(judged(u"abc"_s, {}),
-                 u"This project has not been analysed yet"_s + files + u"    Analysed files: 0"_s);
-        // Stale wins over partly.
-        QCOMPARE(judged(u"abc"_s, u"a"_s, u"b"_s),
-                 u"Analysis of this project is out of date"_s + files + u"    Analysed files: 1"_s + with);
-        QCOMPARE(judged(u"abc"_s, u"ab"_s),
-                 u"This project has been partially analysed"_s + files + u"    Analysed files: 2"_s + with);
-        QCOMPARE(judged(u"abc"_s, u"abc"_s), u"+Analysis of this project is complete"_s + files + with);
-        QCOMPARE(judged(u"ab"_s, u"ab"_s), u'+' + some + u"of those that exist, analysis is complete"_s + files +
-                                               u"    Existing files: 2"_s + with);
-        QCOMPARE(judged(u"ab"_s, u"a"_s), some + u"of those that exist, some analysis output exists"_s + files +
-                                              u"    Existing files: 2    Analysed files: 1"_s + with);
-        QCOMPARE(judged(u"ab"_s, {}),
-                 some + u"no analysis output exists"_s + files + u"    Existing files: 2    Analysed files: 0"_s);
+        // The project lists a.c, b.c and c.c unless it is empty; "sources" are those that exist. A plus before the
+        // status stands for a complete analysis, an exclamation mark for a project that can not be analysed.
+        const TestRows<QString, QString, QString, QString> row("sources", "analysed", "stale", "status");
+        row("no files", u"empty"_s, {}, {}, u"!This project does not contain any source files"_s);
+        row("no sources", {}, {}, {}, u"!None of the files specified in this project exist"_s);
+        row("not analysed", u"abc"_s, {}, {},
+            u"This project has not been analysed yet"_s + files + u"    Analysed files: 0"_s);
+        row("stale wins over partly", u"abc"_s, u"a"_s, u"b"_s,
+            u"Analysis of this project is out of date"_s + files + u"    Analysed files: 1"_s + with);
+        row("partly", u"abc"_s, u"ab"_s, {},
+            u"This project has been partially analysed"_s + files + u"    Analysed files: 2"_s + with);
+        row("complete", u"abc"_s, u"abc"_s, {}, u"+Analysis of this project is complete"_s + files + with);
+        row("complete where it can", u"ab"_s, u"ab"_s, {},
+            u'+' + some + u"of those that exist, analysis is complete"_s + files + u"    Existing files: 2"_s + with);
+        row("partly where it can", u"ab"_s, u"a"_s, {},
+            some + u"of those that exist, some analysis output exists"_s + files +
+                u"    Existing files: 2    Analysed files: 1"_s + with);
+        row("not where it can", u"ab"_s, {}, {},
+            some + u"no analysis output exists"_s + files + u"    Existing files: 2    Analysed files: 0"_s);
+    }
+
+    void decides()
+    {
+        QFETCH(const QString, sources);
+        QFETCH(const QString, analysed);
+        QFETCH(const QString, stale);
+        const bool isEmpty = sources == "empty"_L1;
+        const Workspace work;
+        work.analyse(analysed, 10);
+        work.analyse(stale, 9);
+        for (const QChar name : isEmpty ? QString() : sources) {
+            work.touch(name + u".c"_s, 10);
+        }
+        const Project project(work.project(isEmpty ? "*lastAnalysis=V\n" : "*lastAnalysis=V\na.c\nb.c\nc.c\n"));
+        const QString sign = project.analysisComplete ? u"+"_s : project.statusOk ? u""_s : u"!"_s;
+        QTEST(sign + project.statusText, "status");
     }
 
     void followsTheFiles()
@@ -239,6 +264,12 @@ private Q_SLOTS:
         work.analyse(u"ab"_s, 5);
         QCOMPARE(status(), complete);
         work.touch(u"a.c"_s, 6);
+        QCOMPARE(status(), outOfDate);
+        // Each of the two results has to be newer.
+        work.touch(u"out/a.c.met"_s, 7);
+        QCOMPARE(status(), outOfDate);
+        work.touch(u"out/a.c.met"_s, 5);
+        work.touch(u"out/a.c.err"_s, 7);
         QCOMPARE(status(), outOfDate);
         work.analyse(u"a"_s, 7);
         // Messages do not shape the analysis, its configuration does.
@@ -262,11 +293,12 @@ private Q_SLOTS:
         const Workspace work;
         const QString file = work.project("a.c\n");
         const QByteArray text = work.read(file);
+        const QByteArray backup = QByteArray(text).replace("name=P", "name=Before");
         work.touch(u"p.prj"_s, 1, text);
-        for (const auto& [seconds, name] : {std::pair{1, u"P"_s}, std::pair{2, u"Before"_s}}) {
-            work.touch(u"p.prj.bak"_s, seconds, QByteArray(text).replace("name=P", "name=Before"));
-            QCOMPARE(Project(file).root.name, name);
-        }
+        work.touch(u"p.prj.bak"_s, 1, backup);
+        QCOMPARE(Project(file).root.name, u"P"_s);
+        work.touch(u"p.prj.bak"_s, 2, backup);
+        QCOMPARE(Project(file).root.name, u"Before"_s);
     }
 
     void expandsLauncherArguments()
@@ -289,19 +321,24 @@ private Q_SLOTS:
         const OptionSources sources = appRegistry->optionSources();
         const auto [result, problem] = project.expandLauncherArguments(
             u"%Q|%PF|%P+|%P|%L+|%L|%R+|%R| %P|%p|"_s.split(u'|'), u"ORVC"_s, u"extra"_s, sources);
-        QVERIFY2(problem.isEmpty() && result.size() == 16, qPrintable(problem));
+        QCOMPARE(problem, QString());
+        QCOMPARE(result.size(), 16);
         const QString& options = result[3];
         const QString& list = result[8];
         QCOMPARE(result.join(u'|'), u"ORVC|%1|-via|%2|-via|extra|%2|-list|%3|%3|-file|%4|%5| %P|%p|"_s.arg(
                                         file, options, list, result[11], result[12]));
-        QVERIFY(result[11].endsWith(".txt"_L1) && result[12].endsWith(".txt"_L1) && result[11] != result[12]);
+        QVERIFY2(result[11].endsWith(".txt"_L1), qPrintable(result[11]));
+        QVERIFY2(result[12].endsWith(".txt"_L1), qPrintable(result[12]));
+        QVERIFY(result[11] != result[12]);
         QCOMPARE(suite.read(options),
                  "-outputpath \"" + root + "/out\"\n-via \"" + root + "/a.p_a\"\n-via \"" + standard + "\"\n");
         QCOMPARE(suite.read(list), "-outputpath \"" + root + "/out\"\n-outputpath \"" + root + "/q/out\"\n\"" + root +
                                        "/q/b.c\"\n-cmaf \"" + root + "/out/P\"\n");
         // The option file is kept as long as its text is the same, the list is always new.
         const QStringList again = project.expandLauncherArguments({u"%P"_s, u"%L"_s}, {}, {}, sources).value;
-        QVERIFY(again.size() == 2 && again[0] == options && again[1] != list);
+        QCOMPARE(again.size(), 2);
+        QCOMPARE(again[0], options);
+        QVERIFY(again[1] != list);
     }
 };
 
