@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "TestMain.h"
+#include "TestRows.h"
 #include "WizardDriver.h"
 
 #include <QDir>
 #include <QScreen>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -12,21 +15,31 @@ class StartPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void saysWhichDefinitionsAreMissing_data()
+    {
+        const TestRows<QByteArray> row("contents");
+        row("missing", {});
+        row("blank", " ");
+        row("not XML", "int main() {}");
+        row("cut", "<settings><projectCreat");
+        row("type without a name", "<settings><projectCreator><exe>no name</exe>");
+    }
+
     void saysWhichDefinitionsAreMissing()
     {
-        const Installation missing;
-        for (const char* contents :
-             {"", " ", "int main() {}", "<settings><projectCreat", "<settings><projectCreator><exe>no name</exe>"}) {
-            Installation suite;
-            const QString name = (*contents ? suite : missing).path(u"<b>bold.xml"_s);
+        QFETCH(const QByteArray, contents);
+        Installation suite;
+        const QString name = suite.path(u"<b>bold.xml"_s);
+        if (!contents.isEmpty()) {
             suite.write(u"<b>bold.xml"_s, contents);
-            suite.start({u"-file"_s, name});
-            const WizardDriver wizard;
-            const QString text = wizard.labels().join(u' ');
-            QVERIFY2(text.contains(u"<font color='red'>"_s) && text.contains(name.toHtmlEscaped()), qPrintable(text));
-            wizard.edit(u"Name of project to be created:"_s).setText(u"name"_s);
-            QVERIFY2(!wizard.canGoOn(), contents);
         }
+        suite.start({u"-file"_s, name});
+        const WizardDriver wizard;
+        const QString text = wizard.labels().join(u' ');
+        QVERIFY2(text.contains(u"<font color='red'>"_s), qPrintable(text));
+        QVERIFY2(text.contains(name.toHtmlEscaped()), qPrintable(text));
+        wizard.edit(u"Name of project to be created:"_s).setText(u"name"_s);
+        QVERIFY(!wizard.canGoOn());
     }
 
     void asksBeforeItTouchesAnything()
@@ -45,13 +58,16 @@ private Q_SLOTS:
         using enum QMessageBox::StandardButton;
         BoxAnswers boxes({No, Yes, No, Yes, Yes, Ok, Yes, Ok, Ok});
         wizard.passStartPage(u"p"_s, folder, u"Two"_s);
-        QVERIFY(!QDir(folder).exists() && wizard.window.currentId() == StartPageId);
+        QVERIFY(!QDir(folder).exists());
+        QCOMPARE(wizard.window.currentId(), int(StartPageId));
         // The choices are kept although the page was refused.
         QCOMPARE(wizard.window.conversion, u"Two"_s);
         wizard.press(QWizard::NextButton);
         // Only the C analyser serves this type, so nobody is asked which.
         QCOMPARE(wizard.window.currentId(), int(XmlPageId));
-        QVERIFY(wizard.window.isORVC && QDir(folder).isEmpty() && QDir(folder).exists());
+        QVERIFY(wizard.window.isORVC);
+        QVERIFY(QDir(folder).exists());
+        QVERIFY(QDir(folder).isEmpty());
 
         wizard.press(QWizard::BackButton);
         suite.write(u"work/new/deep/p.prj"_s, "precious");
@@ -89,41 +105,49 @@ private Q_SLOTS:
                      "<projectCreator><name>Full</name><orvcProject>1</orvcProject><inputData/></projectCreator>"
                      "<projectCreator><name>Full, open</name><inputData/></projectCreator>");
         suite.start();
-        {
-            const WizardDriver wizard;
-            const QAbstractButton& finish = *wizard.window.button(QWizard::FinishButton);
-            wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Full, open"_s);
-            // Nothing was remembered yet, so C++ is preselected.
-            QVERIFY(wizard.button(u"Orv C++ [Project contains 'C++' Code]"_s).isChecked());
-            wizard.button(u"Orv C [Project is 'C' Code Only]"_s).click();
-            wizard.press(QWizard::NextButton);
-            QVERIFY(wizard.window.currentId() == XmlPageId && wizard.window.isORVC);
-            QCOMPARE(wizard.window.defaultPersonalityLocation, suite.path(u"orvc/personalities"_s));
-            wizard.press(QWizard::BackButton);
-            wizard.press(QWizard::BackButton);
-            wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Bare"_s);
-            QVERIFY(finish.isVisible() && finish.isEnabled());
-            QVERIFY(!wizard.window.button(QWizard::NextButton)->isVisible());
-            // Another type leads on again, and nothing was torn down in between.
-            wizard.combo(u"Original project type:"_s).setCurrentText(u"Full"_s);
-            wizard.press(QWizard::NextButton);
-            QVERIFY(wizard.window.currentId() == XmlPageId && !finish.isVisible());
-            wizard.press(QWizard::BackButton);
-            wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Bare, open"_s);
-            QCOMPARE(wizard.window.currentId(), int(SetProductPageId));
-            wizard.press(QWizard::FinishButton);
-            QCOMPARE(wizard.window.result(), int(QDialog::Accepted));
-        }
-        // Where no analyser is installed, a window says so that does not keep the program running.
+        const WizardDriver wizard;
+        const QAbstractButton& finish = *wizard.window.button(QWizard::FinishButton);
+        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Full, open"_s);
+        // Nothing was remembered yet, so C++ is preselected.
+        QVERIFY(wizard.button(u"Orv C++ [Project contains 'C++' Code]"_s).isChecked());
+        wizard.button(u"Orv C [Project is 'C' Code Only]"_s).click();
+        wizard.press(QWizard::NextButton);
+        QCOMPARE(wizard.window.currentId(), int(XmlPageId));
+        QVERIFY(wizard.window.isORVC);
+        QCOMPARE(wizard.window.defaultPersonalityLocation, suite.path(u"orvc/personalities"_s));
+        wizard.press(QWizard::BackButton);
+        wizard.press(QWizard::BackButton);
+        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Bare"_s);
+        QVERIFY(finish.isVisible());
+        QVERIFY(finish.isEnabled());
+        QVERIFY(!wizard.window.button(QWizard::NextButton)->isVisible());
+        // Another type leads on again, and nothing was torn down in between.
+        wizard.combo(u"Original project type:"_s).setCurrentText(u"Full"_s);
+        wizard.press(QWizard::NextButton);
+        QCOMPARE(wizard.window.currentId(), int(XmlPageId));
+        QVERIFY(!finish.isVisible());
+        wizard.press(QWizard::BackButton);
+        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Bare, open"_s);
+        QCOMPARE(wizard.window.currentId(), int(SetProductPageId));
+        wizard.press(QWizard::FinishButton);
+        QCOMPARE(wizard.window.result(), int(QDialog::Accepted));
+    }
+
+    void saysThatNoAnalyserIsInstalled()
+    {
+        Installation suite;
+        suite.define("<projectCreator><name>T</name><inputData/></projectCreator>");
         qputenv("ORVCPATH", "");
         qputenv("ORVCPPPATH", "");
         suite.start();
         const WizardDriver wizard;
-        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"Full, open"_s);
+        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
         const auto windows = QApplication::topLevelWidgets();
         const auto warning = std::ranges::find_if(
             windows, [](const QWidget* widget) { return widget->inherits("QGroupBox") && widget->isVisible(); });
-        QVERIFY(warning != windows.end() && !(*warning)->testAttribute(Qt::WA_QuitOnClose));
+        QVERIFY(warning != windows.end());
+        // It does not keep the program running.
+        QVERIFY(!(*warning)->testAttribute(Qt::WA_QuitOnClose));
     }
 
     void saysWhichHelpIsMissing()
@@ -142,27 +166,36 @@ private Q_SLOTS:
         QCOMPARE(boxes.texts.size(), 3);
     }
 
-    void decidesTheAnalyser()
+    void decidesTheAnalyser_data()
     {
         // Which analysers are available and installed, and which ones the type is for.
-        for (const QString& line :
-             {u"c cpp cdir cppdir = open"_s, u"c cpp cdir cppdir typeC typeCpp = open"_s,
-              u"c cpp cdir cppdir typeC = C"_s, u"c cpp cdir cppdir typeCpp = C++"_s, u"c cdir cppdir typeCpp = C"_s,
-              u"c cpp cppdir typeC = C++"_s, u"cpp cdir typeCpp = C"_s, u"typeCpp = C++ none"_s, u"= open none"_s}) {
-            const QString facts = line.section(u'=', 0, 0);
-            const QStringList words = facts.split(u' ');
-            ProjectCreatorData creator;
-            creator.orvcProject = words.contains("typeC"_L1);
-            creator.orvcppProject = words.contains("typeCpp"_L1);
-            WizardState state;
-            state.projectCreator = &creator;
-            state.cAvailable = words.contains("c"_L1);
-            state.cppAvailable = words.contains("cpp"_L1);
-            state.decideAnalyser(words.contains("cdir"_L1) ? u"/c"_s : QString(),
-                                 words.contains("cppdir"_L1) ? u"/cpp"_s : QString());
-            const QString analyser = !state.analyserFixed ? u"open"_s : state.isORVC ? u"C"_s : u"C++"_s;
-            QCOMPARE(facts + u"= "_s + analyser + (state.noAnalyserInstalled ? u" none"_s : QString()), line);
-        }
+        const TestRows<QString, QString> row("facts", "analyser");
+        row("type says nothing", u"c cpp cdir cppdir"_s, u"open"_s);
+        row("type for both", u"c cpp cdir cppdir typeC typeCpp"_s, u"open"_s);
+        row("type for C", u"c cpp cdir cppdir typeC"_s, u"C"_s);
+        row("type for C++", u"c cpp cdir cppdir typeCpp"_s, u"C++"_s);
+        row("C asked for", u"c cdir cppdir typeCpp"_s, u"C"_s);
+        row("C++ installed", u"c cpp cppdir typeC"_s, u"C++"_s);
+        row("C installed", u"cpp cdir typeCpp"_s, u"C"_s);
+        row("none installed, type for C++", u"typeCpp"_s, u"C++ none"_s);
+        row("none installed", {}, u"open none"_s);
+    }
+
+    void decidesTheAnalyser()
+    {
+        QFETCH(const QString, facts);
+        const QStringList words = facts.split(u' ');
+        ProjectCreatorData creator;
+        creator.orvcProject = words.contains("typeC"_L1);
+        creator.orvcppProject = words.contains("typeCpp"_L1);
+        WizardState state;
+        state.projectCreator = &creator;
+        state.cAvailable = words.contains("c"_L1);
+        state.cppAvailable = words.contains("cpp"_L1);
+        state.decideAnalyser(words.contains("cdir"_L1) ? u"/c"_s : QString(),
+                             words.contains("cppdir"_L1) ? u"/cpp"_s : QString());
+        const QString analyser = !state.analyserFixed ? u"open"_s : state.isORVC ? u"C"_s : u"C++"_s;
+        QTEST(analyser + (state.noAnalyserInstalled ? u" none"_s : QString()), "analyser");
     }
 };
 
