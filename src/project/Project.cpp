@@ -4,6 +4,7 @@
 #include "project/ProjectReader.h"
 #include "project/ProjectStatus.h"
 #include "project/ProjectSurvey.h"
+#include "project/TextEncoding.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -46,7 +47,7 @@ bool Project::load(const QString& fileName, const ProjectFacts& surroundings)
         evaluateStatus();
         return false;
     }
-    ProjectReader reader(file, root);
+    ProjectReader reader(file, TextEncoding::of(file), root);
     valid = reader.read();
     declaredLanguage = reader.declaredLanguage;
     lastAnalysis = reader.lastAnalysis;

@@ -2,8 +2,8 @@
 #include "project/ProjectData.h"
 #include "project/OptionSources.h"
 #include "project/OptionTexts.h"
-#include "project/ProjectReader.h"
 #include "project/ProjectSurvey.h"
+#include "project/TextEncoding.h"
 
 #include <QFile>
 #include <QTextStream>
@@ -208,7 +208,7 @@ Result<QString> ProjectData::projectOptionFile(const OptionSources& sources)
         return {viaFilePath};
     }
     QFile file(viaFilePath);
-    const QByteArray bytes = text.toLocal8Bit();
+    const QByteArray bytes = QStringEncoder(TextEncoding::written).encode(text);
     // A file that could be written only in part holds neither text.
     lastViaText.clear();
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text) || file.write(bytes) != bytes.size() || !file.flush()) {
@@ -234,7 +234,7 @@ Result<QString> ProjectData::crossModuleListFile(const OptionSources& sources) c
         return {fileName, cannotWrite(file)};
     }
     QTextStream stream(&file);
-    stream.setEncoding(ProjectReader::encoding);
+    stream.setEncoding(TextEncoding::written);
     crossModuleListText(stream);
     stream.flush();
     const bool isComplete = file.flush() && file.error() == QFile::NoError;

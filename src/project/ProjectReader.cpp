@@ -14,7 +14,7 @@ constexpr QLatin1StringView analysisAnnotation("*lastAnalysis=");
 
 } // namespace
 
-ProjectReader::ProjectReader(QIODevice& device, ProjectData& rootProject)
+ProjectReader::ProjectReader(QIODevice& device, QStringConverter::Encoding encoding, ProjectData& rootProject)
     : stream(&device)
     , root(rootProject)
 {

@@ -10,16 +10,14 @@ class ProjectData;
 class QIODevice;
 
 /// Reads the two dialects of project files: the unversioned one and the versioned one, whose first line begins with
-/// "VersionTag". Both are lines of text in the system's encoding.
+/// "VersionTag". Both are lines of text.
 class ProjectReader
 {
 public:
-    /// The one place that decides how project files are encoded.
-    static constexpr QStringConverter::Encoding encoding = QStringConverter::System;
     /// A longer line is no project file's.
     static constexpr qint64 longestLine = 1024LL * 1024;
 
-    ProjectReader(QIODevice& device, ProjectData& root);
+    ProjectReader(QIODevice& device, QStringConverter::Encoding encoding, ProjectData& root);
 
     /// True when a project body was found and no line was overlong. A cut-short file gives what was read.
     bool read();

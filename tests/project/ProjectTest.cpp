@@ -100,6 +100,13 @@ private Q_SLOTS:
         const auto length = ProjectReader::longestLine;
         row("longest line", start + versioned("A", QByteArray(length - 1, 'x') + '\n'),
             u"A "_s + QString(length - 1, u'x') + u"|4|"_s);
+        row("UTF-8", start + versioned("Größe", "ä.c\n"), u"Größe ä.c|4|"_s);
+        row("UTF-8 with a mark", "\xEF\xBB\xBF" + start + versioned("Größe", "ä.c\n"), u"Größe ä.c|4|"_s);
+        row("Latin-1",
+            start + versioned("Gr\xF6\xDF"
+                              "e",
+                              "\xE4.c\n"),
+            u"Größe ä.c|4|"_s);
         row("longer line", start + versioned("A", QByteArray(length, 'x') + '\n'), u"invalid"_s);
     }
 
@@ -183,7 +190,7 @@ private Q_SLOTS:
         device.setData("VersionTag\n" + versioned("torn", "a.c\nb.c\n").replace("EndContainedFilesMarker\n", ""));
         QVERIFY(device.open(QIODevice::ReadOnly));
         Project project;
-        QVERIFY(ProjectReader(device, project.root).read());
+        QVERIFY(ProjectReader(device, QStringConverter::Utf8, project.root).read());
         QCOMPARE(project.root.fileCount(), 2);
     }
 
