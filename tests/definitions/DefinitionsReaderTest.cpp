@@ -132,6 +132,8 @@ private Q_SLOTS:
                               {.places = {u"/suite"_s, u"/orvc"_s, u"/orvcpp"_s}, .readPage = readLauncherPage});
         QCOMPARE(described(settings.complianceModules), u"[name=M forC=false place=/orvc/m][][]"_s);
         QCOMPARE(described(settings.codingStandards), u"[name=S forC=false about=a/b][name=T m=/suite/m]"_s);
+        settings.codingStandards[0]->selected = false;
+        QCOMPARE(settings.standardFiles(), (QStringList{u"/suite/m"_s, {}, {}}));
         QCOMPARE(described(settings.crossModuleAnalyses), u"[exe=/suite/bin/cma args=,-x,y]"_s);
         QCOMPARE(described(settings.applicationPages), u"[attribute=A title=t columns=0 width=7][]"_s);
         QCOMPARE(described(settings.reportsPages), u"[attribute=R]"_s);

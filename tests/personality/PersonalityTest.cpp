@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "Installation.h"
 #include "personality/AnalyserInference.h"
 #include "personality/FileScans.h"
 #include "personality/MessageSelectionFile.h"
 #include "personality/OptionTables.h"
+#include "TestFolder.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -49,13 +49,13 @@ private Q_SLOTS:
     void scans()
     {
         QFETCH(const QByteArray, text);
-        const Installation suite;
+        const TestFolder suite;
         QTEST(scanned(suite.write(u"file"_s, text)), "found");
     }
 
     void scansNothingButFiles()
     {
-        const Installation suite;
+        const TestFolder suite;
         QCOMPARE(scanned(suite.path(u"work"_s)), QString());
         QCOMPARE(scanned(u"/dev/zero"_s), QString());
         QCOMPARE(scanned({}), QString());
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QFETCH(const QString, metrics);
         QFETCH(const QStringList, sources);
         QFETCH(const QString, project);
-        const Installation suite;
+        const TestFolder suite;
         suite.write(u"c"_s, "-xcase+ <S>STBUG");
         suite.write(u"cpp"_s, "-rvaluerefbind <S>STWMC");
         suite.write(u"both"_s, "-rvaluerefbind -xcase+");
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void selectsMessages()
     {
-        const Installation suite;
+        const TestFolder suite;
         const QString file = suite.write(u"m.via"_s, "old");
         const QStringList numbers = u"1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22"_s.split(u',');
         const auto written = [&](int count) {

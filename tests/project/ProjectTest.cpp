@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "project/Project.h"
-#include "app/AppRegistry.h"
-#include "Installation.h"
+#include "app/TemporaryFiles.h"
+#include "project/OptionSources.h"
 #include "project/ProjectReader.h"
+#include "TestFolder.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -39,7 +40,7 @@ QString shape(const ProjectData& project)
 }
 
 /// Sources, outputs and personalities of one project; times are seconds after a fixed start.
-struct Workspace : Installation
+struct Workspace : TestFolder
 {
     void touch(const QString& name, int seconds, const QByteArray& contents = "x") const
     {
@@ -164,6 +165,7 @@ private Q_SLOTS:
         // A hole of 1 GiB reads as one line.
         QVERIFY(QFile::resize(suite.write(u"line"_s, {}), 1LL << 30));
         QVERIFY(QFile::resize(suite.write(u"body"_s, "VersionTag\nStartProjectMarker\nname="), 1LL << 30));
+        QVERIFY(QDir(suite.path(u"."_s)).mkpath(u"work"_s));
         QVERIFY(QFile::link(u"loop"_s, suite.path(u"loop"_s)));
         QVERIFY(QFile::link(u"/dev/zero"_s, suite.path(u"zero"_s)));
         // Root may read everything, so for root this is one more file that is no project.
@@ -310,11 +312,8 @@ private Q_SLOTS:
 
     void expandsLauncherArguments()
     {
-        Installation suite;
+        const TestFolder suite;
         const QByteArray standard = suite.write(u"s.p_s"_s, "").toUtf8();
-        suite.define("<codingStandard name='S'><messagePersonality>" + standard +
-                     "</messagePersonality><analyserPersonality>/gone</analyserPersonality></codingStandard>");
-        suite.start();
         const QByteArray root = suite.path(u"a b"_s).toUtf8();
         // The root has a personality but no results of its own, one of its sub-projects has some, the other has none.
         for (const auto& name :
@@ -325,7 +324,9 @@ private Q_SLOTS:
             suite.write(u"p.prj"_s, "VersionTag\n" + versioned("P", "a.c\n", root) + "StartSubProjectMarker\n" +
                                         versioned("Q", "b.c\nc.c\n", root + "/q") + versioned("R", "d.c\n") + "end\n");
         Project project(file);
-        const OptionSources sources = appRegistry->optionSources();
+        TemporaryFiles files;
+        const OptionSources sources{[&](const QString& suffix) { return files.create(suffix); },
+                                    {QString::fromUtf8(standard), u"/gone"_s}};
         const auto [result, problem] = project.expandLauncherArguments(
             u"%Q|%PF|%P+|%P|%L+|%L|%R+|%R| %P|%p|"_s.split(u'|'), u"ORVC"_s, u"extra"_s, sources);
         QCOMPARE(problem, QString());

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TestFolder.h"
+
 #include <QByteArray>
-#include <QDateTime>
 #include <QMessageBox>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <memory>
 #include <utility>
@@ -14,28 +14,18 @@ class AppRegistry;
 class QTimer;
 
 /// A suite installed in a temporary folder: bin, xml and both analysers, with a registry that loads it.
-class Installation
+class Installation : public TestFolder
 {
 public:
     Installation();
     ~Installation();
 
-    QString path(const QString& name) const { return folder.filePath(name); }
-    /// Writes a file below the folder, making its folders and giving it that time, if any; gives its path.
-    QString write(const QString& name, const QByteArray& contents, const QDateTime& time = {}) const;
-    /// The same for a shell script that can be run.
-    QString writeScript(const QString& name, const QByteArray& body) const;
-    /// Reads a file below the folder, or anywhere by its absolute path; empty when it can not be read.
-    QByteArray read(const QString& name) const;
-    /// True while the process with this id, as a script wrote it, runs.
-    static bool isAlive(const QByteArray& pid);
     /// Writes xml/settings.xml around the given elements.
     void define(const QByteArray& elements) const;
     /// Starts the registry anew as the program does, with these options.
     AppRegistry& start(const QStringList& options = {});
 
 private:
-    QTemporaryDir folder;
     QByteArray searchPath;
     std::unique_ptr<AppRegistry> registry;
 };

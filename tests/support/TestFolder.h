@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <QTemporaryDir>
+
+/// A temporary folder with the files of one test.
+class TestFolder
+{
+public:
+    QString path(const QString& name) const { return folder.filePath(name); }
+    /// Writes a file below the folder, making its folders and giving it that time, if any; gives its path.
+    QString write(const QString& name, const QByteArray& contents, const QDateTime& time = {}) const;
+    /// The same for a shell script that can be run.
+    QString writeScript(const QString& name, const QByteArray& body) const;
+    /// Reads a file below the folder, or anywhere by its absolute path; empty when it can not be read.
+    QByteArray read(const QString& name) const;
+    /// True while the process with this id, as a script wrote it, runs.
+    static bool isAlive(const QByteArray& pid);
+
+protected:
+    QTemporaryDir folder;
+};
