@@ -27,7 +27,8 @@ QByteArray readText(const QString& path)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         return {};
     }
-    return file.read(largestText);
+    // A read takes the memory for all that it may read.
+    return file.read(std::min(largestText, file.size()));
 }
 
 bool isSetting(QStringView text, qsizetype at)
