@@ -40,8 +40,9 @@ QString fileLine(const QString& file, const QString& sourceDir, bool absolutePat
         return file;
     }
     const QString relative = file.sliced(prefix.size());
-    // A name must not be taken for an annotation or a marker.
-    return relative.startsWith(u'*') || relative.endsWith("Marker"_L1) ? u"./"_s + relative : relative;
+    // A name must not be taken for an annotation, a marker or one of Qt's own resources.
+    const bool isOdd = relative.startsWith(u'*') || relative.startsWith(u':') || relative.endsWith("Marker"_L1);
+    return isOdd ? u"./"_s + relative : relative;
 }
 
 class ProjectText
