@@ -14,6 +14,10 @@ if(NOT MSVC)
         target_compile_options(kovra_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
         target_link_options(kovra_options INTERFACE -fsanitize=address,undefined)
     endif()
+    if(KOVRA_FUZZ)
+        target_compile_options(kovra_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+        target_link_options(kovra_options INTERFACE -fsanitize=address,undefined)
+    endif()
 endif()
 
 # One library per folder of src/, which links and finds the headers of what it needs and of nothing else:
