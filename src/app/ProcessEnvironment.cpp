@@ -2,6 +2,7 @@
 #include "app/ProcessEnvironment.h"
 #include "app/AppRegistry.h"
 #include "process/AnalyserEnvironment.h"
+#include "process/Guardian.h"
 
 #include <QDir>
 #include <QProcess>
@@ -36,6 +37,16 @@ bool isFaithful(const QString& name)
     return QString::fromLocal8Bit(bytes).toLocal8Bit() == bytes;
 }
 
+// On Windows "Path" and "PATH" are one variable.
+QString unified(const QString& name)
+{
+#ifdef Q_OS_WIN
+    return name.toUpper();
+#else
+    return name;
+#endif
+}
+
 // The system's text of a variable may not give its bytes back, so what did not change is left alone.
 QProcessEnvironment withBytesOf(QProcessEnvironment inherited, const QStringList& environment,
                                 const QStringList& before)
@@ -43,7 +54,7 @@ QProcessEnvironment withBytesOf(QProcessEnvironment inherited, const QStringList
     QSet<QString> names;
     for (const QString& entry : environment) {
         const qsizetype separator = entry.indexOf(u'=');
-        names.insert(entry.first(qMax<qsizetype>(0, separator)));
+        names.insert(unified(entry.first(qMax<qsizetype>(0, separator))));
         // A value that the text does not give back stays, as the program's own environment has it.
         if (separator > 0 && !before.contains(entry) && isFaithful(entry.first(separator))) {
             inherited.insert(entry.first(separator), entry.sliced(separator + 1));
@@ -52,7 +63,7 @@ QProcessEnvironment withBytesOf(QProcessEnvironment inherited, const QStringList
     // A name that came out in another letter case.
     const QStringList inheritedNames = inherited.keys();
     for (const QString& name : inheritedNames) {
-        if (!names.contains(name)) {
+        if (!names.contains(unified(name))) {
             inherited.remove(name);
         }
     }
@@ -70,10 +81,12 @@ void SetProcessEnvironment(QProcess* process, bool analyserVariables)
     const QStringList before = QProcess::systemEnvironment();
     const QStringList environment =
         analyserEnvironment(before, folders, analyserVariables, [](const QString& name, const QString& value) {
-            appRegistry->Trace(u"SetToEnvValue:"_s, name + value);
+            appRegistry->traceLog.writeVariable(u"SetToEnvValue:"_s, name, value);
         });
     if (process) {
-        process->setProcessEnvironment(withBytesOf(QProcessEnvironment::systemEnvironment(), environment, before));
+        QProcessEnvironment own = withBytesOf(QProcessEnvironment::systemEnvironment(), environment, before);
+        Guardian::mark(own);
+        process->setProcessEnvironment(own);
     } else {
         putIntoOwnEnvironment(environment, before);
     }

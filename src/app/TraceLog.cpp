@@ -41,6 +41,15 @@ void TraceLog::write(const QString& label, bool flag)
     write(label, QString::number(int(flag)));
 }
 
+void TraceLog::writeVariable(const QString& label, const QString& name, const QString& value)
+{
+    if (on && !stream.device()) {
+        qDebug() << label << name << value;
+        return;
+    }
+    write(label, name + value);
+}
+
 void TraceLog::close()
 {
     stream.flush();

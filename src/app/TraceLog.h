@@ -18,6 +18,8 @@ public:
     void write(const QString& label, const QString& value = {});
     /// The same for a flag, which the debug channel spells out.
     void write(const QString& label, bool flag);
+    /// The same for a variable, whose name and value the debug channel shows apart.
+    void writeVariable(const QString& label, const QString& name, const QString& value);
     void close();
 
 private:

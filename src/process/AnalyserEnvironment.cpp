@@ -31,11 +31,18 @@ constexpr std::array analyserRows = {
     AnalyserVariable{u"ORVCRESOURCESDIR", u"ORVCPPRESOURCESDIR", u"/app-default"},
 };
 
+// Where names have a letter case, a variable "path" is another one, and none of ours.
+#ifdef Q_OS_WIN
+constexpr auto nameCase = Qt::CaseInsensitive;
+#else
+constexpr auto nameCase = Qt::CaseSensitive;
+#endif
+
 void appendToPath(QStringList& environment, const QString& folder)
 {
     const QString suffix = QDir::listSeparator() + QDir::toNativeSeparators(folder);
     for (QString& entry : environment) {
-        if (entry.startsWith("PATH="_L1, Qt::CaseInsensitive)) {
+        if (entry.startsWith("PATH="_L1, nameCase)) {
             entry = "PATH="_L1 + entry.sliced(5) + suffix;
         }
     }

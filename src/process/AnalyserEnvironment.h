@@ -17,7 +17,8 @@ struct EnvironmentFolders
     QString cppInstallDir;
 };
 
-/// The environment under which analyser programs run: PATH extended by the suite's folders, and with
+/// The environment under which analyser programs run: PATH, in any letter case where names have none,
+/// extended by the suite's folders, and with
 /// analyserVariables the variables of the analysers that exist. Entries are NAME=value in the order given.
 QStringList analyserEnvironment(QStringList environment, const EnvironmentFolders& folders, bool analyserVariables,
                                 const TraceFunction& trace = {});

@@ -5,7 +5,10 @@
 #include "personality/ProductNames.h"
 #include "process/WizardState.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -33,23 +36,70 @@ void SubstituteArgument(QStringList& arguments, const QString& placeholder, cons
     }
 }
 
-QStringList conversionArguments(const WizardState& state)
+namespace {
+
+// The context of the texts in the catalogues.
+class Text
 {
-    QStringList arguments = state.projectCreator->exeArgs;
-    const QString via = u"-via"_s;
-    // Each "+" form goes before the plain one, which is a prefix of it.
-    SubstituteArgument(arguments, u"%Q"_s, ProductNames::of(state.isORVC).shortName);
-    SubstituteArgument(arguments, u"%D"_s, state.fileDir);
-    SubstituteArgument(arguments, u"%J"_s, state.fileName);
-    SubstituteArgument(arguments, u"%PF"_s, state.ProjectFile());
+    Q_DECLARE_TR_FUNCTIONS(ArgumentSubstitution)
+};
+
+struct Substitution
+{
+    QString placeholder;
+    QString value;
+    QString prefix = {};
+};
+
+// In their order: each "+" form goes before the plain one, which is a prefix of it.
+QList<Substitution> substitutions(const WizardState& state)
+{
+    QList<Substitution> list{{u"%Q"_s, ProductNames::of(state.isORVC).shortName},
+                             {u"%D"_s, state.fileDir},
+                             {u"%J"_s, state.fileName},
+                             {u"%PF"_s, state.ProjectFile()}};
     const auto& kinds = configurationKinds();
     for (auto kind = kinds.rbegin(); kind != kinds.rend(); ++kind) {
         const QString& file = state.configuration(kind->kind);
-        SubstituteArgument(arguments, kind->placeholder + u'+', file, via);
-        SubstituteArgument(arguments, kind->placeholder, file);
+        list += {kind->placeholder + u'+', file, u"-via"_s};
+        list += {kind->placeholder, file};
     }
     for (const auto& input : state.projectCreator->inputData) {
-        SubstituteArgument(arguments, input->argument, input->value, input->prefix);
+        list += {input->argument, input->value, input->prefix};
+    }
+    return list;
+}
+
+} // namespace
+
+QStringList conversionArguments(const WizardState& state)
+{
+    QStringList arguments = state.projectCreator->exeArgs;
+    const QList<Substitution> list = substitutions(state);
+    for (const auto& [placeholder, value, prefix] : list) {
+        SubstituteArgument(arguments, placeholder, value, prefix);
     }
     return arguments;
+}
+
+QStringList placeholdersInValues(const WizardState& state)
+{
+    QStringList sentences;
+    const QList<Substitution> list = substitutions(state);
+    const auto isUsed = [&](const QString& placeholder) {
+        return std::ranges::any_of(state.projectCreator->exeArgs,
+                                   [&](const QString& argument) { return argument.contains(placeholder); });
+    };
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        for (qsizetype later = i + 1; later < list.size() && isUsed(list[i].placeholder); ++later) {
+            const QString& placeholder = list[later].placeholder;
+            if (!placeholder.isEmpty() && list[i].value.contains(placeholder)) {
+                sentences += Text::tr("Warning: \"%1\" holds %2, which this conversion type replaces: the conversion "
+                                      "program gets another text. Choose a name without it.")
+                                 .arg(list[i].value, placeholder);
+            }
+        }
+    }
+    sentences.removeDuplicates();
+    return sentences;
 }

@@ -14,3 +14,7 @@ void SubstituteArgument(QStringList& arguments, const QString& placeholder, cons
 /// The conversion program's arguments for what the pages collected: the conversion type's templates with the fixed
 /// placeholders and those of its input fields replaced.
 QStringList conversionArguments(const WizardState& state);
+
+/// A sentence for each value that holds a placeholder which is replaced after it: the program gets another text than
+/// the user gave.
+QStringList placeholdersInValues(const WizardState& state);

@@ -9,8 +9,8 @@
 
 class ChildList;
 
-/// A child process that is stopped together with everything it started: it leads a process group of its own (a job on
-/// Windows). On Linux it does not outlive this program, even if that crashes.
+/// A child process that is stopped together with everything it started: it leads a session of its own (a job on
+/// Windows), so it has no terminal. On Linux it does not outlive this program, even if that crashes.
 class ChildProcess : public QProcess
 {
     Q_OBJECT

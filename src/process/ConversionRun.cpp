@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "process/ConversionRun.h"
+#include "process/Guardian.h"
+#include "process/StrayProcesses.h"
 
-#include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
-
-#include <utility>
+#include <QProcessEnvironment>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +12,7 @@ namespace {
 
 constexpr int startWaitMs = 30000;
 constexpr int killWaitMs = 30000;
+constexpr int strayGraceMs = 500;
 
 } // namespace
 
@@ -40,13 +40,19 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
     decoder = QStringDecoder(QStringConverter::System);
     running = true;
     stopping = false;
-    if (!putOldFileAside()) {
+    code = -1;
+    detailText.clear();
+    earlierStrays = StrayProcesses::present();
+    if (const Result<void> cleared = place.clear(projectFile); !cleared.ok()) {
+        finish(Outcome::NotStarted, cleared.problem);
         return false;
     }
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    Guardian::mark(environment);
+    process.setProcessEnvironment(environment);
     process.start(program, arguments, QIODevice::ReadWrite);
     Q_EMIT commandStarted(program + u' ' + arguments.join(u' '));
     if (process.waitForStarted(startWaitMs)) {
-        forgetOldFile();
         // Nobody answers a converter that asks: it shall see the end of its input instead of waiting for ever.
         process.closeWriteChannel();
         return true;
@@ -56,34 +62,6 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
         finish(Outcome::NotStarted, tr("%1: %2").arg(program, process.errorString()));
     }
     return false;
-}
-
-// It must not be taken for the result, but it is the user's until the conversion really runs.
-bool ConversionRun::putOldFileAside()
-{
-    QFile old(projectFileName);
-    if (!old.exists()) {
-        return true;
-    }
-    const QString aside =
-        QFileInfo(projectFileName).absolutePath() + u"/.old-project-%1.prj"_s.arg(QCoreApplication::applicationPid());
-    QFile::remove(aside);
-    const bool isFile = QFileInfo(projectFileName).isFile();
-    if (!isFile || !old.rename(aside)) {
-        const QString reason = isFile ? old.errorString() : tr("it is not a file");
-        finish(Outcome::NotStarted,
-               tr("The old project file can not be removed: %1. Close programs that use it.").arg(reason));
-        return false;
-    }
-    oldFile = aside;
-    return true;
-}
-
-void ConversionRun::forgetOldFile()
-{
-    if (!oldFile.isEmpty()) {
-        QFile::remove(std::exchange(oldFile, {}));
-    }
 }
 
 void ConversionRun::stop()
@@ -119,22 +97,42 @@ QString ConversionRun::endText(Outcome outcome, const QString& projectFile)
     return tr("Error: Conversion Process Failed");
 }
 
+QString ConversionRun::warning() const
+{
+    return result == Outcome::Created && code != 0
+               ? tr("The conversion program ended with exit code %1. The project may be incomplete.").arg(code)
+               : QString();
+}
+
 void ConversionRun::processFinished()
 {
     if (!running) {
         return;
     }
+    // What goes on behind the end could still write, and would be taken for the next run's.
+    StrayProcesses::stop(strayGraceMs, earlierStrays);
     // A converter that ends politely when the program closes has not done its work either.
     if (stopping || process.isClosingDown()) {
         finish(Outcome::Stopped, tr("The conversion was stopped."));
     } else if (process.exitStatus() != QProcess::NormalExit || process.error() != QProcess::UnknownError) {
         finish(Outcome::Failed, process.errorString());
     } else {
-        const QString detail = process.exitCode() == 0
-                                   ? QString()
-                                   : tr("The conversion program ended with exit code %1.").arg(process.exitCode());
-        finish(QFile::exists(projectFileName) ? Outcome::Created : Outcome::NotCreated, detail);
+        judge();
     }
+}
+
+void ConversionRun::judge()
+{
+    code = process.exitCode();
+    QString problem;
+    bool isCreated = place.hasProject(problem);
+    // What a full disk leaves.
+    if (isCreated && code != 0 && QFileInfo(projectFileName).size() == 0) {
+        isCreated = false;
+        problem = tr("The project file that it left is empty.");
+    }
+    addDetail(code == 0 ? QString() : tr("The conversion program ended with exit code %1.").arg(code));
+    finish(isCreated ? Outcome::Created : Outcome::NotCreated, problem);
 }
 
 // Only a program that did not start ends without finished().
@@ -149,12 +147,19 @@ void ConversionRun::finish(Outcome outcome, const QString& detail)
 {
     running = false;
     result = outcome;
-    detailText = detail;
-    if (outcome == Outcome::Failed || outcome == Outcome::Stopped) {
-        QFile::remove(projectFileName);
-    }
-    if (!oldFile.isEmpty()) {
-        QFile::rename(std::exchange(oldFile, {}), projectFileName);
+    addDetail(detail);
+    if (outcome == Outcome::Created) {
+        place.accept();
+    } else {
+        const Result<bool> back = place.bringBack();
+        addDetail(back.value ? tr("The project file that was there before is kept.") : back.problem);
     }
     Q_EMIT ended(outcome);
+}
+
+void ConversionRun::addDetail(const QString& sentence)
+{
+    if (!sentence.isEmpty()) {
+        detailText += (detailText.isEmpty() ? QString() : u"\n"_s) + sentence;
+    }
 }

@@ -2,14 +2,17 @@
 #pragma once
 
 #include "process/ChildProcess.h"
+#include "process/ProjectPlace.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringDecoder>
 #include <QStringList>
 
+#include <vector>
+
 /// Runs a conversion program and judges the result by the project file it leaves. Knows nothing of widgets: the page
-/// and the batch mode show what it reports.
+/// and the batch mode show what it reports. At its end nothing runs that the program started.
 class ConversionRun : public QObject
 {
     Q_OBJECT
@@ -28,17 +31,21 @@ public:
     explicit ConversionRun(ChildList* siblings = nullptr, QObject* parent = nullptr);
     ~ConversionRun() override;
 
-    /// Starts the program and removes an old project file, which stays when the program can not be started; false then,
-    /// with the end already reported.
+    /// Puts an old project file aside and starts the program; false when it can not be started, with the end already
+    /// reported. The old file comes back unless the run ends with Outcome::Created.
     bool start(const QString& program, const QStringList& arguments, const QString& projectFile);
-    /// Stops the program with its children and removes a half-made project file.
+    /// Stops the program with all that it started and removes a half-made project file.
     void stop();
     bool isRunning() const { return running; }
     /// What the program printed since the last call, both channels merged, characters never cut in two.
     QString takeOutput();
     Outcome outcome() const { return result; }
+    /// The program's exit code; -1 when it did not end by itself.
+    int exitCode() const { return code; }
     /// What the system or the exit code had to say about the end; empty for a plain success.
     QString detail() const { return detailText; }
+    /// What the user should know of a project file that is there although the program failed; empty otherwise.
+    QString warning() const;
     /// How a run ended, as the page and the batch mode tell it.
     static QString endText(Outcome outcome, const QString& projectFile);
     ChildProcess& child() { return process; }
@@ -51,19 +58,21 @@ Q_SIGNALS:
     void ended(ConversionRun::Outcome outcome);
 
 private:
-    bool putOldFileAside();
-    void forgetOldFile();
     void processFinished();
     void processFailed(QProcess::ProcessError error);
+    void judge();
     void finish(Outcome outcome, const QString& detail);
+    void addDetail(const QString& sentence);
 
     ChildProcess process;
     QStringDecoder decoder;
+    ProjectPlace place;
     QString projectFileName;
     QString detailText;
-    /// Where the old project file waits for the program's start.
-    QString oldFile;
+    /// What somebody else left before the run.
+    std::vector<long long> earlierStrays;
     Outcome result = Outcome::NotStarted;
+    int code = -1;
     bool running = false;
     bool stopping = false;
 };

@@ -15,6 +15,8 @@ public:
     void start(const QString& fileName);
     /// Adds output as it came.
     void append(const QByteArray& bytes);
+    /// The last line, which stands in the log however long it is; may be empty.
+    void endWith(const QString& line);
     void finish();
     /// Empty when nothing could be kept.
     QString fileName() const { return file.fileName(); }
@@ -24,4 +26,5 @@ public:
 private:
     QFile file;
     bool cut = false;
+    char lastByte = '\n';
 };

@@ -13,7 +13,8 @@ public:
     ProcessGroup(const ProcessGroup&) = delete;
     ProcessGroup& operator=(const ProcessGroup&) = delete;
 
-    /// Runs in the child between fork and exec: makes it the leader of a group. Does nothing on Windows.
+    /// Runs in the child between fork and exec: makes it the leader of a session and its group. Does
+    /// nothing on Windows.
     static void becomeLeader();
 
     /// Takes hold of a process that has just been started.

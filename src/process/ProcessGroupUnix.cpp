@@ -64,7 +64,9 @@ ProcessGroup::~ProcessGroup() = default;
 
 void ProcessGroup::becomeLeader()
 {
-    ::setpgid(0, 0);
+    // A session of its own has no terminal: a group in the background of one would be stopped when it writes, or when
+    // it asks for a password.
+    ::setsid();
 #ifdef __linux__
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
 #endif

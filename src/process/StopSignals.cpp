@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::array stopSignals = {SIGINT, SIGTERM, SIGHUP};
+constexpr std::array stopSignals = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 std::array<struct sigaction, stopSignals.size()> previousActions;
 int pipeEnds[2] = {-1, -1};
 

@@ -7,8 +7,8 @@
 
 class QSocketNotifier;
 
-/// Tells of SIGINT, SIGTERM and SIGHUP in the event loop while it lives, instead of their ending the program. One at a
-/// time; on Windows the console's own handling stays.
+/// Tells of SIGINT, SIGTERM, SIGHUP and SIGQUIT in the event loop while it lives, instead of their ending the program.
+/// One at a time; on Windows the console's own handling stays.
 class StopSignals : public QObject
 {
     Q_OBJECT

@@ -63,7 +63,7 @@ bool collect(pid_t child)
     return result == child || (result < 0 && errno == ECHILD);
 }
 
-bool endAll(int signal, std::chrono::milliseconds patience)
+bool endAll(int signal, std::chrono::milliseconds patience, const std::vector<long long>& spared)
 {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     std::vector<pid_t> told;
@@ -71,6 +71,9 @@ bool endAll(int signal, std::chrono::milliseconds patience)
         bool anyLeft = false;
         // Asked anew each time: what a stray leaves behind comes to us in turn.
         for (const pid_t child : strays()) {
+            if (std::ranges::find(spared, child) != spared.end()) {
+                continue;
+            }
             if (std::ranges::find(told, child) == told.end()) {
                 ::kill(child, signal);
                 told.push_back(child);
@@ -118,10 +121,17 @@ bool StrayProcesses::any()
     return !strays().empty();
 }
 
-void StrayProcesses::stop(int graceMs)
+std::vector<long long> StrayProcesses::present()
 {
-    if (!endAll(SIGTERM, std::chrono::milliseconds(graceMs))) {
-        endAll(SIGKILL, killPatience);
+    reap();
+    const std::vector<pid_t> found = strays();
+    return {found.begin(), found.end()};
+}
+
+void StrayProcesses::stop(int graceMs, const std::vector<long long>& spared)
+{
+    if (!endAll(SIGTERM, std::chrono::milliseconds(graceMs), spared)) {
+        endAll(SIGKILL, killPatience, spared);
     }
 }
 
@@ -135,6 +145,10 @@ bool StrayProcesses::any()
 {
     return false;
 }
-void StrayProcesses::stop(int) {}
+std::vector<long long> StrayProcesses::present()
+{
+    return {};
+}
+void StrayProcesses::stop(int, const std::vector<long long>&) {}
 
 #endif

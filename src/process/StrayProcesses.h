@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 /// Processes that a child left behind, in whatever group or session. On Linux they come to this program when their
 /// parent ends, once it has asked for them; elsewhere they are out of reach.
 namespace StrayProcesses {
@@ -19,7 +21,10 @@ void reap();
 /// True while one runs.
 bool any();
 
-/// Asks all to end, waits graceMs at most, then kills them and what they leave in turn.
-void stop(int graceMs);
+/// The process ids of those that run.
+std::vector<long long> present();
+
+/// Asks all but the spared ones to end, waits graceMs at most, then kills them and what they leave in turn.
+void stop(int graceMs, const std::vector<long long>& spared = {});
 
 } // namespace StrayProcesses

@@ -26,6 +26,9 @@ struct WizardState
     bool analyserFixed = false;
     bool noAnalyserInstalled = false;
     bool conversionDone = false;
+    /// What the user should know of a conversion that left a project file although its program failed; one line, empty
+    /// when all is well.
+    QString conversionWarning;
     bool isORVC = true;
     /// All three configuration files came with the command line and exist.
     bool personalitiesGiven = false;

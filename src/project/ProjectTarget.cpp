@@ -4,13 +4,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
-namespace {
-
-// As many as the system follows.
-constexpr int mostLinks = 40;
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 bool ProjectTarget::createFolder(const QString& folder)
 {
@@ -19,19 +15,12 @@ bool ProjectTarget::createFolder(const QString& folder)
 
 bool ProjectTarget::isWritable(const QString& file)
 {
-    // Of a link that points nowhere yet, its target is made and removed again, not the link.
-    QString target = file;
-    for (int links = 0; links < mostLinks && QFileInfo(target).isSymLink(); ++links) {
-        target = QFileInfo(target).symLinkTarget();
+    const QFileInfo info(file);
+    // The file that a link leads to is not touched: the new project takes the link's place.
+    if (info.exists() && !info.isSymLink()) {
+        return info.isFile() && QFile(file).open(QIODevice::ReadWrite);
     }
-    QFile probe(target);
-    const bool existed = probe.exists();
-    if (!probe.open(QIODevice::ReadWrite)) {
-        return false;
-    }
-    probe.close();
-    if (!existed) {
-        probe.remove();
-    }
-    return true;
+    // A file of another name, which nobody else can have made or take for a project.
+    QTemporaryFile probe(info.absolutePath() + u"/.kovra-XXXXXX"_s);
+    return probe.open();
 }

@@ -9,7 +9,7 @@ namespace ProjectTarget {
 /// Makes the folder with all its parents.
 bool createFolder(const QString& folder);
 
-/// True when the file can be opened for reading and writing. A file that was not there is not left behind, one that
+/// True when the file can be written or made. A file that was not there is not made, not even for a moment; one that
 /// was keeps its contents.
 bool isWritable(const QString& file);
 

@@ -81,11 +81,15 @@ void ActionPage::initializePage()
     window->setOption(QWizard::NoCancelButton, false);
     showRunning();
     if (!window->projectCreator) {
-        QFile::remove(window->ProjectFile());
         ConversionFinished(tr("Error: No project conversion available"), false, u"red"_s);
         return;
     }
     log.start(appRegistry->CreateTempFileName(u".log"_s));
+    const QStringList doubtful = placeholdersInValues(*window);
+    for (const QString& text : doubtful) {
+        outputView->appendLines({text});
+        log.append(text.toLocal8Bit() + '\n');
+    }
     run.start(window->projectCreator->exe, conversionArguments(*window), window->ProjectFile());
 }
 
@@ -94,6 +98,7 @@ void ActionPage::showRunning()
     finished = false;
     // Of an earlier run; the wizard must not offer the next page on its account.
     window->conversionDone = false;
+    window->conversionWarning.clear();
     setSubTitle(tr("Conversion in progress..."));
     statusLabel->setText(tr("Converting Project Progress:"));
     progressBar->show();
@@ -163,7 +168,7 @@ void ActionPage::ProcessComplete()
         return;
     }
     ReadReady();
-    log.finish();
+    log.endWith(run.detail());
     buffer.endLine();
     stopButton->hide();
     // The end is told after all that the program said; of much output the window takes a little at a time.
@@ -178,6 +183,7 @@ void ActionPage::showEnd()
     if (!run.detail().isEmpty()) {
         outputView->appendLines({run.detail()});
     }
+    window->conversionWarning = run.warning();
     const bool created = outcome == ConversionRun::Outcome::Created;
     ConversionFinished(ConversionRun::endText(outcome, window->ProjectFile()), created,
                        created ? u"black"_s : u"red"_s);

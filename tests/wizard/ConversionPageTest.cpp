@@ -91,9 +91,9 @@ private Q_SLOTS:
         row("created", "echo '<b>50%</b> &amp; %1'; echo x > \"$1\"",
             u"Conversion Started\n\n<b>50%</b> &amp; %1\nConversion Complete"_s, u"New project file: %1"_s, "x\n");
         row("not created", "echo no input >&2; exit 4", u"no input\nThe conversion program ended with exit code 4."_s,
-            u"Error: Project file [%1] not created"_s, {});
-        row("crashed", "echo x > \"$1\"; kill -ABRT $$", u"crashed"_s, u"Error: Conversion Process Failed"_s, {});
-        // The old file goes when the conversion really starts.
+            u"Error: Project file [%1] not created"_s, "old");
+        row("crashed", "echo x > \"$1\"; kill -ABRT $$", u"crashed"_s, u"Error: Conversion Process Failed"_s, "old");
+        // The old file goes when there is a new one.
         row("not there", {}, u"/missing: "_s, u"Error: Could not run conversion process"_s, "old");
     }
 
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(format.foreground().color() == QColor(Qt::red), lastLine.startsWith("Error"_L1));
         QVERIFY(wizard.window.testOption(QWizard::NoCancelButton));
         QCOMPARE(suite.read(u"work/p.prj"_s), leaves);
-        QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files).size(), leaves.isEmpty() ? 0 : 1);
+        QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden).size(), 1);
         wizard.press(QWizard::FinishButton);
         QCOMPARE(wizard.window.result(), int(QDialog::Accepted));
     }
@@ -138,12 +138,14 @@ private Q_SLOTS:
         QVERIFY(!wizard.output().contains("stopped"_L1));
         wizard.press(QWizard::BackButton);
         QCOMPARE(wizard.window.currentId(), int(XmlPageId));
-        QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
+        QCOMPARE(suite.read(u"work/p.prj"_s), QByteArray("old"));
         wizard.press(QWizard::NextButton);
         QTRY_VERIFY(wizard.output().contains("running"_L1));
         wizard.button(u"&Stop"_s).click();
-        QVERIFY(wizard.output().endsWith("The conversion was stopped.\nError: Conversion Process Failed"_L1));
-        QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
+        QVERIFY(
+            wizard.output().endsWith("The conversion was stopped.\nThe project file that was there before is kept.\n"
+                                     "Error: Conversion Process Failed"_L1));
+        QCOMPARE(suite.read(u"work/p.prj"_s), QByteArray("old"));
         // Escape asks first; No goes on, Yes stops.
         wizard.press(QWizard::BackButton);
         wizard.press(QWizard::NextButton);
@@ -153,7 +155,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(wizard.window.ProjectFile()));
         wizard.window.reject();
         QVERIFY(!wizard.window.isVisible());
-        QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
+        QCOMPARE(suite.read(u"work/p.prj"_s), QByteArray("old"));
         QCOMPARE(boxes.texts.size(), 3);
     }
 
@@ -177,7 +179,7 @@ private Q_SLOTS:
         byTitleBar ? void(wizard.window.close()) : registry.ShutDown();
         QCOMPARE(wizard.window.isHidden(), byTitleBar);
         QVERIFY(!wizard.window.conversionDone);
-        QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
+        QCOMPARE(suite.read(u"work/p.prj"_s), QByteArray("old"));
         QTEST(int(boxes.texts.size()), "boxes");
     }
 

@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+#include "Installation.h"
+#include "process/ConversionRun.h"
+#include "process/StrayProcesses.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Outcome = ConversionRun::Outcome;
+
+/// What a row does besides running its script.
+enum class Act { Wait, Stop, Destroy };
+
+const QDateTime oldTime = QDateTime::fromSecsSinceEpoch(1'000'000'000);
+
+/// Scripts write the process ids of all that they start here, one a line.
+QString pidFile(const Installation& suite)
+{
+    return suite.path(u"pids"_s);
+}
+
+QList<QByteArray> survivors(const Installation& suite)
+{
+    QList<QByteArray> alive = suite.read(pidFile(suite)).split('\n');
+    alive.removeIf([](const QByteArray& pid) { return !Installation::isAlive(pid); });
+    return alive;
+}
+
+QStringList hiddenFiles(const QString& folder)
+{
+    return QDir(folder).entryList({u".kovra*"_s, u".old*"_s}, QDir::Files | QDir::Hidden | QDir::System);
+}
+
+// $1 is the project, $2 the file for process ids; "mark" notes the id of the last background process.
+QByteArray preamble()
+{
+    return "mark() { echo $! >> \"$M\"; }\nP=$1\nexport M=$2\necho $$ >> \"$M\"\n";
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Act)
+
+/// Whatever a conversion program does: at the end nothing of it runs, nothing hidden is left, and an old project is
+/// there again unless a new one has taken its place.
+class ConverterFaultsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { StrayProcesses::adopt(); }
+
+    void keepsTheOldProject_data()
+    {
+        using enum ConversionRun::Outcome;
+        const TestRows<QByteArray, Outcome, Act, QString> row("script", "outcome", "act", "detail");
+        row("missing", "#missing", NotStarted, Act::Wait, u"No such file"_s);
+        row("not executable", "#not executable", NotStarted, Act::Wait, u"denied"_s);
+        row("no program format", "#no format", NotStarted, Act::Wait, {});
+        row("writes nothing", "exit 0", NotCreated, Act::Wait, u"kept"_s);
+        row("exit code, nothing written", "echo why >&2; exit 3", NotCreated, Act::Wait, u"exit code 3"_s);
+        row("exit code 255", "exit 255", NotCreated, Act::Wait, u"exit code 255"_s);
+        row("crash", "echo half > \"$P\"; kill -SEGV $$", Failed, Act::Wait, u"crashed"_s);
+        row("killed", "echo half > \"$P\"; kill -KILL $$", Failed, Act::Wait, u"crashed"_s);
+        row("full disk, error", "trap '' XFSZ; ulimit -f 0; echo x > \"$P\"; exit 1", NotCreated, Act::Wait,
+            u"empty"_s);
+        row("full disk, killed", "ulimit -c 0; ulimit -f 0; exec sh -c 'echo x > \"$0\"; echo y >> \"$0\"' \"$P\"",
+            Failed, Act::Wait, u"crashed"_s);
+        row("folder as result", "mkdir -p \"$P/sub\"; echo x > \"$P/sub/x\"", NotCreated, Act::Wait, u"a folder"_s);
+        row("link as result", "echo x > \"$M.x\"; ln -s \"$M.x\" \"$P\"", NotCreated, Act::Wait, u"a link"_s);
+        row("link to nowhere", "ln -s /nowhere \"$P\"", NotCreated, Act::Wait, u"a link"_s);
+        row("pipe as result", "mkfifo \"$P\"", NotCreated, Act::Wait, u"regular"_s);
+        row("deletes its folder", "rm -rf \"${P%/*}\"", NotCreated, Act::Wait, u"kept"_s);
+        row("deletes hidden files", "rm -f \"${P%/*}\"/.k*", NotCreated, Act::Wait, u"kept"_s);
+        row("closes its output", "exec >&- 2>&-; exit 4", NotCreated, Act::Wait, u"exit code 4"_s);
+        row("closes its output and hangs", "echo r; exec >&- 2>&-; exec sleep 1000", Stopped, Act::Stop, {});
+        row("reads its input", "cat; read x; exit 5", NotCreated, Act::Wait, u"exit code 5"_s);
+        row("floods", "yes | head -c 20000000", NotCreated, Act::Wait, {});
+        row("one long line", "head -c 5000000 /dev/zero | tr '\\0' x", NotCreated, Act::Wait, {});
+        row("bad text", "head -c 100000 /dev/urandom", NotCreated, Act::Wait, {});
+        row("late file", "(sleep 1; echo LATE > \"$P\") & mark; exit 0", NotCreated, Act::Wait, {});
+        row("late file of a daemon", "setsid sh -c 'echo $$ >> \"$M\"; sleep 1; echo LATE > \"$0\"' \"$P\" & sleep 0.2",
+            NotCreated, Act::Wait, {});
+        row("hangs", "echo half > \"$P\"; echo r; sleep 1000", Stopped, Act::Stop, u"stopped"_s);
+        row("ignores the request to end", "trap '' TERM HUP INT; echo half > \"$P\"; echo r; while :; do sleep 1; done",
+            Stopped, Act::Stop, u"stopped"_s);
+        row("ends politely", "trap 'echo done > \"$P\"; exit 0' TERM; echo r; while :; do sleep 0.1; done", Stopped,
+            Act::Stop, u"stopped"_s);
+        row("grandchild in the group", "sh -c 'trap \"\" TERM; echo r; sleep 1000' & mark; wait", Stopped, Act::Stop,
+            {});
+        row("grandchild in another group", "set -m; sh -c 'trap \"\" TERM; echo r; sleep 1000' & mark; wait", Stopped,
+            Act::Stop, {});
+        row("grandchild in another session",
+            "setsid sh -c 'echo $$ >> \"$M\"; echo r; sleep 1; echo STALE > \"$0\"' \"$P\" & wait", Stopped, Act::Stop,
+            {});
+        row("daemon, deaf, without environment",
+            "(setsid env -i M=\"$M\" sh -c 'trap \"\" TERM HUP; echo $$ >> \"$M\"; echo r; sleep 1000; :' &) ; "
+            "sleep 1000",
+            Stopped, Act::Stop, {});
+        row("daemons that start each other",
+            "(setsid sh -c 'trap \"\" TERM; (setsid sh -c \"trap \\\"\\\" TERM; echo \\$\\$ >> \\\"$M\\\"; sleep "
+            "1000\" &)"
+            "; echo $$ >> \"$M\"; sleep 0.2; echo r; sleep 1000' &); sleep 1000",
+            Stopped, Act::Stop, {});
+        row("abandoned", "setsid sh -c 'echo $$ >> \"$M\"; sleep 1000' & echo half > \"$P\"; echo r; sleep 1000",
+            Stopped, Act::Destroy, {});
+    }
+
+    void keepsTheOldProject()
+    {
+        QFETCH(const Outcome, outcome);
+        QFETCH(const Act, act);
+        QFETCH(const QString, detail);
+        const Installation suite;
+        const QString project = suite.write(u"work/p.prj"_s, QByteArray("old\0project\n", 12), oldTime);
+        const QByteArray before = suite.read(project);
+        Outcome ended{};
+        QString said;
+        {
+            ConversionRun run;
+            QSignalSpy ends(&run, &ConversionRun::ended);
+            QSignalSpy output(&run, &ConversionRun::outputReady);
+            const bool started = run.start(program(suite), {project, pidFile(suite)}, project);
+            QCOMPARE(started, outcome != Outcome::NotStarted);
+            if (act != Act::Wait) {
+                QTRY_VERIFY(!output.isEmpty());
+                QVERIFY(QFile::exists(pidFile(suite)));
+                QVERIFY(suite.read(project) != before);
+            }
+            if (act == Act::Stop) {
+                run.stop();
+                // At once: the page says so now.
+                QCOMPARE(survivors(suite), QList<QByteArray>());
+            }
+            if (act != Act::Destroy) {
+                QTRY_COMPARE_WITH_TIMEOUT(ends.size(), 1, 20000);
+                ended = run.outcome();
+                QCOMPARE(ended, outcome);
+                said = run.detail();
+            }
+        }
+        QVERIFY2(said.contains(detail), qPrintable(said));
+        QCOMPARE(survivors(suite), QList<QByteArray>());
+        QVERIFY(!StrayProcesses::any());
+        QCOMPARE(suite.read(project), before);
+        QCOMPARE(QFileInfo(project).lastModified(), oldTime);
+        QCOMPARE(hiddenFiles(suite.path(u"work"_s)), QStringList());
+        QCOMPARE(QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}), QStringList());
+    }
+
+    void takesTheNewProject_data()
+    {
+        const TestRows<QByteArray, int> row("script", "code");
+        row("plain", "echo new > \"$P\"", 0);
+        row("exit code 7", "echo new > \"$P\"; exit 7", 7);
+        row("renamed into place", "echo new > \"$P.tmp\"; mv \"$P.tmp\" \"$P\"", 0);
+        row("leaves a daemon", "echo new > \"$P\"; setsid sleep 1000 > /dev/null 2>&1 & mark; sleep 0.2", 0);
+        row("leaves a child with its output", "echo new > \"$P\"; sleep 1000 & mark", 0);
+    }
+
+    void takesTheNewProject()
+    {
+        QFETCH(const int, code);
+        const Installation suite;
+        const QString project = suite.write(u"work/p.prj"_s, "old", oldTime);
+        ConversionRun run;
+        QSignalSpy ends(&run, &ConversionRun::ended);
+        QVERIFY(run.start(program(suite), {project, pidFile(suite)}, project));
+        QTRY_COMPARE(ends.size(), 1);
+        QCOMPARE(run.outcome(), Outcome::Created);
+        QCOMPARE(run.exitCode(), code);
+        QCOMPARE(run.warning().isEmpty(), code == 0);
+        QCOMPARE(suite.read(project), QByteArray("new\n"));
+        QCOMPARE(survivors(suite), QList<QByteArray>());
+        QCOMPARE(hiddenFiles(suite.path(u"work"_s)), QStringList());
+    }
+
+    void sparesWhatWasThereBefore()
+    {
+        const Installation suite;
+        QProcess viewer;
+        viewer.start(u"sh"_s, {u"-c"_s, u"setsid sleep 1000 & echo $!"_s});
+        QVERIFY(viewer.waitForFinished());
+        const QByteArray stray = viewer.readAll();
+        ConversionRun run;
+        QSignalSpy ends(&run, &ConversionRun::ended);
+        QVERIFY(run.start(suite.writeScript(u"convert"_s, "exit 0"), {}, suite.path(u"work/p.prj"_s)));
+        QTRY_COMPARE(ends.size(), 1);
+        QVERIFY(Installation::isAlive(stray));
+        StrayProcesses::stop(500);
+        QVERIFY(!Installation::isAlive(stray));
+    }
+
+    void keepsALinkThatWasTheProject()
+    {
+        const Installation suite;
+        const QString target = suite.write(u"shared.prj"_s, "shared");
+        const QString project = suite.path(u"work/p.prj"_s);
+        QVERIFY(QFile::link(target, project));
+        ConversionRun run;
+        QSignalSpy ends(&run, &ConversionRun::ended);
+        QVERIFY(run.start(suite.writeScript(u"convert"_s, "exit 0"), {}, project));
+        QTRY_COMPARE(ends.size(), 1);
+        QCOMPARE(QFileInfo(project).symLinkTarget(), target);
+        // A new project takes the link's place and leaves the file it led to alone.
+        QVERIFY(run.start(suite.writeScript(u"convert"_s, "echo new > \"$1\""), {project}, project));
+        QTRY_COMPARE(ends.size(), 2);
+        QVERIFY(!QFileInfo(project).isSymLink());
+        QCOMPARE(suite.read(project), QByteArray("new\n"));
+        QCOMPARE(suite.read(target), QByteArray("shared"));
+    }
+
+    void takesUpWhatAKilledRunLeft()
+    {
+        const Installation suite;
+        const QString project = suite.write(u"work/p.prj"_s, "old", oldTime);
+        const QString script = suite.writeScript(u"convert"_s, "exit 0");
+        QString aside;
+        {
+            ConversionRun run;
+            QVERIFY(run.start(suite.writeScript(u"wait"_s, "sleep 1000"), {}, project));
+            aside = suite.path(u"work/"_s) + hiddenFiles(suite.path(u"work"_s)).filter(u"old"_s).value(0);
+            QVERIFY(QFile::copy(aside, suite.path(u"saved"_s)));
+        }
+        suite.write(u"work/p.prj"_s, "half");
+        QVERIFY(QFile::rename(suite.path(u"saved"_s), aside));
+        ConversionRun next;
+        QSignalSpy ends(&next, &ConversionRun::ended);
+        QVERIFY(next.start(script, {}, project));
+        QTRY_COMPARE(ends.size(), 1);
+        QCOMPARE(suite.read(project), QByteArray("old"));
+        QCOMPARE(hiddenFiles(suite.path(u"work"_s)), QStringList());
+    }
+
+private:
+    static QString program(const Installation& suite)
+    {
+        QFETCH(const QByteArray, script);
+        if (script == "#missing") {
+            return suite.path(u"missing"_s);
+        }
+        if (script == "#not executable") {
+            return suite.write(u"convert"_s, "#!/bin/sh\n");
+        }
+        if (script == "#no format") {
+            const QString file = suite.write(u"convert"_s, QByteArray(100, '\0'));
+            QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            return file;
+        }
+        return suite.writeScript(u"convert"_s, preamble() + script);
+    }
+};
+
+KOVRA_TEST(ConverterFaultsTest)
+#include "ConverterFaultsTest.moc"
