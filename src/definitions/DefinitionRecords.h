@@ -80,6 +80,8 @@ struct ProjectCreatorData
     bool hasMessagePersonality = false;
     bool hasAnalyserPersonality = false;
     bool hasCompilerPersonality = false;
+    /// Where the element begins in the definitions file.
+    qint64 line = 0;
 
     /// The controls of inputData; the page owns them.
     QGroupBox* panel = nullptr;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/DefinitionsXml.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +19,55 @@ bool isForeignPlatform(QStringView name, QStringView platform)
     return std::ranges::find(platformNames, name) != platformNames.end() && name != platform;
 }
 
+// The context of the texts in the catalogues.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(DefinitionsReader)
+};
+
 } // namespace
+
+DefinitionsReader::DefinitionsReader(const QByteArray& document, RemarkFunction function)
+    : QXmlStreamReader(document)
+    , remarkFunction(std::move(function))
+{
+}
+
+void DefinitionsReader::remarkAt(qint64 line, const QString& text)
+{
+    if (remarkFunction) {
+        remarkFunction(line, text);
+    }
+}
+
+void DefinitionsReader::passedOver(QStringView parent)
+{
+    if (remarkFunction && name() != currentPlatformName()) {
+        remark(Text::tr("<%1> is not known in <%2> and is passed over").arg(name(), parent));
+    }
+}
+
+QString DefinitionsReader::choice(QLatin1StringView attribute, const QStringList& values)
+{
+    QString value = attributes().value(attribute).toString();
+    if (remarkFunction && attributes().hasAttribute(attribute) && !values.contains(value)) {
+        remark(
+            Text::tr("%1=\"%2\" counts as absent; known are %3").arg(QString(attribute), value, values.join(u", "_s)));
+    }
+    return value;
+}
+
+int DefinitionsReader::readNumber()
+{
+    const QString element = name().toString();
+    const QString text = readElementText();
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber) {
+        remark(Text::tr("<%1> wants a number; \"%2\" counts as 0").arg(element, text));
+    }
+    return number;
+}
 
 QStringView currentPlatformName()
 {

@@ -3,6 +3,7 @@
 #include "definitions/DefinitionRecords.h"
 #include "definitions/DefinitionsXml.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -15,6 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The context of the texts in the catalogues.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(DefinitionsReader)
+};
+
 constexpr int maximumDepth = 100;
 
 constexpr std::array inputTypes = {
@@ -23,25 +30,27 @@ constexpr std::array inputTypes = {
     std::pair{"RADIO"_L1, InputType::Radio}, std::pair{"EDIT"_L1, InputType::Edit},
 };
 
-void readInputType(QXmlStreamReader& xml, ArgumentDefinition& definition)
+void readInputType(DefinitionsReader& xml, ArgumentDefinition& definition)
 {
     const QXmlStreamAttributes attributes = xml.attributes();
     definition.separator = attributes.value("SEP"_L1).toString();
     definition.columns = attributes.value("COLUMNS"_L1).toInt();
     definition.outputString = attributes.value("OUT_STR"_L1).toString();
-    const QStringView analyser = attributes.value("TYPE"_L1);
+    const QString analyser = xml.choice("TYPE"_L1, {u"C_ONLY"_s, u"CPP_ONLY"_s});
     definition.cOnly = analyser == "C_ONLY"_L1;
     definition.cppOnly = analyser == "CPP_ONLY"_L1;
     const QString text = xml.readElementText();
     const auto known = std::ranges::find_if(inputTypes, [&](const auto& entry) { return text == entry.first; });
     if (known != inputTypes.end()) {
         definition.inputType = known->second;
+    } else {
+        xml.remark(Text::tr("<inputType> \"%1\" is not known and counts as absent").arg(text));
     }
 }
 
-void readDefault(QXmlStreamReader& xml, ArgumentDefinition& definition, const TextExpander& expand)
+void readDefault(DefinitionsReader& xml, ArgumentDefinition& definition, const TextExpander& expand)
 {
-    const QString analyser = xml.attributes().value("TYPE"_L1).toString();
+    const QString analyser = xml.choice("TYPE"_L1, {u"C"_s, u"CPP"_s});
     const QString text = expand(xml.readElementText());
     if (analyser != "CPP"_L1) {
         definition.cDefaultValue = text;
@@ -51,14 +60,18 @@ void readDefault(QXmlStreamReader& xml, ArgumentDefinition& definition, const Te
     }
 }
 
-void readMustBeSet(QXmlStreamReader& xml, ArgumentDefinition& definition)
+void readMustBeSet(DefinitionsReader& xml, ArgumentDefinition& definition)
 {
     const QString text = xml.readElementText();
     if (text == "FILE_MUST_EXIST"_L1) {
         definition.mustBeSet = true;
         definition.fileMustExist = true;
-    } else if (text.toInt() != 0) {
-        definition.mustBeSet = true;
+        return;
+    }
+    bool isNumber = false;
+    definition.mustBeSet |= text.toInt(&isNumber) != 0;
+    if (!isNumber) {
+        xml.remark(Text::tr("<mustBeSet> wants FILE_MUST_EXIST, 1 or 0; \"%1\" counts as 0").arg(text));
     }
 }
 
@@ -79,7 +92,7 @@ QString valueKey(const ArgumentDefinition& definition, const ProjectCreatorData&
 
 } // namespace
 
-void readInputData(QXmlStreamReader& xml, ProjectCreatorData& creator, ArgumentDefinition* parent,
+void readInputData(DefinitionsReader& xml, ProjectCreatorData& creator, ArgumentDefinition* parent,
                    const TextExpander& expand, int depth)
 {
     if (depth > maximumDepth) {
@@ -88,6 +101,7 @@ void readInputData(QXmlStreamReader& xml, ProjectCreatorData& creator, ArgumentD
     }
     ArgumentDefinitions& siblings = parent ? parent->children : creator.inputData;
     ArgumentDefinition& definition = *siblings.emplace_back(std::make_unique<ArgumentDefinition>());
+    const qint64 line = xml.lineNumber();
     readRecord(xml, u"inputData", [&](QStringView name) {
         if (name == "displayName"_L1) {
             definition.displayName = xml.readElementText();
@@ -109,4 +123,7 @@ void readInputData(QXmlStreamReader& xml, ProjectCreatorData& creator, ArgumentD
         }
     });
     definition.key = valueKey(definition, creator);
+    if (definition.displayName.isEmpty()) {
+        xml.remarkAt(line, Text::tr("<inputData> has no <displayName>"));
+    }
 }

@@ -3,11 +3,11 @@
 
 #include "definitions/TextExpander.h"
 
-class QXmlStreamReader;
+class DefinitionsReader;
 struct ArgumentDefinition;
 struct ProjectCreatorData;
 
 /// Reads one inputData element, with the fields nested in it, into the parent field or else into the creator.
 /// Fields nested more than 100 deep end the reading of the file with an error.
-void readInputData(QXmlStreamReader& xml, ProjectCreatorData& creator, ArgumentDefinition* parent,
+void readInputData(DefinitionsReader& xml, ProjectCreatorData& creator, ArgumentDefinition* parent,
                    const TextExpander& expand, int depth = 0);

@@ -1,19 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/KOVRASettingsFile.h"
 #include "definitions/ConfigurationKind.h"
+#include "definitions/CreatorCheck.h"
 #include "definitions/DefinitionsXml.h"
 #include "definitions/InputDataReader.h"
 #include "definitions/PathHelpers.h"
+#include "definitions/XmlBounds.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The context of the texts in the catalogues.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(DefinitionsReader)
+};
 
 // The kind that a child element gives a file of; none for any other child.
 const ConfigurationFacts* configurationOf(QStringView element, QLatin1StringView ConfigurationFacts::*name)
@@ -25,11 +36,11 @@ const ConfigurationFacts* configurationOf(QStringView element, QLatin1StringView
 }
 
 // A personality of a conversion type serves the analyser that its TYPE names.
-void readPersonality(QXmlStreamReader& xml, const TextExpander& expand, ProjectCreatorData& creator,
+void readPersonality(DefinitionsReader& xml, const TextExpander& expand, ProjectCreatorData& creator,
                      const ConfigurationFacts& kind)
 {
     creator.*kind.asked = true;
-    const QString analyser = xml.attributes().value("TYPE"_L1).toString();
+    const QString analyser = xml.choice("TYPE"_L1, {u"C"_s, u"CPP"_s});
     const QString path = expand(xml.readElementText());
     if (analyser == "C"_L1) {
         creator.*kind.cPreset = path;
@@ -38,29 +49,33 @@ void readPersonality(QXmlStreamReader& xml, const TextExpander& expand, ProjectC
     }
 }
 
-void readProjectCreator(QXmlStreamReader& xml, ProjectCreatorData& creator, const TextExpander& expand)
+void readProjectCreator(DefinitionsReader& xml, ProjectCreatorData& creator, const TextExpander& expand)
 {
+    creator.line = xml.lineNumber();
+    qint64 argumentsLine = creator.line;
     readRecord(xml, u"projectCreator", [&](QStringView name) {
         if (name == "name"_L1) {
             creator.name = xml.readElementText();
         } else if (name == "exe"_L1) {
             creator.exe = expand(xml.readElementText());
         } else if (name == "exeargs"_L1) {
+            argumentsLine = xml.lineNumber();
             // Simplified text has single blanks between its words.
             creator.exeArgs = xml.readElementText().simplified().split(u' ', Qt::SkipEmptyParts);
         } else if (name == "orvcProject"_L1) {
-            creator.orvcProject |= xml.readElementText().toInt() != 0;
+            creator.orvcProject |= xml.readNumber() != 0;
         } else if (name == "orvcppProject"_L1) {
-            creator.orvcppProject |= xml.readElementText().toInt() != 0;
+            creator.orvcppProject |= xml.readNumber() != 0;
         } else if (name == "inputData"_L1) {
             readInputData(xml, creator, nullptr, expand);
         } else if (const auto* kind = configurationOf(name, &ConfigurationFacts::name)) {
             readPersonality(xml, expand, creator, *kind);
         }
     });
+    checkCreator(xml, creator, argumentsLine);
 }
 
-void readComplianceModule(QXmlStreamReader& xml, ComplianceModule& module, const TextExpander& expand)
+void readComplianceModule(DefinitionsReader& xml, ComplianceModule& module, const TextExpander& expand)
 {
     const auto path = [&] { return QDir::cleanPath(expand(ToForwardSlashes(xml.readElementText()))); };
     readRecord(xml, u"compliance_module", [&](QStringView name) {
@@ -78,7 +93,7 @@ void readComplianceModule(QXmlStreamReader& xml, ComplianceModule& module, const
 }
 
 // Unlike the others this record reads every child as text, so a child with elements of its own is an error.
-void readCodingStandard(QXmlStreamReader& xml, CodingStandard& standard, const TextExpander& expand)
+void readCodingStandard(DefinitionsReader& xml, CodingStandard& standard, const TextExpander& expand)
 {
     standard.name = xml.attributes().value("name"_L1).toString();
     standard.isC = xml.attributes().value("language"_L1) != "C++"_L1;
@@ -89,11 +104,13 @@ void readCodingStandard(QXmlStreamReader& xml, CodingStandard& standard, const T
             standard.*kind->standardFile = text;
         } else if (name == "description"_L1) {
             standard.description = text;
+        } else {
+            xml.passedOver(u"codingStandard");
         }
     });
 }
 
-void readCrossModuleAnalysis(QXmlStreamReader& xml, CrossModuleAnalysis& analysis, const TextExpander& expand)
+void readCrossModuleAnalysis(DefinitionsReader& xml, CrossModuleAnalysis& analysis, const TextExpander& expand)
 {
     readRecord(xml, u"crossModuleAnalysis", [&](QStringView name) {
         if (name == "exe"_L1) {
@@ -104,14 +121,48 @@ void readCrossModuleAnalysis(QXmlStreamReader& xml, CrossModuleAnalysis& analysi
     });
 }
 
-void readPage(QXmlStreamReader& xml, std::vector<std::shared_ptr<PageData>>& pages, const PageReader& read,
-              const TextExpander& expand)
+// What a page and its launchers say of their looks.
+constexpr std::array pageItems = {"title"_L1,       "subtitle"_L1,     "helppage"_L1,          "columns"_L1,
+                                  "buttonwidth"_L1, "buttonheight"_L1, "horizontalspacing"_L1, "verticalspacing"_L1};
+constexpr std::array applicationItems = {"buttonwidth"_L1, "columnspan"_L1, "rowspan"_L1,    "type"_L1,
+                                         "description"_L1, "colour"_L1,     "image"_L1,      "aboveimage"_L1,
+                                         "belowimage"_L1,  "leftimage"_L1,  "rightimage"_L1, "displayoutput"_L1};
+
+template <typename Names>
+bool isOneOf(const Names& names, QStringView name)
 {
-    if (read) {
-        pages.push_back(read(xml, expand));
-    } else {
-        readRecord(xml, xml.name().toString(), [](QStringView) {});
+    return std::ranges::any_of(names, [&](QLatin1StringView known) { return name == known; });
+}
+
+// Without buttons only what a launcher runs counts.
+void readApplication(DefinitionsReader& xml, ApplicationRecord& application, const TextExpander& expand)
+{
+    startApplication(xml, application);
+    if (application.name.isEmpty()) {
+        xml.remark(Text::tr("<application> has no name"));
     }
+    readRecord(xml, u"application", [&](QStringView name) {
+        if (readApplicationItem(xml, application, name, expand)) {
+            return;
+        }
+        if (name == "condition"_L1) {
+            xml.skipCurrentElement();
+        } else if (isOneOf(applicationItems, name)) {
+            xml.readElementText();
+        }
+    });
+}
+
+void readApplications(DefinitionsReader& xml, std::vector<std::unique_ptr<ApplicationRecord>>& applications,
+                      const TextExpander& expand)
+{
+    readRecord(xml, xml.name().toString(), [&](QStringView name) {
+        if (name == "application"_L1) {
+            readApplication(xml, *applications.emplace_back(std::make_unique<ApplicationRecord>()), expand);
+        } else if (isOneOf(pageItems, name)) {
+            xml.readElementText();
+        }
+    });
 }
 
 template <typename Record>
@@ -176,16 +227,29 @@ void KOVRASettingsFile::readDocument(const QByteArray& document, const Context& 
     const TextExpander expand = [&](const QString& text) {
         return ExpandPlaceholders(text, context.places, environment);
     };
-    QXmlStreamReader xml(document);
+    if (const auto [line, reason] = XmlBounds::check(document); !reason.isEmpty()) {
+        lastError = {line, 1, reason};
+        return;
+    }
+    DefinitionsReader xml(document, context.remark);
+    bool isRoot = true;
+    const auto readPage = [&](std::vector<std::shared_ptr<PageData>>& pages) {
+        if (context.readPage) {
+            pages.push_back(context.readPage(xml, expand));
+        } else {
+            readApplications(xml, applications, expand);
+        }
+    };
     while (!xml.atEnd() && !xml.hasError()) {
         if (readToken(xml) != QXmlStreamReader::StartElement) {
             continue;
         }
         const QString element = xml.name().toString();
+        const bool isInRoot = !std::exchange(isRoot, false);
         if (element == "reportsPage"_L1) {
-            readPage(xml, reportsPages, context.readPage, expand);
+            readPage(reportsPages);
         } else if (element == "applicationPage"_L1 || element == "display_options"_L1) {
-            readPage(xml, applicationPages, context.readPage, expand);
+            readPage(applicationPages);
         } else if (element == "codingStandard"_L1) {
             readCodingStandard(xml, add(codingStandards), expand);
         } else if (element == "crossModuleAnalysis"_L1) {
@@ -194,6 +258,8 @@ void KOVRASettingsFile::readDocument(const QByteArray& document, const Context& 
             readComplianceModule(xml, add(complianceModules), expand);
         } else if (element == "projectCreator"_L1) {
             readProjectCreator(xml, add(projectCreators), expand);
+        } else if (isInRoot) {
+            xml.passedOver(u"settings");
         }
     }
     if (xml.hasError()) {

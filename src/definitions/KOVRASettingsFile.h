@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "definitions/ApplicationRecord.h"
 #include "definitions/DefinitionRecords.h"
 #include "definitions/Placeholders.h"
 #include "definitions/TextExpander.h"
@@ -38,8 +39,10 @@ public:
         Places places = {};
         /// The folder of the suite's definitions, where a file is looked for that is not where its name says.
         QString xmlArea = {};
-        /// Without one, pages of launcher buttons are passed over.
+        /// Without one, what the launchers of the pages run is read into applications.
         PageReader readPage = {};
+        /// Told of what the reader passes over; without one nothing is checked.
+        std::function<void(qint64 line, const QString& text)> remark = {};
         TraceFunction trace = {};
     };
 
@@ -55,6 +58,8 @@ public:
 
     std::vector<std::shared_ptr<PageData>> reportsPages;
     std::vector<std::shared_ptr<PageData>> applicationPages;
+    /// The launchers, where there is no window for their pages.
+    std::vector<std::unique_ptr<ApplicationRecord>> applications;
     std::vector<std::unique_ptr<CodingStandard>> codingStandards;
     std::vector<std::unique_ptr<CrossModuleAnalysis>> crossModuleAnalyses;
     std::vector<std::unique_ptr<ProjectCreatorData>> projectCreators;

@@ -4,8 +4,6 @@
 #include "launchers/PageData.h"
 #include "launchers/RunAppData.h"
 
-#include <QDir>
-
 #include <array>
 #include <utility>
 
@@ -66,18 +64,6 @@ bool readPlain(QXmlStreamReader& xml, RunAppData& launcher, QStringView name)
     return false;
 }
 
-void readExe(QXmlStreamReader& xml, RunAppData& launcher, const TextExpander& expand)
-{
-    const QString analyser = xml.attributes().value("TYPE"_L1).toString();
-    const QString program = expand(QDir::toNativeSeparators(xml.readElementText()));
-    if (analyser != "ORVCPP"_L1) {
-        launcher.cExe = program;
-    }
-    if (analyser != "ORVC"_L1) {
-        launcher.cppExe = program;
-    }
-}
-
 void readDisplayOutput(QXmlStreamReader& xml, RunAppData& launcher)
 {
     const QString keyword = xml.readElementText();
@@ -92,25 +78,17 @@ void readDisplayOutput(QXmlStreamReader& xml, RunAppData& launcher)
 
 void readApplication(QXmlStreamReader& xml, RunAppData& launcher, PageData& page, const TextExpander& expand)
 {
-    launcher.name = xml.attributes().value("name"_L1).toString().replace("\\n"_L1, "\n"_L1);
+    startApplication(xml, launcher);
     readRecord(xml, u"application", [&](QStringView name) {
-        if (readPlain(xml, launcher, name)) {
+        if (readPlain(xml, launcher, name) || readApplicationItem(xml, launcher, name, expand)) {
             return;
         }
-        if (name == "exe"_L1) {
-            readExe(xml, launcher, expand);
-        } else if (name == "exeargs"_L1) {
-            launcher.exeargs = splitAtWhiteSpace(xml.readElementText());
-        } else if (name == "runFromExeDir"_L1) {
-            launcher.runFromExeDir |= xml.readElementText().toInt() != 0;
-        } else if (name == "condition"_L1) {
+        if (name == "condition"_L1) {
             const QString action = xml.attributes().value("action"_L1).toString();
             page.conditions[xml.attributes().value("name"_L1).toString()][&launcher] = action;
             launcher.startsDisabled |= action == "enable"_L1;
         } else if (name == "displayoutput"_L1) {
             readDisplayOutput(xml, launcher);
-        } else if (name == "dependency"_L1) {
-            launcher.dependency += xml.readElementText();
         }
     });
 }

@@ -46,11 +46,6 @@ RunAppData::~RunAppData()
     process.disconnect(this);
 }
 
-QString RunAppData::title() const
-{
-    return QString(name).replace(u'\n', u' ');
-}
-
 const QString& RunAppData::CurrentExe() const
 {
     return page && page->isORVC ? cExe : cppExe;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "definitions/ApplicationRecord.h"
 #include "launchers/LauncherOutput.h"
 #include "launchers/WindowLock.h"
 #include "personality/Result.h"
@@ -17,7 +18,7 @@ class PageData;
 class QAction;
 
 /// A launcher: a button that runs a tool of the suite on the new project.
-class RunAppData : public QObject
+class RunAppData : public QObject, public ApplicationRecord
 {
     Q_OBJECT
 
@@ -32,8 +33,6 @@ public:
     bool isRunning() const { return process.state() != QProcess::NotRunning; }
     /// The same, or something runs that an earlier run left behind.
     bool isAlive() { return isRunning() || process.hasLeftovers(); }
-    /// The name in one line.
-    QString title() const;
     /// Stops the run and closes all output windows.
     void Terminate();
     /// Marks the button while the tool runs, and offers Stop in its context menu.
@@ -48,17 +47,12 @@ public:
     /// Stops this run only; what it still prints is not shown.
     void Stop();
 
-    QString name;
-    QString cExe;
-    QString cppExe;
     QString colour;
     QString image;
     QString aboveImage;
     QString belowImage;
     QString leftImage;
     QString rightImage;
-    QStringList exeargs;
-    bool runFromExeDir = false;
     int type = 0;
     int buttonwidth = 0;
     int columnspan = 1;
@@ -67,7 +61,6 @@ public:
     /// Show the wait cursor and lock the wizard while the program runs.
     bool busyCursor = false;
     QString description;
-    QStringList dependency;
     QPointer<QPushButton> button;
     bool startsDisabled = false;
     QString disabledReason;
