@@ -19,6 +19,14 @@ namespace {
 
 constexpr int shutDownWaitMs = 30000;
 
+// As many as the system follows.
+constexpr int mostLinks = 40;
+
+bool hasXmlArea(const QString& executable)
+{
+    return QFileInfo::exists(QFileInfo(QFileInfo(executable).absolutePath()).absolutePath() + u"/xml"_s);
+}
+
 // A bare name was found through PATH, so it says nothing about the folder.
 QString executablePath(const QString& argument)
 {
@@ -27,7 +35,32 @@ QString executablePath(const QString& argument)
 #else
     const bool isPath = argument.contains(u'/');
 #endif
-    return isPath ? argument : QCoreApplication::applicationFilePath();
+    QString path = isPath ? argument : QCoreApplication::applicationFilePath();
+    // A link in a folder of commands leads to the installation.
+    for (int links = 0; links < mostLinks && QFileInfo(path).isSymLink() && !hasXmlArea(path); ++links) {
+        path = QFileInfo(path).symLinkTarget();
+    }
+    return path;
+}
+
+// A value that somebody spoilt is as good as none.
+template <typename Value>
+Value storedOr(const QVariant& stored, const Value& otherwise)
+{
+    return stored.metaType() == QMetaType::fromType<Value>() ? stored.value<Value>() : otherwise;
+}
+
+// The definitions file, or whatever else another option names, must not become a trace.
+bool isPrecious(const QString& file, qsizetype option, const QStringList& arguments)
+{
+    const QString path = QFileInfo(file).canonicalFilePath();
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        if (i != option && !path.isEmpty() && QFileInfo(arguments[i]).canonicalFilePath() == path) {
+            return true;
+        }
+    }
+    QFile present(file);
+    return QFileInfo(file).isFile() && present.open(QIODevice::ReadOnly) && present.peek(1) == "<";
 }
 
 } // namespace
@@ -59,12 +92,15 @@ bool AppRegistry::Init(QCoreApplication* app, const QStringList& arguments, cons
         if (argument == "-file"_L1) {
             if (hasNext) {
                 definitionsFileName = arguments[i + 1];
+                definitionsFileGiven = true;
                 Trace(u"XML file set to: "_s, definitionsFileName);
             }
         } else if (argument == "-trace"_L1) {
             traceLog.turnOn();
         } else if (argument == "-tracefile"_L1) {
-            if (hasNext) {
+            if (hasNext && isPrecious(arguments[i + 1], i + 1, arguments)) {
+                qWarning().noquote() << tr("-tracefile: %1 is no trace and is not overwritten").arg(arguments[i + 1]);
+            } else if (hasNext) {
                 traceLog.openFile(arguments[i + 1]);
             }
         } else if (argument == "-help"_L1) {
@@ -83,6 +119,7 @@ bool AppRegistry::Init(QCoreApplication* app, const QStringList& arguments, cons
 void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int width, int height)
 {
     Translations::installQtTexts(*app);
+    TemporaryFiles::removeStale();
     installValues.ReadFile(wendleToolsFileName);
     if (!arguments.isEmpty()) {
         exePath = executablePath(arguments.first());
@@ -106,8 +143,12 @@ void AppRegistry::InitWindowSettings(const QString& name, int defaultWidth, int 
         return;
     }
     settings->beginGroup("Window"_L1);
-    windowPos = settings->value("pos"_L1, QPoint(150, 85)).toPoint();
-    windowSize = settings->value("size"_L1, QSize(defaultWidth, defaultHeight)).toSize();
+    const QSize defaultSize(defaultWidth, defaultHeight);
+    windowPos = storedOr(settings->value("pos"_L1), QPoint(150, 85));
+    windowSize = storedOr(settings->value("size"_L1), defaultSize);
+    if (windowSize.isEmpty()) {
+        windowSize = defaultSize;
+    }
     settings->endGroup();
     Q_EMIT ReadRegistryValues(settings.get());
 }

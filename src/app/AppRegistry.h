@@ -79,6 +79,8 @@ public:
     TraceLog traceLog;
     QString wendleToolsFileName = QStringLiteral("wendleTools.xml");
     QString definitionsFileName = QStringLiteral("settings.xml");
+    /// -file named it.
+    bool definitionsFileGiven = false;
 
 Q_SIGNALS:
     void ReadRegistryValues(QSettings* settings);

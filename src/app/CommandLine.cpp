@@ -21,6 +21,19 @@ bool CommandLine::endsProgram(const QStringList& arguments)
     return options.contains("-ver"_L1) || options.contains("-help"_L1);
 }
 
+void CommandLine::presetAnalyser(bool isC, WizardState& state)
+{
+    state.cAvailable = isC;
+    state.cppAvailable = !isC;
+}
+
+void CommandLine::presetProject(const QString& projectFile, WizardState& state)
+{
+    const QFileInfo file(projectFile);
+    state.fileDir = QDir::toNativeSeparators(file.absolutePath());
+    state.fileName = file.baseName();
+}
+
 void CommandLine::preset(const QStringList& arguments, WizardState& state)
 {
     const auto& kinds = configurationKinds();
@@ -28,8 +41,7 @@ void CommandLine::preset(const QStringList& arguments, WizardState& state)
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString& option = arguments[i];
         if (option == "-c"_L1 || option == "-cpp"_L1) {
-            state.cAvailable = option == "-c"_L1;
-            state.cppAvailable = !state.cAvailable;
+            presetAnalyser(option == "-c"_L1, state);
         }
         if (i + 1 == arguments.size()) {
             break;
@@ -42,9 +54,7 @@ void CommandLine::preset(const QStringList& arguments, WizardState& state)
             }
         }
         if (option == "-prj"_L1) {
-            const QFileInfo file(value);
-            state.fileDir = QDir::toNativeSeparators(file.absolutePath());
-            state.fileName = file.baseName();
+            presetProject(value, state);
         }
     }
     state.personalitiesGiven = std::ranges::all_of(given, [](bool isGiven) { return isGiven; });

@@ -14,4 +14,8 @@ bool endsProgram(const QStringList& arguments);
 /// Applies -c, -cpp, -prj, -mp, -ap and -cp to the state. Every entry is examined, also one that is a value.
 void preset(const QStringList& arguments, WizardState& state);
 
+/// What -c and -cpp, and -prj, do to it.
+void presetAnalyser(bool isC, WizardState& state);
+void presetProject(const QString& projectFile, WizardState& state);
+
 } // namespace CommandLine

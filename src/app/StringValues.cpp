@@ -2,6 +2,7 @@
 #include "app/StringValues.h"
 #include "app/AppRegistry.h"
 #include "definitions/PathHelpers.h"
+#include "definitions/XmlBounds.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -36,6 +37,9 @@ void StringValues::readDocument(const QByteArray& document)
         {u"zipFileExts"_s, &StringValues::zipFileExts},
         {u"tarFileExts"_s, &StringValues::tarFileExts},
     };
+    if (!XmlBounds::check(document).reason.isEmpty()) {
+        return;
+    }
     QXmlStreamReader xml(document);
     while (!xml.atEnd() && !xml.hasError()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) {

@@ -4,11 +4,15 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
+class QTemporaryFile;
+
 /// The temporary files of this run: made empty, known by name, removed together.
 class TemporaryFiles
 {
 public:
-    TemporaryFiles() = default;
+    TemporaryFiles();
     ~TemporaryFiles();
     TemporaryFiles(const TemporaryFiles&) = delete;
     TemporaryFiles& operator=(const TemporaryFiles&) = delete;
@@ -17,7 +21,13 @@ public:
     QString create(const QString& suffix);
     const QStringList& names() const { return fileNames; }
     void removeAll();
+    /// Removes what runs have left that were killed; what a living run has stays.
+    static void removeStale();
 
 private:
+    void enlist(const QString& name);
+
     QStringList fileNames;
+    /// Names the files for a later run; locked as long as this one lives.
+    std::unique_ptr<QTemporaryFile> list;
 };

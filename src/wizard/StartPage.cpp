@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/StartPage.h"
 #include "app/AppRegistry.h"
+#include "app/StartupWarnings.h"
 #include "dialogs/MessageBox.h"
 #include "project/ProjectTarget.h"
 #include "wizard/ApplicationWindow.h"
@@ -22,6 +23,7 @@ StartPage::StartPage(ApplicationWindow* owner)
     , typeCombo(new QComboBox)
     , errorLabel(new QLabel)
     , hint(new QLabel)
+    , warnings(new QLabel)
 {
     setTitle(tr("Project Information"));
     setSubTitle(tr("Specify new project name and conversion project type"));
@@ -45,6 +47,12 @@ StartPage::StartPage(ApplicationWindow* owner)
     grid->addWidget(typeCombo, 2, 1, 1, 5);
     grid->addWidget(errorLabel, 3, 0, 1, 6);
     grid->addWidget(hint, 4, 0, 1, 6);
+    grid->addWidget(warnings, 5, 0, 1, 6);
+    warnings->setTextFormat(Qt::PlainText);
+    warnings->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    warnings->setWordWrap(true);
+    warnings->setText(StartupWarnings::all(*appRegistry).join(u'\n'));
+    warnings->setVisible(!warnings->text().isEmpty());
     hint->setWordWrap(true);
 
     const QString message =

@@ -33,4 +33,6 @@ private:
     QLabel* errorLabel;
     /// Says what Next is waiting for.
     QLabel* hint;
+    /// What went wrong while everything was loaded.
+    QLabel* warnings;
 };
