@@ -57,7 +57,7 @@ _ProjectCreation()
     fi
     case $previous in
     -prj) _kovra_offer_files "$current" '*.prj' ;;
-    -file) _kovra_offer_files "$current" '*.xml' ;;
+    -file | -check) _kovra_offer_files "$current" '*.xml' ;;
     -mp) _kovra_offer_files "$current" '*.p_s' ;;
     -ap) _kovra_offer_files "$current" '*.p_a' ;;
     -cp) _kovra_offer_files "$current" '*.p_c' ;;
@@ -70,9 +70,10 @@ _ProjectCreation()
     *)
         local options='-c -cpp -prj -mp -ap -cp -file -trace -tracefile'
         if [[ " ${COMP_WORDS[*]} " == *' -batch '* ]]; then
-            options+=' -type -input -overwrite -list-types -list-inputs --json'
+            options+=' -type -input -module -overwrite -dry-run -timeout -quiet -list-types -list-inputs -check -run --json
+                -help'
         else
-            options+=' -batch -ver -help'
+            options+=' -batch -ver -help --version --help'
         fi
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
         ;;

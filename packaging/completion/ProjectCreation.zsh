@@ -25,8 +25,15 @@ _arguments \
     '-type[conversion type]:type:_kovra_types' \
     '*-input[value of an input]:name=value: ' \
     '-overwrite[replace an existing project file]' \
+    '-module[compliance module]:name: ' \
+    '-dry-run[print the program and its arguments only]' \
+    '-timeout[stop the conversion after that time]:seconds: ' \
+    '-quiet[say nothing unless something fails]' \
+    '-check[look for mistakes in a definitions file]:definitions file:_files -g "*.xml"' \
+    '-run[run a tool on the project]:launcher: ' \
     '-list-types[list the conversion types]' \
     '-list-inputs[list the inputs of a conversion type]:type:_kovra_types' \
-    '--json[print a list as JSON]' \
+    '--json[print a list or the result as JSON]' \
     '(- *)-ver[print the version]' \
-    '(- *)-help[print the options]'
+    '(- *)'{-help,--help,-h}'[print the options]' \
+    '(- *)--version[print the version]'

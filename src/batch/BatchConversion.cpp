@@ -3,9 +3,11 @@
 #include "app/AppRegistry.h"
 #include "app/CommandLine.h"
 #include "batch/BatchInputs.h"
-#include "batch/BatchListing.h"
+#include "batch/BatchMode.h"
+#include "batch/BatchOutput.h"
 #include "definitions/ConfigurationKind.h"
 #include "personality/FileScans.h"
+#include "personality/ProductNames.h"
 #include "process/ArgumentSubstitution.h"
 #include "process/StopSignals.h"
 #include "project/ProjectTarget.h"
@@ -14,120 +16,104 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTimer>
 
-#include <cstdio>
+#include <algorithm>
+#include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void print(std::FILE* channel, const QString& text)
-{
-    const QByteArray bytes = text.toLocal8Bit();
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), channel);
-    std::fflush(channel);
-}
-
-void complain(const QString& text)
-{
-    print(stderr, u"ProjectCreation: "_s + text + u'\n');
-}
+// Enough for the reason of a failure.
+constexpr qsizetype keptOutput = 64LL * 1024;
 
 } // namespace
 
-BatchConversion::BatchConversion()
-    : run(&appRegistry->childProcesses)
+BatchConversion::BatchConversion(BatchArguments given)
+    : batch(std::move(given))
+    , run(&appRegistry->childProcesses)
 {
     connect(&run, &ConversionRun::commandStarted, this, [](const QString& command) { appRegistry->Trace(command); });
 }
 
-int BatchConversion::execute(const QStringList& arguments)
+int BatchConversion::execute()
 {
-    const BatchArguments batch = BatchArguments::parse(arguments);
-    if (!batch.error.isEmpty()) {
-        complain(batch.error);
-        return WrongArguments;
+    if (const Result<void> prepared = prepare(); !prepared.ok()) {
+        BatchOutput::complain(prepared.problem);
+        return BatchMode::WrongArguments;
     }
-    if (batch.task == BatchArguments::Task::Usage) {
-        print(stderr, BatchArguments::usage());
-        return WrongArguments;
+    arguments = conversionArguments(state);
+    const QStringList doubtful = placeholdersInValues(state);
+    for (const QString& sentence : doubtful) {
+        BatchOutput::complain(sentence);
     }
-    if (!appRegistry->definitions.hasConversionTypes()) {
-        complain(
-            tr("no conversion types: the definitions file %1 is missing or not of the correct format; -trace tells "
-               "more")
-                .arg(appRegistry->DefinitionsFileName()));
-        return WrongArguments;
+    if (batch.dryRun) {
+        return dryRun();
     }
-    if (batch.task != BatchArguments::Task::Convert) {
-        return list(batch);
+    if (const Result<void> place = checkPlace(); !place.ok()) {
+        BatchOutput::complain(place.problem);
+        return BatchMode::Failed;
     }
-    const Result<void> prepared = prepare(batch, arguments);
-    if (!prepared.ok()) {
-        complain(prepared.problem);
-        return WrongArguments;
-    }
-    return convert(batch);
+    return convert();
 }
 
-int BatchConversion::list(const BatchArguments& batch) const
+Result<void> BatchConversion::prepare()
 {
-    if (batch.task == BatchArguments::Task::ListTypes) {
-        print(stdout, BatchListing::types(appRegistry->definitions.projectCreators, batch.json));
-        return Created;
-    }
-    for (const auto& creator : appRegistry->definitions.projectCreators) {
-        if (creator->name == batch.type) {
-            print(stdout, BatchListing::inputs(*creator, batch.json));
-            return Created;
+    using Step = Result<void> (BatchConversion::*)();
+    for (const Step step : {&BatchConversion::chooseType, &BatchConversion::chooseAnalyser}) {
+        if (Result<void> result = (this->*step)(); !result.ok()) {
+            return result;
         }
     }
-    complain(tr("there is no conversion type \"%1\"; -batch -list-types lists them").arg(batch.type));
-    return WrongArguments;
+    if (Result<void> result = checkName(); !result.ok()) {
+        return result;
+    }
+    for (const Step step :
+         {&BatchConversion::fillInputs, &BatchConversion::applyModule, &BatchConversion::checkPersonalities}) {
+        if (Result<void> result = (this->*step)(); !result.ok()) {
+            return result;
+        }
+    }
+    return checkOverwriting();
 }
 
-Result<void> BatchConversion::prepare(const BatchArguments& batch, const QStringList& arguments)
-{
-    Result<void> result = chooseType(batch.type);
-    if (result.ok()) {
-        result = chooseAnalyser(arguments);
-    }
-    if (result.ok()) {
-        result = checkName(batch.projectFile);
-    }
-    if (result.ok()) {
-        result = fillInputs(batch);
-    }
-    return result.ok() ? checkPersonalities() : result;
-}
-
-Result<void> BatchConversion::chooseType(const QString& type)
+Result<void> BatchConversion::chooseType()
 {
     for (const auto& creator : appRegistry->definitions.projectCreators) {
-        if (creator->name == type) {
+        if (creator->name == batch.type) {
             state.projectCreator = creator.get();
-            state.conversion = type;
+            state.conversion = batch.type;
             return {};
         }
     }
-    return {tr("-type: there is no conversion type \"%1\"; -batch -list-types lists them").arg(type)};
+    return {tr("-type: there is no conversion type \"%1\"; -batch -list-types lists them").arg(batch.type)};
 }
 
-Result<void> BatchConversion::chooseAnalyser(const QStringList& arguments)
+Result<void> BatchConversion::chooseAnalyser()
 {
-    const qsizetype c = arguments.lastIndexOf(u"-c"_s);
-    const qsizetype cpp = arguments.lastIndexOf(u"-cpp"_s);
+    using enum BatchArguments::Analyser;
     state.cAvailable = QFile::exists(appRegistry->cInstallDir);
     state.cppAvailable = QFile::exists(appRegistry->cppInstallDir);
-    CommandLine::preset(arguments, state);
+    const bool asksForC = batch.analyser == C;
+    if (batch.analyser != Open) {
+        CommandLine::presetAnalyser(asksForC, state);
+    }
+    CommandLine::presetProject(batch.projectFile, state);
+    for (auto file = batch.configurations.cbegin(); file != batch.configurations.cend(); ++file) {
+        state.configuration(file.key()) = file.value();
+    }
     state.decideAnalyser(appRegistry->cInstallDir, appRegistry->cppInstallDir);
     if (state.noAnalyserInstalled) {
-        complain(tr("warning: there are no KOVRA Analysers installed on this machine"));
+        BatchOutput::warn(tr("there are no KOVRA Analysers installed on this machine"));
     }
     const bool servesOne = state.projectCreator->orvcProject != state.projectCreator->orvcppProject;
-    const bool asksForC = c > cpp;
     const bool isServed = !servesOne || state.projectCreator->orvcProject == asksForC;
-    if (c != cpp && (asksForC != state.isORVC || !isServed)) {
+    if (batch.analyser != Open && (asksForC != state.isORVC || !isServed)) {
         return {tr("%1: this conversion type or installation allows only the other analyser")
                     .arg(asksForC ? u"-c"_s : u"-cpp"_s)};
     }
@@ -138,19 +124,19 @@ Result<void> BatchConversion::chooseAnalyser(const QStringList& arguments)
 }
 
 // A name holds no further dot and ends in .prj, as one made of the wizard's first page does.
-Result<void> BatchConversion::checkName(const QString& projectFile) const
+Result<void> BatchConversion::checkName() const
 {
-    const QString asked = QDir::cleanPath(QFileInfo(projectFile).absoluteFilePath());
+    const QString asked = QDir::cleanPath(QFileInfo(batch.projectFile).absoluteFilePath());
     if (!state.fileName.isEmpty() && QDir::fromNativeSeparators(state.ProjectFile()) == asked) {
         return {};
     }
-    return {tr("-prj: %1 can not be the project file; it would become %2").arg(projectFile, state.ProjectFile())};
+    return {tr("-prj: %1 can not be the project file; it would become %2").arg(batch.projectFile, state.ProjectFile())};
 }
 
-Result<void> BatchConversion::fillInputs(const BatchArguments& batch)
+Result<void> BatchConversion::fillInputs()
 {
     BatchInputs inputs(state.projectCreator->inputData, state.isORVC);
-    for (const QString& input : batch.inputs) {
+    for (const QString& input : std::as_const(batch.inputs)) {
         const Result<void> taken = inputs.set(input);
         if (!taken.ok()) {
             return {u"-input: "_s + taken.problem};
@@ -166,6 +152,37 @@ Result<void> BatchConversion::fillInputs(const BatchArguments& batch)
         InputValues::remember(*input, source);
     }
     return {};
+}
+
+// As on the configuration page: a module decides the files that it has.
+Result<void> BatchConversion::applyModule()
+{
+    if (batch.module.isEmpty()) {
+        return {};
+    }
+    QStringList names;
+    for (const auto& module : appRegistry->definitions.complianceModules) {
+        if (module->isC != state.isORVC || !QFile::exists(module->location)) {
+            continue;
+        }
+        names += module->name;
+        if (module->name != batch.module) {
+            continue;
+        }
+        for (const ConfigurationFacts& kind : configurationKinds()) {
+            const QString& file = (*module).*kind.moduleFile;
+            if (file.isEmpty() || !(state.projectCreator->*kind.asked)) {
+                continue;
+            }
+            if (batch.configurations.contains(kind.kind)) {
+                return {tr("%1 does not go with -module: \"%2\" has that file").arg(kind.option, module->name)};
+            }
+            state.configuration(kind.kind) = QDir::toNativeSeparators(file);
+        }
+        return {};
+    }
+    return {tr("-module: there is no compliance module \"%1\" for this analyser; installed are: %2")
+                .arg(batch.module, names.join(u", "_s))};
 }
 
 Result<void> BatchConversion::checkPersonalities()
@@ -186,43 +203,139 @@ Result<void> BatchConversion::checkPersonalities()
     return {};
 }
 
-int BatchConversion::convert(const BatchArguments& batch)
+Result<void> BatchConversion::checkOverwriting() const
 {
     const QString project = state.ProjectFile();
-    if (QFile::exists(project) && !batch.overwrite) {
-        complain(tr("-prj: %1 already exists; -overwrite replaces it").arg(project));
-        return WrongArguments;
+    const QFileInfo info(project);
+    if (batch.overwrite || (!info.exists() && !info.isSymLink())) {
+        return {};
     }
+    return {info.exists() ? tr("-prj: %1 already exists; -overwrite replaces it").arg(project)
+                          : tr("-prj: %1 is a link to %2, which does not exist; -overwrite replaces it")
+                                .arg(project, info.symLinkTarget())};
+}
+
+Result<void> BatchConversion::checkPlace() const
+{
     if (!QDir(state.fileDir).exists() && !ProjectTarget::createFolder(state.fileDir)) {
-        complain(tr("-prj: the folder %1 can not be created").arg(state.fileDir));
-        return ConversionFailed;
+        return {tr("-prj: the folder %1 can not be created").arg(state.fileDir)};
     }
-    if (!ProjectTarget::isWritable(project)) {
-        complain(tr("-prj: can not create file %1").arg(project));
-        return ConversionFailed;
+    if (!ProjectTarget::isWritable(state.ProjectFile())) {
+        return {tr("-prj: can not create file %1").arg(state.ProjectFile())};
     }
-    run.child().setProcessChannelMode(QProcess::ForwardedChannels);
+    return {};
+}
+
+int BatchConversion::dryRun() const
+{
+    if (batch.json) {
+        printJson(u"dryRun"_s, BatchMode::Good);
+        return BatchMode::Good;
+    }
+    BatchOutput::print(state.projectCreator->exe + u'\n');
+    for (const QString& argument : arguments) {
+        BatchOutput::print(u"  "_s + argument + u'\n');
+    }
+    return BatchMode::Good;
+}
+
+int BatchConversion::convert()
+{
+    if (batch.json || batch.quiet) {
+        connect(&run, &ConversionRun::outputReady, this,
+                batch.quiet ? &BatchConversion::keepOutput : &BatchConversion::forwardOutput);
+    } else {
+        run.child().setProcessChannelMode(QProcess::ForwardedChannels);
+    }
     StopSignals signals;
     connect(&signals, &StopSignals::received, &run, &ConversionRun::stop);
     // The end may come before there is an event loop to leave.
     connect(
         &run, &ConversionRun::ended, this, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
-    if (run.start(state.projectCreator->exe, conversionArguments(state), project)) {
+    clock.start();
+    if (run.start(state.projectCreator->exe, arguments, state.ProjectFile())) {
+        if (batch.timeoutSeconds > 0) {
+            QTimer::singleShot(std::chrono::seconds(batch.timeoutSeconds), this, [this] {
+                timedOut = run.isRunning();
+                run.stop();
+            });
+        }
         QCoreApplication::exec();
     }
-    return report(run.outcome());
+    return report();
 }
 
-int BatchConversion::report(ConversionRun::Outcome outcome) const
+// Standard output is for the result alone.
+void BatchConversion::forwardOutput()
 {
+    BatchOutput::printError(run.takeOutput());
+}
+
+void BatchConversion::keepOutput()
+{
+    lastOutput += run.takeOutput();
+    lastOutput = lastOutput.last(std::min(keptOutput, lastOutput.size()));
+}
+
+int BatchConversion::report()
+{
+    const ConversionRun::Outcome outcome = run.outcome();
+    const bool isGood = outcome == ConversionRun::Outcome::Created && run.exitCode() == 0;
+    const int status = isGood ? BatchMode::Good : BatchMode::Failed;
+    if (!isGood) {
+        BatchOutput::printError(lastOutput);
+    }
+    if (timedOut) {
+        BatchOutput::complain(
+            tr("-timeout: the conversion took longer than %n second(s)", nullptr, batch.timeoutSeconds));
+    }
     if (!run.detail().isEmpty()) {
-        complain(run.detail());
+        BatchOutput::complain(run.detail());
     }
-    const QString text = ConversionRun::endText(outcome, state.ProjectFile());
-    if (outcome != ConversionRun::Outcome::Created) {
-        complain(text);
-        return ConversionFailed;
+    if (!run.warning().isEmpty()) {
+        BatchOutput::complain(tr("%1 was left by a conversion that failed").arg(state.ProjectFile()));
+    } else if (!isGood) {
+        BatchOutput::complain(ConversionRun::endText(outcome, state.ProjectFile()));
+    } else if (!batch.json && !batch.quiet) {
+        BatchOutput::print(ConversionRun::endText(outcome, state.ProjectFile()) + u'\n');
     }
-    print(stdout, text + u'\n');
-    return Created;
+    if (batch.json) {
+        printJson(outcomeName(), status);
+    }
+    return status;
+}
+
+QString BatchConversion::outcomeName() const
+{
+    switch (run.outcome()) {
+    case ConversionRun::Outcome::Created:
+        return run.exitCode() == 0 ? u"created"_s : u"createdButFailed"_s;
+    case ConversionRun::Outcome::NotCreated:
+        return u"notCreated"_s;
+    case ConversionRun::Outcome::NotStarted:
+        return u"notStarted"_s;
+    case ConversionRun::Outcome::Failed:
+        return u"crashed"_s;
+    case ConversionRun::Outcome::Stopped:
+        break;
+    }
+    return timedOut ? u"timedOut"_s : u"stopped"_s;
+}
+
+void BatchConversion::printJson(const QString& outcome, int status) const
+{
+    constexpr double msPerSecond = 1000.0;
+    const QJsonObject object{
+        {u"project"_s, state.ProjectFile()},
+        {u"type"_s, batch.type},
+        {u"analyser"_s, ProductNames::of(state.isORVC).shortName},
+        {u"program"_s, state.projectCreator->exe},
+        {u"arguments"_s, QJsonArray::fromStringList(arguments)},
+        {u"outcome"_s, outcome},
+        {u"exitCode"_s, run.exitCode() < 0 ? QJsonValue() : QJsonValue(run.exitCode())},
+        {u"duration"_s, clock.isValid() ? QJsonValue(double(clock.elapsed()) / msPerSecond) : QJsonValue()},
+        {u"status"_s, status},
+        {u"detail"_s, run.detail()},
+    };
+    BatchOutput::print(QString::fromUtf8(QJsonDocument(object).toJson()));
 }

@@ -6,7 +6,9 @@
 #include "process/ConversionRun.h"
 #include "process/WizardState.h"
 
+#include <QElapsedTimer>
 #include <QObject>
+#include <QString>
 
 /// A conversion without a window: the same checks and the same engine as the wizard's pages. What the conversion
 /// program prints goes straight to our own channels, our errors to standard error.
@@ -15,24 +17,36 @@ class BatchConversion : public QObject
     Q_OBJECT
 
 public:
-    BatchConversion();
+    explicit BatchConversion(BatchArguments arguments);
 
-    enum ExitStatus { Created = 0, ConversionFailed = 1, WrongArguments = 2 };
-
-    /// Does what the command line says, under an event loop of the application's; gives the exit status.
-    int execute(const QStringList& arguments);
+    /// Gives the exit status.
+    int execute();
 
 private:
-    int list(const BatchArguments& batch) const;
-    Result<void> prepare(const BatchArguments& batch, const QStringList& arguments);
-    Result<void> chooseType(const QString& type);
-    Result<void> chooseAnalyser(const QStringList& arguments);
-    Result<void> checkName(const QString& projectFile) const;
-    Result<void> fillInputs(const BatchArguments& batch);
+    Result<void> prepare();
+    Result<void> chooseType();
+    Result<void> chooseAnalyser();
+    Result<void> checkName() const;
+    Result<void> fillInputs();
+    Result<void> applyModule();
     Result<void> checkPersonalities();
-    int convert(const BatchArguments& batch);
-    int report(ConversionRun::Outcome outcome) const;
+    /// Problems of the project file's place end with another status than wrong arguments.
+    Result<void> checkOverwriting() const;
+    Result<void> checkPlace() const;
+    int dryRun() const;
+    int convert();
+    void forwardOutput();
+    void keepOutput();
+    int report();
+    void printJson(const QString& outcome, int status) const;
+    QString outcomeName() const;
 
+    BatchArguments batch;
     WizardState state;
     ConversionRun run;
+    QStringList arguments;
+    QElapsedTimer clock;
+    /// The end of what the program printed, for a quiet run that fails.
+    QString lastOutput;
+    bool timedOut = false;
 };

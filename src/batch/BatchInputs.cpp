@@ -74,10 +74,11 @@ QList<BatchInputs::Field*> BatchInputs::named(const QString& name)
 
 Result<void> BatchInputs::set(const QString& input)
 {
+    // A name may hold a "=" itself; the longest one that is known is meant.
     QList<Field*> found;
-    qsizetype separator = -1;
+    qsizetype separator = input.size();
     do {
-        separator = input.indexOf(u'=', separator + 1);
+        separator = separator < 1 ? -1 : input.lastIndexOf(u'=', separator - 1);
         found = separator < 0 ? QList<Field*>() : named(input.first(separator));
     } while (separator >= 0 && found.isEmpty());
     if (found.isEmpty()) {

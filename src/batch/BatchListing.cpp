@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "batch/BatchListing.h"
+#include "definitions/ConfigurationKind.h"
 #include "definitions/DefinitionRecords.h"
 
 #include <QCoreApplication>
@@ -48,6 +49,11 @@ QStringList analysers(const ProjectCreatorData& creator)
     return names;
 }
 
+bool isPath(const ArgumentDefinition& definition)
+{
+    return definition.inputType == InputType::File || definition.inputType == InputType::Dir;
+}
+
 QJsonArray toJson(const ArgumentDefinitions& definitions)
 {
     QJsonArray array;
@@ -58,7 +64,11 @@ QJsonArray toJson(const ArgumentDefinitions& definitions)
                            {u"mustExist"_s, definition->fileMustExist},
                            {u"default"_s, QJsonObject{{u"ORVC"_s, definition->cDefaultValue},
                                                       {u"ORVCPP"_s, definition->cppDefaultValue}}},
+                           {u"placeholder"_s, definition->argument},
                            {u"help"_s, definition->hoverHelp}};
+        if (isPath(*definition)) {
+            object.insert(u"filter"_s, definition->extension);
+        }
         if (definition->cOnly || definition->cppOnly) {
             object.insert(u"only"_s, definition->cOnly ? u"ORVC"_s : u"ORVCPP"_s);
         }
@@ -73,6 +83,12 @@ QJsonArray toJson(const ArgumentDefinitions& definitions)
 QString oneLine(const ArgumentDefinition& definition)
 {
     QStringList facts{kind(definition.inputType)};
+    if (isPath(definition) && !definition.extension.isEmpty()) {
+        facts += definition.extension;
+    }
+    if (!definition.argument.isEmpty()) {
+        facts += definition.argument;
+    }
     if (definition.mustBeSet) {
         facts += definition.fileMustExist ? Text::tr("must exist") : Text::tr("must be set");
     }
@@ -105,6 +121,46 @@ QString asText(const ArgumentDefinitions& definitions, const QString& indent)
     return text;
 }
 
+QString configurationName(ConfigurationKind configuration)
+{
+    switch (configuration) {
+    case ConfigurationKind::Message:
+        return Text::tr("message personality");
+    case ConfigurationKind::Analyser:
+        return Text::tr("analyser personality");
+    case ConfigurationKind::Compiler:
+        break;
+    }
+    return Text::tr("compiler personality");
+}
+
+// The options for the configuration files that a type asks for, listed behind its inputs.
+QJsonArray configurationsToJson(const ProjectCreatorData& creator)
+{
+    QJsonArray array;
+    for (const ConfigurationFacts& facts : configurationKinds()) {
+        if (creator.*facts.asked) {
+            array.append(QJsonObject{{u"name"_s, QString(facts.option)},
+                                     {u"kind"_s, u"OPTION"_s},
+                                     {u"filter"_s, QString(facts.pattern)},
+                                     {u"default"_s, QJsonObject{{u"ORVC"_s, presetOf(creator, facts, true)},
+                                                                {u"ORVCPP"_s, presetOf(creator, facts, false)}}}});
+        }
+    }
+    return array;
+}
+
+QString configurationsAsText(const ProjectCreatorData& creator)
+{
+    QString text;
+    for (const ConfigurationFacts& facts : configurationKinds()) {
+        if (creator.*facts.asked) {
+            text += u"%1 <file>: %2, %3\n"_s.arg(facts.option, configurationName(facts.kind), facts.pattern);
+        }
+    }
+    return text;
+}
+
 QString print(const QJsonArray& array)
 {
     return QString::fromUtf8(QJsonDocument(array).toJson());
@@ -127,5 +183,13 @@ QString BatchListing::types(const std::vector<std::unique_ptr<ProjectCreatorData
 
 QString BatchListing::inputs(const ProjectCreatorData& creator, bool json)
 {
-    return json ? print(toJson(creator.inputData)) : asText(creator.inputData, {});
+    if (!json) {
+        return asText(creator.inputData, {}) + configurationsAsText(creator);
+    }
+    QJsonArray array = toJson(creator.inputData);
+    const QJsonArray configurations = configurationsToJson(creator);
+    for (const QJsonValue& configuration : configurations) {
+        array.append(configuration);
+    }
+    return print(array);
 }

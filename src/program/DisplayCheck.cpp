@@ -45,7 +45,8 @@ void holdBack(QtMsgType type, const QMessageLogContext&, const QString& text)
     const QString display = qEnvironmentVariable("DISPLAY");
     const QString line =
         translated(QT_TRANSLATE_NOOP("DisplayCheck", "no display to open a window on (%1; DISPLAY is %2). Start it in "
-                                                     "a desktop session."))
+                                                     "a desktop session, or convert without a window: -batch -help "
+                                                     "tells how."))
             .arg(reason.simplified(),
                  display.isEmpty() ? translated(QT_TRANSLATE_NOOP("DisplayCheck", "not set")) : display);
     std::fprintf(stderr, "ProjectCreation: %s\n", qUtf8Printable(line));

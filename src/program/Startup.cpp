@@ -3,11 +3,14 @@
 #include "app/AppRegistry.h"
 #include "app/CommandLine.h"
 #include "app/Translations.h"
-#include "batch/BatchConversion.h"
+#include "batch/BatchArguments.h"
+#include "batch/BatchMode.h"
 #include "launchers/PageReader.h"
+#include "process/Guardian.h"
 #include "process/StopSignals.h"
 #include "process/StrayProcesses.h"
 #include "program/DisplayCheck.h"
+#include "program/StandardChannels.h"
 #include "wizard/ApplicationWindow.h"
 
 #include <QApplication>
@@ -40,10 +43,11 @@ QString usage()
                                                   "-cp <file>: Compiler Personality\n");
 }
 
-bool initialise(AppRegistry& registry, QCoreApplication& application)
+// Without a page reader the launchers are read without their buttons.
+bool initialise(AppRegistry& registry, QCoreApplication& application, const PageReader& readPage)
 {
     appRegistry = &registry;
-    registry.readPage = readLauncherPage;
+    registry.readPage = readPage;
     return registry.Init(&application, QCoreApplication::arguments(), title(), defaultWidth, defaultHeight, usage());
 }
 
@@ -62,27 +66,57 @@ int runWithoutWindow(int argc, char** argv)
     QCoreApplication application(argc, argv);
     Translations::install(Translations::userLocale());
     AppRegistry registry;
-    if (!initialise(registry, application)) {
+    if (!initialise(registry, application, {})) {
         return 0;
     }
-    const int status = BatchConversion().execute(QCoreApplication::arguments());
+    const int status = BatchMode::execute(QCoreApplication::arguments());
     registry.ShutDown();
     return status;
 }
 
-} // namespace
+enum class Question { None, Version, Help, BatchHelp };
 
-int Startup::run(int argc, char** argv)
+// What everybody tries first; the program's own -ver and -help answer on the warning channel.
+Question question(const QStringList& arguments)
 {
-    StrayProcesses::adopt();
-    const QStringList arguments = toTexts(argc, argv);
-    if (CommandLine::endsProgram(arguments) || BatchArguments::isBatch(arguments)) {
-        return runWithoutWindow(argc, argv);
+    const QStringList options = arguments.mid(1);
+    if (options.contains("--version"_L1)) {
+        return Question::Version;
     }
+    const bool wantsHelp = options.contains("--help"_L1) || options.contains("-h"_L1);
+    if (BatchArguments::isBatch(arguments)) {
+        return wantsHelp || options.contains("-help"_L1) ? Question::BatchHelp : Question::None;
+    }
+    return wantsHelp ? Question::Help : Question::None;
+}
+
+int answer(Question asked, int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    Translations::install(Translations::userLocale());
+    if (asked == Question::BatchHelp) {
+        return BatchMode::help();
+    }
+    const QString text = asked == Question::Version
+                             ? title() + u" 1 (build 1)\n"_s
+                             : usage() + QCoreApplication::translate("Startup", "Without a window: ProjectCreation "
+                                                                                "-batch -help tells how.\n");
+    return BatchMode::print(text);
+}
+
+// Forked before there are threads, and before the system is asked for strays: it is none.
+void watchOverChildren()
+{
+    Guardian::start();
+    StrayProcesses::adopt();
+}
+
+int runWithWindow(int argc, char** argv)
+{
     const std::unique_ptr<QApplication> application = DisplayCheck::createApplication(argc, argv);
     Translations::install(Translations::userLocale());
     AppRegistry registry;
-    if (!initialise(registry, *application)) {
+    if (!initialise(registry, *application, readLauncherPage)) {
         return 0;
     }
     ApplicationWindow window(title(), u"projectCreation.htm"_s, QCoreApplication::arguments());
@@ -94,4 +128,22 @@ int Startup::run(int argc, char** argv)
         QCoreApplication::exit(0);
     });
     return QApplication::exec();
+}
+
+} // namespace
+
+int Startup::run(int argc, char** argv)
+{
+    StandardChannels::reserve();
+    const QStringList arguments = toTexts(argc, argv);
+    if (const Question asked = question(arguments); asked != Question::None) {
+        return answer(asked, argc, argv);
+    }
+    if (CommandLine::endsProgram(arguments)) {
+        return runWithoutWindow(argc, argv);
+    }
+    watchOverChildren();
+    const int status = BatchArguments::isBatch(arguments) ? runWithoutWindow(argc, argv) : runWithWindow(argc, argv);
+    Guardian::dismiss();
+    return status;
 }

@@ -81,6 +81,10 @@
         <source>-file &lt;file.xml&gt;: use &lt;file.xml&gt; instead of settings.xml</source>
         <translation>-file &lt;file.xml&gt;: use &lt;file.xml&gt; instead of settings.xml</translation>
     </message>
+    <message>
+        <source>-tracefile: %1 is no trace and is not overwritten</source>
+        <translation>-tracefile: %1 ist keine Ablaufverfolgung und wird nicht überschrieben</translation>
+    </message>
 </context>
 <context>
     <name>ApplicationWindow</name>
@@ -109,6 +113,13 @@ Möchten Sie den Assistenten schließen?</translation>
     <message>
         <source>The output could not be kept.</source>
         <translation>Die Ausgabe konnte nicht aufbewahrt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ArgumentSubstitution</name>
+    <message>
+        <source>Warning: &quot;%1&quot; holds %2, which this conversion type replaces: the conversion program gets another text. Choose a name without it.</source>
+        <translation>Warnung: „%1“ enthält %2, was diese Konvertierungsart ersetzt: Das Konvertierungsprogramm bekommt einen anderen Text. Wählen Sie einen Namen ohne dieses Zeichen.</translation>
     </message>
 </context>
 <context>
@@ -145,8 +156,24 @@ Möchten Sie den Assistenten schließen?</translation>
         <translation>%1 erwartet einen Wert</translation>
     </message>
     <message>
-        <source>unknown argument &quot;%1&quot;</source>
-        <translation>unbekanntes Argument „%1“</translation>
+        <source>unknown argument &quot;%1&quot;; -batch -help lists them</source>
+        <translation>unbekanntes Argument „%1“; -batch -help führt sie auf</translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <translation>%1 ist zweimal angegeben</translation>
+    </message>
+    <message>
+        <source>%1 does not go with %2</source>
+        <translation>%1 passt nicht zu %2</translation>
+    </message>
+    <message>
+        <source>-timeout wants a number of seconds from 1 to %1, not &quot;%2&quot;</source>
+        <translation>-timeout braucht eine Zahl von Sekunden von 1 bis %1, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>-prj &lt;file&gt; is missing: the project file that the launcher works on</source>
+        <translation>-prj &lt;Datei&gt; fehlt: die Projektdatei, mit der das Werkzeug arbeitet</translation>
     </message>
     <message>
         <source>Usage: ProjectCreation -batch -prj &lt;file&gt; -type &lt;name&gt; [options]
@@ -156,46 +183,77 @@ Möchten Sie den Assistenten schließen?</translation>
   -input &lt;name&gt;=&lt;value&gt;  value of an input of that type; may be repeated
   -c, -cpp               analyser, where the type and the installation leave it open
   -mp, -ap, -cp &lt;file&gt;   message, analyser and compiler personality
+  -module &lt;name&gt;         compliance module that gives the personalities
   -overwrite             replace an existing project file
+  -dry-run               say what would run, and run nothing
+  -timeout &lt;seconds&gt;     stop the conversion after that time
+  -quiet                 say nothing unless something fails
+  --json                 the result as JSON on standard output
   -file &lt;file&gt;           definitions file
   -trace, -tracefile &lt;file&gt;
        ProjectCreation -batch -list-types [--json]
        ProjectCreation -batch -list-inputs &lt;type&gt; [--json]
-Exit status: 0 the project file was created, 1 the conversion failed, 2 wrong arguments.
+       ProjectCreation -batch -check &lt;file&gt;
+  Looks for mistakes in a definitions file.
+       ProjectCreation -batch -run &lt;launcher&gt; -prj &lt;file&gt; [-c | -cpp] [-timeout &lt;seconds&gt;]
+  Runs a tool of the suite on a project; the exit status is the tool&apos;s.
+Exit status: 0 the conversion program ended with 0 and the project file was created, 1 it failed
+or the output could not be written, 2 wrong arguments.
 </source>
         <translation>Aufruf: ProjectCreation -batch -prj &lt;Datei&gt; -type &lt;Name&gt; [Optionen]
-  Konvertiert eine Build-Beschreibung ohne Fenster in eine Projektdatei.
-  -prj &lt;Datei&gt;           zu erstellende Projektdatei
+  Konvertiert ohne Fenster eine Build-Beschreibung in eine Projektdatei.
+  -prj &lt;Datei&gt;           Projektdatei, die erstellt werden soll
   -type &lt;Name&gt;           Konvertierungsart
   -input &lt;Name&gt;=&lt;Wert&gt;   Wert einer Eingabe dieser Art; mehrfach möglich
-  -c, -cpp               Analysator, wenn Art und Installation ihn offen lassen
-  -mp, -ap, -cp &lt;Datei&gt;  Konfiguration für Meldungen, Analysator und Compiler
+  -c, -cpp               Analysator, wo Art und Installation ihn offen lassen
+  -mp, -ap, -cp &lt;Datei&gt;  Meldungs-, Analysator- und Compilerkonfiguration
+  -module &lt;Name&gt;         Regelwerk, das die Konfigurationen vorgibt
   -overwrite             eine vorhandene Projektdatei ersetzen
+  -dry-run               sagen, was laufen würde, und nichts ausführen
+  -timeout &lt;Sekunden&gt;    die Konvertierung nach dieser Zeit anhalten
+  -quiet                 nur sprechen, wenn etwas scheitert
+  --json                 das Ergebnis als JSON auf der Standardausgabe
   -file &lt;Datei&gt;          Definitionsdatei
   -trace, -tracefile &lt;Datei&gt;
        ProjectCreation -batch -list-types [--json]
        ProjectCreation -batch -list-inputs &lt;Art&gt; [--json]
-Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche Argumente.
+       ProjectCreation -batch -check &lt;Datei&gt;
+  Sucht Fehler in einer Definitionsdatei.
+       ProjectCreation -batch -run &lt;Werkzeug&gt; -prj &lt;Datei&gt; [-c | -cpp] [-timeout &lt;Sekunden&gt;]
+  Führt ein Werkzeug der Suite mit einem Projekt aus; der Endestatus ist der des Werkzeugs.
+Endestatus: 0 das Konvertierungsprogramm endete mit 0 und die Projektdatei wurde erstellt, 1 es scheiterte
+oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
 </translation>
+    </message>
+</context>
+<context>
+    <name>BatchCheck</name>
+    <message>
+        <source>the program of &quot;%1&quot; is not found: %2</source>
+        <translation>das Programm von „%1“ wird nicht gefunden: %2</translation>
+    </message>
+    <message>
+        <source>the configuration file of &quot;%1&quot; does not exist: %2</source>
+        <translation>die Konfigurationsdatei von „%1“ existiert nicht: %2</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>-check: %1 can not be read: %2</source>
+        <translation>-check: %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>reading ends here: %1</source>
+        <translation>hier endet das Lesen: %1</translation>
     </message>
 </context>
 <context>
     <name>BatchConversion</name>
     <message>
-        <source>no conversion types: the definitions file %1 is missing or not of the correct format; -trace tells more</source>
-        <translation>keine Konvertierungsarten: Die Definitionsdatei %1 fehlt oder hat nicht das richtige Format; -trace sagt mehr</translation>
-    </message>
-    <message>
-        <source>there is no conversion type &quot;%1&quot;; -batch -list-types lists them</source>
-        <translation>es gibt keine Konvertierungsart „%1“; -batch -list-types führt sie auf</translation>
-    </message>
-    <message>
         <source>-type: there is no conversion type &quot;%1&quot;; -batch -list-types lists them</source>
         <translation>-type: Es gibt keine Konvertierungsart „%1“; -batch -list-types führt sie auf</translation>
-    </message>
-    <message>
-        <source>warning: there are no KOVRA Analysers installed on this machine</source>
-        <translation>Warnung: Auf diesem Rechner sind keine KOVRA-Analysatoren installiert</translation>
     </message>
     <message>
         <source>the conversion type serves both analysers: choose with -c or -cpp</source>
@@ -237,6 +295,33 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
         <source>-prj: %1 can not be the project file; it would become %2</source>
         <translation>-prj: %1 kann nicht die Projektdatei sein; es würde %2 daraus</translation>
     </message>
+    <message>
+        <source>there are no KOVRA Analysers installed on this machine</source>
+        <translation>auf diesem Rechner sind keine KOVRA-Analysatoren installiert</translation>
+    </message>
+    <message>
+        <source>%1 does not go with -module: &quot;%2&quot; has that file</source>
+        <translation>%1 passt nicht zu -module: „%2“ hat diese Datei</translation>
+    </message>
+    <message>
+        <source>-module: there is no compliance module &quot;%1&quot; for this analyser; installed are: %2</source>
+        <translation>-module: Es gibt für diesen Analysator kein Regelwerk „%1“; installiert sind: %2</translation>
+    </message>
+    <message>
+        <source>-prj: %1 is a link to %2, which does not exist; -overwrite replaces it</source>
+        <translation>-prj: %1 ist ein Verweis auf %2, das nicht existiert; -overwrite ersetzt ihn</translation>
+    </message>
+    <message numerus="yes">
+        <source>-timeout: the conversion took longer than %n second(s)</source>
+        <translation>
+            <numerusform>-timeout: Die Konvertierung dauerte länger als %n Sekunde</numerusform>
+            <numerusform>-timeout: Die Konvertierung dauerte länger als %n Sekunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was left by a conversion that failed</source>
+        <translation>%1 stammt von einer Konvertierung, die gescheitert ist</translation>
+    </message>
 </context>
 <context>
     <name>BatchInputs</name>
@@ -259,6 +344,41 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
     <message>
         <source>the input &quot;%1&quot; is one of a choice: give 1 to the one you want</source>
         <translation>die Eingabe „%1“ ist Teil einer Auswahl: Geben Sie der gewünschten den Wert 1</translation>
+    </message>
+</context>
+<context>
+    <name>BatchLauncher</name>
+    <message>
+        <source>-run: there is no launcher &quot;%1&quot;; known are: %2</source>
+        <translation>-run: Es gibt kein Werkzeug „%1“; bekannt sind: %2</translation>
+    </message>
+    <message>
+        <source>-prj: %1 is no project file: %2</source>
+        <translation>-prj: %1 ist keine Projektdatei: %2</translation>
+    </message>
+    <message>
+        <source>-run: &quot;%1&quot; has no program for this analyser</source>
+        <translation>-run: „%1“ hat kein Programm für diesen Analysator</translation>
+    </message>
+    <message>
+        <source>-run: &quot;%1&quot; can not run: %2 is not found</source>
+        <translation>-run: „%1“ kann nicht laufen: %2 wird nicht gefunden</translation>
+    </message>
+    <message>
+        <source>A temporary file can not be written in %1. Make room there or make it writable.</source>
+        <translation>In %1 kann keine temporäre Datei geschrieben werden. Schaffen Sie dort Platz, oder machen Sie den Ordner beschreibbar.</translation>
+    </message>
+    <message>
+        <source>%1 can not be started: %2</source>
+        <translation>%1 kann nicht gestartet werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 was stopped</source>
+        <translation>%1 wurde angehalten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -290,6 +410,44 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
     <message>
         <source>default for C++ &quot;%1&quot;</source>
         <translation>Vorgabe für C++ „%1“</translation>
+    </message>
+    <message>
+        <source>message personality</source>
+        <translation>Meldungskonfiguration</translation>
+    </message>
+    <message>
+        <source>analyser personality</source>
+        <translation>Analysatorkonfiguration</translation>
+    </message>
+    <message>
+        <source>compiler personality</source>
+        <translation>Compilerkonfiguration</translation>
+    </message>
+</context>
+<context>
+    <name>BatchMode</name>
+    <message>
+        <source>there is no conversion type &quot;%1&quot;; -batch -list-types lists them</source>
+        <translation>es gibt keine Konvertierungsart „%1“; -batch -list-types führt sie auf</translation>
+    </message>
+    <message>
+        <source>note: %1</source>
+        <translation>Hinweis: %1</translation>
+    </message>
+    <message>
+        <source>no conversion types: the definitions file %1 is missing or not of the correct format; -trace tells more</source>
+        <translation>keine Konvertierungsarten: Die Definitionsdatei %1 fehlt oder hat nicht das richtige Format; -trace sagt mehr</translation>
+    </message>
+</context>
+<context>
+    <name>BatchOutput</name>
+    <message>
+        <source>standard output can not be written</source>
+        <translation>die Standardausgabe kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>Warnung: %1</translation>
     </message>
 </context>
 <context>
@@ -381,10 +539,6 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
         <translation>Fehler: Die Konvertierung ist fehlgeschlagen</translation>
     </message>
     <message>
-        <source>The old project file can not be removed: %1. Close programs that use it.</source>
-        <translation>Die alte Projektdatei kann nicht entfernt werden: %1. Schließen Sie Programme, die sie verwenden.</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -401,19 +555,78 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
         <translation>Das Konvertierungsprogramm endete mit dem Exit-Code %1.</translation>
     </message>
     <message>
-        <source>it is not a file</source>
-        <translation>es ist keine Datei</translation>
+        <source>The conversion program ended with exit code %1. The project may be incomplete.</source>
+        <translation>Das Konvertierungsprogramm endete mit dem Exit-Code %1. Das Projekt ist vielleicht unvollständig.</translation>
+    </message>
+    <message>
+        <source>The project file that it left is empty.</source>
+        <translation>Die Projektdatei, die es hinterließ, ist leer.</translation>
+    </message>
+    <message>
+        <source>The project file that was there before is kept.</source>
+        <translation>Die Projektdatei, die vorher da war, bleibt erhalten.</translation>
+    </message>
+</context>
+<context>
+    <name>DefinitionsReader</name>
+    <message>
+        <source>%1 in &lt;exeargs&gt; stands for nothing: no input of &quot;%2&quot; has it in its &lt;argDef&gt;</source>
+        <translation>%1 in &lt;exeargs&gt; steht für nichts: Keine Eingabe von „%2“ hat es in ihrem &lt;argDef&gt;</translation>
+    </message>
+    <message>
+        <source>the value of the input &quot;%1&quot; reaches no argument: %2 is not in &lt;exeargs&gt;</source>
+        <translation>der Wert der Eingabe „%1“ erreicht kein Argument: %2 steht nicht in &lt;exeargs&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;projectCreator&gt; has no &lt;name&gt; and can not be chosen</source>
+        <translation>&lt;projectCreator&gt; hat kein &lt;name&gt; und kann nicht gewählt werden</translation>
+    </message>
+    <message>
+        <source>&lt;projectCreator&gt; has no &lt;exe&gt; and can not be run</source>
+        <translation>&lt;projectCreator&gt; hat kein &lt;exe&gt; und kann nicht laufen</translation>
+    </message>
+    <message>
+        <source>&lt;projectCreator&gt; serves no analyser: neither &lt;orvcProject&gt; nor &lt;orvcppProject&gt; is 1</source>
+        <translation>&lt;projectCreator&gt; dient keinem Analysator: Weder &lt;orvcProject&gt; noch &lt;orvcppProject&gt; ist 1</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not known in &lt;%2&gt; and is passed over</source>
+        <translation>&lt;%1&gt; ist in &lt;%2&gt; nicht bekannt und wird übergangen</translation>
+    </message>
+    <message>
+        <source>%1=&quot;%2&quot; counts as absent; known are %3</source>
+        <translation>%1=„%2“ gilt als nicht angegeben; bekannt sind %3</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; wants a number; &quot;%2&quot; counts as 0</source>
+        <translation>&lt;%1&gt; braucht eine Zahl; „%2“ gilt als 0</translation>
+    </message>
+    <message>
+        <source>&lt;inputType&gt; &quot;%1&quot; is not known and counts as absent</source>
+        <translation>&lt;inputType&gt; „%1“ ist nicht bekannt und gilt als nicht angegeben</translation>
+    </message>
+    <message>
+        <source>&lt;mustBeSet&gt; wants FILE_MUST_EXIST, 1 or 0; &quot;%1&quot; counts as 0</source>
+        <translation>&lt;mustBeSet&gt; braucht FILE_MUST_EXIST, 1 oder 0; „%1“ gilt als 0</translation>
+    </message>
+    <message>
+        <source>&lt;inputData&gt; has no &lt;displayName&gt;</source>
+        <translation>&lt;inputData&gt; hat kein &lt;displayName&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;application&gt; has no name</source>
+        <translation>&lt;application&gt; hat keinen Namen</translation>
     </message>
 </context>
 <context>
     <name>DisplayCheck</name>
     <message>
-        <source>no display to open a window on (%1; DISPLAY is %2). Start it in a desktop session.</source>
-        <translation>keine Anzeige, auf der sich ein Fenster öffnen lässt (%1; DISPLAY ist %2). Starten Sie das Programm in einer Desktop-Sitzung.</translation>
-    </message>
-    <message>
         <source>not set</source>
         <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>no display to open a window on (%1; DISPLAY is %2). Start it in a desktop session, or convert without a window: -batch -help tells how.</source>
+        <translation>keine Anzeige, auf der sich ein Fenster öffnen lässt (%1; DISPLAY ist %2). Starten Sie das Programm in einer Desktop-Sitzung, oder konvertieren Sie ohne Fenster: -batch -help sagt, wie.</translation>
     </message>
 </context>
 <context>
@@ -548,6 +761,21 @@ Exit-Status: 0 Projektdatei erstellt, 1 Konvertierung fehlgeschlagen, 2 falsche 
     </message>
 </context>
 <context>
+    <name>LauncherOutput</name>
+    <message>
+        <source>[The output is longer than this and could not be kept]</source>
+        <translation>[Die Ausgabe ist länger und konnte nicht aufbewahrt werden]</translation>
+    </message>
+    <message>
+        <source>[The output is longer than this. Until the wizard is closed it is, without its end, in %1]</source>
+        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie ohne ihr Ende in %1]</translation>
+    </message>
+    <message>
+        <source>[The output is longer than this. Until the wizard is closed it is in %1]</source>
+        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie in %1]</translation>
+    </message>
+</context>
+<context>
     <name>OrvWizardWindow</name>
     <message>
         <source>&amp;Print</source>
@@ -652,6 +880,53 @@ Möchten Sie diese Anwendung schließen?</translation>
     <message>
         <source>A temporary file can not be made in %1. Make room there or make it writable.</source>
         <translation>In %1 kann keine temporäre Datei angelegt werden. Schaffen Sie dort Platz, oder machen Sie den Ordner beschreibbar.</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectPlace</name>
+    <message>
+        <source>A folder stands where the project file is to be: %1. Rename it or choose another name.</source>
+        <translation>Wo die Projektdatei hin soll, steht ein Ordner: %1. Benennen Sie ihn um, oder wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Another conversion is making this project file (process %1 on %2). Wait for its end; if it is gone, remove %3.</source>
+        <translation>Eine andere Konvertierung erstellt diese Projektdatei (Prozess %1 auf %2). Warten Sie auf ihr Ende; gibt es sie nicht mehr, so entfernen Sie %3.</translation>
+    </message>
+    <message>
+        <source>Another conversion is making this project file. Wait for its end; if it is gone, remove %1.</source>
+        <translation>Eine andere Konvertierung erstellt diese Projektdatei. Warten Sie auf ihr Ende; gibt es sie nicht mehr, so entfernen Sie %1.</translation>
+    </message>
+    <message>
+        <source>The project file&apos;s folder can not be written: %1 can not be made there. Make room there or make it writable.</source>
+        <translation>Der Ordner der Projektdatei ist nicht beschreibbar: %1 kann dort nicht angelegt werden. Schaffen Sie dort Platz, oder machen Sie ihn beschreibbar.</translation>
+    </message>
+    <message>
+        <source>The old project file can not be put aside: %1. Close programs that use it.</source>
+        <translation>Die alte Projektdatei kann nicht beiseitegelegt werden: %1. Schließen Sie Programme, die sie benutzen.</translation>
+    </message>
+    <message>
+        <source>a link to %1</source>
+        <translation>ein Verweis auf %1</translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation>ein Ordner</translation>
+    </message>
+    <message>
+        <source>no regular file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>What the conversion program made there is no project file but %1.</source>
+        <translation>Was das Konvertierungsprogramm dort erstellt hat, ist keine Projektdatei, sondern %1.</translation>
+    </message>
+    <message>
+        <source>The old project file could not be brought back (%1). It is kept as %2.</source>
+        <translation>Die alte Projektdatei konnte nicht zurückgeholt werden (%1). Sie bleibt als %2 erhalten.</translation>
+    </message>
+    <message>
+        <source>The old project file is lost: the conversion program removed it from where it waited.</source>
+        <translation>Die alte Projektdatei ist verloren: Das Konvertierungsprogramm hat sie dort entfernt, wo sie wartete.</translation>
     </message>
 </context>
 <context>
@@ -882,6 +1157,31 @@ Möchten Sie diesen Ordner erstellen?
 -cp &lt;file&gt;: Compiler Personality
 </translation>
     </message>
+    <message>
+        <source>Without a window: ProjectCreation -batch -help tells how.
+</source>
+        <translation>Ohne Fenster: ProjectCreation -batch -help sagt, wie.
+</translation>
+    </message>
+</context>
+<context>
+    <name>StartupWarnings</name>
+    <message>
+        <source>The definitions file could only be read up to a mistake, and what follows is missing: %1:%2:%3: %4</source>
+        <translation>Die Definitionsdatei konnte nur bis zu einem Fehler gelesen werden, und was danach kommt, fehlt: %1:%2:%3: %4</translation>
+    </message>
+    <message>
+        <source>There is no definitions file %1; %2 is used instead.</source>
+        <translation>Es gibt keine Definitionsdatei %1; stattdessen wird %2 benutzt.</translation>
+    </message>
+    <message>
+        <source>The environment variable %1 names a folder that does not exist: %2</source>
+        <translation>Die Umgebungsvariable %1 nennt einen Ordner, der nicht existiert: %2</translation>
+    </message>
+    <message>
+        <source>The definitions file %1 is used, not the suite&apos;s; -file names the one that you want.</source>
+        <translation>Die Definitionsdatei %1 wird benutzt, nicht die der Suite; -file nennt die gewünschte.</translation>
+    </message>
 </context>
 <context>
     <name>XmlPage</name>
@@ -900,21 +1200,6 @@ Möchten Sie diesen Ordner erstellen?
     <message>
         <source>To continue, fill in &quot;%1&quot;.</source>
         <translation>Um fortzufahren, füllen Sie „%1“ aus.</translation>
-    </message>
-</context>
-<context>
-    <name>LauncherOutput</name>
-    <message>
-        <source>[The output is longer than this and could not be kept]</source>
-        <translation>[Die Ausgabe ist länger und konnte nicht aufbewahrt werden]</translation>
-    </message>
-    <message>
-        <source>[The output is longer than this. Until the wizard is closed it is, without its end, in %1]</source>
-        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie ohne ihr Ende in %1]</translation>
-    </message>
-    <message>
-        <source>[The output is longer than this. Until the wizard is closed it is in %1]</source>
-        <translation>[Die Ausgabe ist länger. Solange der Assistent geöffnet ist, steht sie in %1]</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: MIT
+#include "Installation.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A suite with one conversion type "T" for C projects, whose script gets the project file and the input "E", one with
+/// a compliance module and a launcher each, and the program installed in it by a link.
+struct BatchSuite : Installation
+{
+    explicit BatchSuite(const QByteArray& script = "echo new > \"$1\"\n")
+    {
+        const QByteArray program = writeScript(u"convert"_s, script).toUtf8();
+        const QByteArray tool = writeScript(u"tool"_s, "echo \"tool $*\"; exit ${TOOL_STATUS:-0}\n").toUtf8();
+        const QByteArray file = write(u"m.p_s"_s, "-x\n").toUtf8();
+        define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + program +
+               "</exe><exeargs>%PF %E</exeargs><messagePersonality TYPE=\"C\"></messagePersonality>"
+               "<inputData><displayName>E</displayName><inputType>FILE</inputType><ext>*.txt</ext>"
+               "<argDef>%E</argDef></inputData></projectCreator>"
+               "<compliance_module><product>ORVC</product><name>Rules</name><location>" +
+               path(u"work"_s).toUtf8() + "</location><messagepersonality>" + file +
+               "</messagepersonality></compliance_module>"
+               "<applicationPage><application name=\"Some\\ntool\"><exe>" +
+               tool + "</exe><exeargs>-n %Q</exeargs></application></applicationPage>");
+        QFile::link(QStringLiteral(PROGRAM), path(u"bin/ProjectCreation"_s));
+    }
+    ProgramResult run(const QStringList& arguments, Variables variables = {}) const
+    {
+        variables += {u"LC_ALL"_s, u"C.UTF-8"_s};
+        return runProgram(path(u"bin/ProjectCreation"_s), QStringList{u"-batch"_s} + arguments, variables,
+                          path(u"work"_s));
+    }
+    ProgramResult convert(const QStringList& more = {}) const
+    {
+        return run(QStringList{u"-prj"_s, u"p.prj"_s, u"-type"_s, u"T"_s} + more);
+    }
+    QJsonObject converted(const QStringList& more = {}) const
+    {
+        return QJsonDocument::fromJson(convert(QStringList{u"--json"_s} + more).output.toUtf8()).object();
+    }
+    QString project() const { return path(u"work/p.prj"_s); }
+};
+
+} // namespace
+
+/// The program as a script or a build server runs it.
+class BuildServerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void statusTellsHowItEnded_data()
+    {
+        const TestRows<QByteArray, QString, int, QByteArray, QString> row("script", "outcome", "status", "project",
+                                                                          "says");
+        row("created", "echo new > \"$1\"", u"created"_s, 0, "new\n", {});
+        row("failed beside a file", "echo half > \"$1\"; exit 3", u"createdButFailed"_s, 1, "half\n", u"exit code 3"_s);
+        row("not created", "echo why >&2; exit 4", u"notCreated"_s, 1, "old", u"exit code 4"_s);
+        row("crashed", "echo half > \"$1\"; kill -SEGV $$", u"crashed"_s, 1, "old", u"crashed"_s);
+        row("takes too long", "echo half > \"$1\"; sleep 1000", u"timedOut"_s, 1, "old", u"longer than"_s);
+    }
+
+    void statusTellsHowItEnded()
+    {
+        QFETCH(const QByteArray, script);
+        QFETCH(const QString, outcome);
+        QFETCH(const int, status);
+        QFETCH(const QByteArray, project);
+        QFETCH(const QString, says);
+        const BatchSuite suite(script);
+        suite.write(u"work/p.prj"_s, "old");
+        const QStringList options{u"-overwrite"_s, u"-timeout"_s, u"1"_s};
+        const ProgramResult result = suite.convert(options);
+        QCOMPARE(result.status, status);
+        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
+        QCOMPARE(suite.read(suite.project()), project);
+        const QJsonObject json = suite.converted(options);
+        QCOMPARE(json[u"outcome"].toString(), outcome);
+        QCOMPARE(json[u"status"].toInt(), status);
+    }
+
+    void jsonTellsWhatRan()
+    {
+        const BatchSuite suite("echo chatter; echo new > \"$1\"\n");
+        const QJsonObject json = suite.converted({u"-input"_s, u"E=some file"_s});
+        QCOMPARE(json[u"project"].toString(), suite.project());
+        QCOMPARE(json[u"type"].toString(), u"T"_s);
+        QCOMPARE(json[u"analyser"].toString(), u"ORVC"_s);
+        QCOMPARE(json[u"program"].toString(), suite.path(u"convert"_s));
+        QCOMPARE(json[u"arguments"].toArray(), (QJsonArray{suite.project(), u"some file"_s}));
+        QCOMPARE(json[u"exitCode"].toInt(-1), 0);
+        QVERIFY(json[u"duration"].toDouble(-1) >= 0);
+    }
+
+    void quietRunsSpeakOnlyOfFailures()
+    {
+        const BatchSuite good("echo chatter; echo new > \"$1\"\n");
+        const ProgramResult silent = good.convert({u"-quiet"_s});
+        QCOMPARE(silent.status, 0);
+        QCOMPARE(silent.output + silent.errors, QString());
+        const BatchSuite bad("echo reason; exit 3\n");
+        const ProgramResult loud = bad.convert({u"-quiet"_s});
+        QCOMPARE(loud.status, 1);
+        QCOMPARE(loud.output, QString());
+        QVERIFY2(loud.errors.startsWith("reason\n"_L1), qPrintable(loud.errors));
+    }
+
+    void dryRunsTouchNothing()
+    {
+        const BatchSuite suite;
+        suite.write(u"work/p.prj"_s, "old");
+        const ProgramResult result = suite.convert({u"-dry-run"_s, u"-overwrite"_s});
+        QCOMPARE(result.status, 0);
+        QVERIFY2(result.output.startsWith(suite.path(u"convert"_s) + u"\n  "_s + suite.project()),
+                 qPrintable(result.output));
+        QCOMPARE(suite.read(suite.project()), QByteArray("old"));
+    }
+
+    void modulesGiveThePersonalities()
+    {
+        const BatchSuite suite;
+        QCOMPARE(suite.convert({u"-module"_s, u"Rules"_s}).status, 0);
+        const ProgramResult unknown = suite.convert({u"-overwrite"_s, u"-module"_s, u"None"_s});
+        QCOMPARE(unknown.status, 2);
+        QVERIFY2(unknown.errors.contains("Rules"_L1), qPrintable(unknown.errors));
+        const ProgramResult both =
+            suite.convert({u"-overwrite"_s, u"-module"_s, u"Rules"_s, u"-mp"_s, suite.path(u"m.p_s"_s)});
+        QCOMPARE(both.status, 2);
+        QVERIFY2(both.errors.contains("-mp"_L1), qPrintable(both.errors));
+    }
+
+    void refusesWhatDoesNotGoTogether_data()
+    {
+        const TestRows<QString, QString> row("arguments", "says");
+        row("two tasks", u"-list-types -check x"_s, u"-list-types does not go with -check"_s);
+        row("inputs for a list", u"-list-types -input a=b"_s, u"-input does not go with -list-types"_s);
+        row("both analysers", u"-prj p.prj -type T -c -cpp"_s, u"-c does not go with -cpp"_s);
+        row("twice", u"-prj p.prj -type T -prj q.prj"_s, u"-prj is given twice"_s);
+        row("no value", u"-prj p.prj -type"_s, u"-type wants a value"_s);
+        row("no time", u"-prj p.prj -type T -timeout soon"_s, u"-timeout wants"_s);
+        row("no type", u"-prj p.prj"_s, u"-type <name> is missing"_s);
+        row("a type's name for a project", u"-type T"_s, u"-prj <file> is missing"_s);
+        row("an option for a project", u"-type T -prj -c"_s, u"can not be the project file"_s);
+        row("unknown", u"-bogus"_s, u"\"-bogus\""_s);
+        row("a launcher without a project", u"-run x"_s, u"-prj <file> is missing"_s);
+    }
+
+    void refusesWhatDoesNotGoTogether()
+    {
+        QFETCH(const QString, arguments);
+        QFETCH(const QString, says);
+        const BatchSuite suite;
+        const ProgramResult result = suite.run(arguments.split(u' '));
+        QCOMPARE(result.status, 2);
+        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
+        QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden), QStringList());
+    }
+
+    void answersQuestions_data()
+    {
+        const TestRows<QString, QString> row("arguments", "says");
+        row("batch help", u"-batch -help"_s, u"-list-inputs"_s);
+        row("batch --help", u"-batch --help"_s, u"-list-inputs"_s);
+        row("batch -h", u"-batch -h"_s, u"-list-inputs"_s);
+        row("--help", u"--help"_s, u"-batch -help"_s);
+        row("-h", u"-h"_s, u"-batch -help"_s);
+        row("--version", u"--version"_s, u"Create KOVRA Project"_s);
+    }
+
+    void answersQuestions()
+    {
+        QFETCH(const QString, arguments);
+        QFETCH(const QString, says);
+        const ProgramResult result = runProgram(QStringLiteral(PROGRAM), arguments.split(u' '));
+        QCOMPARE(result.status, 0);
+        QVERIFY2(result.output.contains(says), qPrintable(result.output + result.errors));
+    }
+
+    void warnsOfTheDefinitionsThatItUses()
+    {
+        const BatchSuite suite;
+        suite.write(u"xml/broken.xml"_s, "<s><projectCreator><name>T</name></projectCreator>\n<a></b>\n");
+        const QString broken = suite.run({u"-file"_s, u"/nowhere/broken.xml"_s, u"-list-types"_s}).errors;
+        QVERIFY2(broken.contains(suite.path(u"xml/broken.xml"_s) + u":2:"_s), qPrintable(broken));
+        QVERIFY2(broken.contains("no definitions file /nowhere/broken.xml"_L1), qPrintable(broken));
+        QCOMPARE(suite.run({u"-list-types"_s}).errors, QString());
+        suite.write(u"work/settings.xml"_s, suite.read(u"xml/settings.xml"_s));
+        const QString foreign = suite.run({u"-list-types"_s}).errors;
+        QVERIFY2(foreign.contains(suite.path(u"work/settings.xml"_s)), qPrintable(foreign));
+        QCOMPARE(suite.run({u"-file"_s, suite.path(u"xml/settings.xml"_s), u"-list-types"_s}).errors, QString());
+    }
+
+    void warnsOfAFolderThatIsGone()
+    {
+        const BatchSuite suite;
+        const QString said = suite.run({u"-list-types"_s}, {{u"ORVCPATH"_s, u"/gone"_s}}).errors;
+        QVERIFY2(said.contains("ORVCPATH"_L1), qPrintable(said));
+        QVERIFY2(said.contains("/gone"_L1), qPrintable(said));
+    }
+
+    void warnsOfValuesThatAreReplaced()
+    {
+        const BatchSuite suite("printf '%s' \"$2\" > \"$1\"");
+        QVERIFY(suite.convert({u"-input"_s, u"E=plain"_s}).errors.isEmpty());
+        suite.write(u"work/rates%E"_s, {});
+        const ProgramResult result =
+            suite.run({u"-prj"_s, suite.path(u"work/a%E/p.prj"_s), u"-type"_s, u"T"_s, u"-input"_s, u"E=x"_s});
+        QVERIFY2(result.errors.contains("a%E"_L1), qPrintable(result.errors));
+    }
+
+    void listsWhatATypeAsksFor()
+    {
+        const BatchSuite suite;
+        const QString text = suite.run({u"-list-inputs"_s, u"T"_s}).output;
+        QCOMPARE(text, u"E  [FILE, *.txt, %E]\n-mp <file>: message personality, *.p_s\n"_s);
+        const QJsonArray inputs =
+            QJsonDocument::fromJson(suite.run({u"-list-inputs"_s, u"T"_s, u"--json"_s}).output.toUtf8()).array();
+        QCOMPARE(inputs.size(), 2);
+        QCOMPARE(inputs[0][u"filter"].toString(), u"*.txt"_s);
+        QCOMPARE(inputs[0][u"placeholder"].toString(), u"%E"_s);
+        QCOMPARE(inputs[1][u"name"].toString(), u"-mp"_s);
+    }
+
+    void runsLaunchers()
+    {
+        const BatchSuite suite;
+        suite.write(u"work/p.prj"_s, "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n"
+                                     "*project=ORVC\na.c\nEndContainedFilesMarker\nEndOfProjectFile\n");
+        const QStringList command{u"-run"_s, u"Some tool"_s, u"-prj"_s, u"p.prj"_s, u"-c"_s};
+        const ProgramResult good = suite.run(command);
+        QCOMPARE(good.output, u"tool -n ORVC\n"_s);
+        QCOMPARE(good.status, 0);
+        QCOMPARE(suite.run(command, {{u"TOOL_STATUS"_s, u"7"_s}}).status, 7);
+        const ProgramResult unknown = suite.run({u"-run"_s, u"x"_s, u"-prj"_s, u"p.prj"_s});
+        QCOMPARE(unknown.status, 2);
+        QVERIFY2(unknown.errors.contains("Some tool"_L1), qPrintable(unknown.errors));
+        const ProgramResult noProject = suite.run({u"-run"_s, u"Some tool"_s, u"-prj"_s, u"q.prj"_s});
+        QCOMPARE(noProject.status, 2);
+    }
+
+    // One wins; the others say so and take nothing away.
+    void oneOfManyWins()
+    {
+        const BatchSuite suite("sleep 1; echo $$ > \"$1\"\n");
+        suite.write(u"work/p.prj"_s, "old");
+        std::vector<std::unique_ptr<QProcess>> runs;
+        for (int i = 0; i < 20; ++i) {
+            QProcess& run = *runs.emplace_back(std::make_unique<QProcess>());
+            run.setWorkingDirectory(suite.path(u"work"_s));
+            run.start(suite.path(u"bin/ProjectCreation"_s),
+                      {u"-batch"_s, u"-prj"_s, u"p.prj"_s, u"-type"_s, u"T"_s, u"-overwrite"_s});
+        }
+        int winners = 0;
+        for (const auto& run : runs) {
+            QVERIFY(run->waitForFinished());
+            winners += int(run->exitCode() == 0);
+            const QString said = QString::fromLocal8Bit(run->readAllStandardError());
+            QCOMPARE(said.contains("Another conversion"_L1), run->exitCode() != 0);
+        }
+        QVERIFY(winners >= 1);
+        QVERIFY(suite.read(suite.project()).toInt() > 0);
+        QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"p.prj"_s});
+    }
+};
+
+KOVRA_TEST(BuildServerTest)
+#include "BuildServerTest.moc"
