@@ -4,7 +4,6 @@
 #ifdef __linux__
 
 #include <algorithm>
-#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <fstream>
@@ -56,35 +55,42 @@ std::vector<pid_t> strays()
     return found;
 }
 
-// True when it is gone now.
-bool collect(pid_t child)
+void collect(pid_t child)
 {
-    const pid_t result = ::waitpid(child, nullptr, WNOHANG);
-    return result == child || (result < 0 && errno == ECHILD);
+    ::waitpid(child, nullptr, WNOHANG);
 }
 
+std::vector<pid_t> straysBut(const std::vector<long long>& spared)
+{
+    std::vector<pid_t> found = strays();
+    std::erase_if(found, [&](pid_t child) { return std::ranges::find(spared, child) != spared.end(); });
+    return found;
+}
+
+// Asked anew each time: what a stray leaves behind comes to us in turn, and the system's list may miss one while others
+// end, so that it has to be empty twice.
 bool endAll(int signal, std::chrono::milliseconds patience, const std::vector<long long>& spared)
 {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     std::vector<pid_t> told;
-    while (true) {
-        bool anyLeft = false;
-        // Asked anew each time: what a stray leaves behind comes to us in turn.
-        for (const pid_t child : strays()) {
-            if (std::ranges::find(spared, child) != spared.end()) {
-                continue;
-            }
+    for (int emptyLists = 0; emptyLists < 2;) {
+        const std::vector<pid_t> left = straysBut(spared);
+        emptyLists = left.empty() ? emptyLists + 1 : 0;
+        for (const pid_t child : left) {
             if (std::ranges::find(told, child) == told.end()) {
                 ::kill(child, signal);
                 told.push_back(child);
             }
-            anyLeft = !collect(child) || anyLeft;
+            collect(child);
         }
-        if (!anyLeft || std::chrono::steady_clock::now() >= deadline) {
-            return !anyLeft;
+        if (!left.empty() && std::chrono::steady_clock::now() >= deadline) {
+            return false;
         }
-        std::this_thread::sleep_for(pollInterval);
+        if (!told.empty()) {
+            std::this_thread::sleep_for(pollInterval);
+        }
     }
+    return true;
 }
 
 } // namespace
@@ -123,8 +129,8 @@ bool StrayProcesses::any()
 
 std::vector<long long> StrayProcesses::present()
 {
-    reap();
-    const std::vector<pid_t> found = strays();
+    // Also one that has not yet left our group.
+    const std::vector<pid_t> found = children();
     return {found.begin(), found.end()};
 }
 

@@ -21,7 +21,7 @@ void reap();
 /// True while one runs.
 bool any();
 
-/// The process ids of those that run.
+/// The process ids of all children that there are, to be spared later.
 std::vector<long long> present();
 
 /// Asks all but the spared ones to end, waits graceMs at most, then kills them and what they leave in turn.
