@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The longest time the window does not answer while a text of 50 MB is shown.
+// The longest time the window does not answer while long texts are shown: 50 MB of lines, and a line of 100 MB.
 #include "app/AppRegistry.h"
 #include "dialogs/DisplayDialog.h"
 #include "Sandbox.h"
@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPlainTextEdit>
+#include <QTextBlock>
 #include <QTimer>
 
 #include <algorithm>
@@ -14,13 +15,12 @@
 
 using namespace Qt::StringLiterals;
 
-int main(int argc, char** argv)
+namespace {
+
+constexpr qint64 limitMs = 50;
+
+int report(AppRegistry& registry, const char* name, const QString& text)
 {
-    const Sandbox sandbox;
-    QApplication application(argc, argv);
-    AppRegistry registry;
-    appRegistry = &registry;
-    const QString text = u"one line of a long report about a large code base\n"_s.repeated(1'000'000);
     DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Text, 600, 600);
     dialog.show();
     QApplication::processEvents();
@@ -30,11 +30,11 @@ int main(int argc, char** argv)
     qint64 last = 0;
     qint64 longest = 0;
     QTimer pulse;
-    const auto* view = dialog.findChild<QPlainTextEdit*>();
+    const auto& document = *dialog.findChild<QPlainTextEdit*>()->document();
     QObject::connect(&pulse, &QTimer::timeout, [&] {
         longest = std::max(longest, clock.elapsed() - last);
         last = clock.elapsed();
-        if (view->document()->characterCount() > text.size()) {
+        if (document.characterCount() > text.size() || document.lastBlock().text().contains("only its beginning"_L1)) {
             QCoreApplication::quit();
         }
     });
@@ -43,8 +43,25 @@ int main(int argc, char** argv)
     last = longest;
     pulse.start(1);
     QApplication::exec();
-    const bool kept = longest <= 200;
-    std::printf("longest stall while showing 50 MB: %lld ms (at most 200), complete after %lld ms %s\n",
-                static_cast<long long>(longest), static_cast<long long>(clock.elapsed()), kept ? "ok" : "MISSED");
+    const bool kept = longest <= limitMs;
+    std::printf("longest stall while showing %s: %lld ms (at most %lld), complete after %lld ms %s\n", name,
+                static_cast<long long>(longest), static_cast<long long>(limitMs),
+                static_cast<long long>(clock.elapsed()), kept ? "ok" : "MISSED");
+    std::fflush(stdout);
     return kept ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const Sandbox sandbox;
+    QApplication application(argc, argv);
+    AppRegistry registry;
+    appRegistry = &registry;
+    int missed = report(registry, "50 MB of lines",
+                        u"one line of a long report about a large code base\n"_s.repeated(1'000'000));
+    missed += report(registry, "a line of 100 MB", u"x"_s.repeated(100'000'000));
+    missed += report(registry, "1,000,000 empty lines", u"\n"_s.repeated(1'000'000));
+    return missed;
 }

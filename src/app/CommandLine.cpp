@@ -34,6 +34,12 @@ void CommandLine::presetProject(const QString& projectFile, WizardState& state)
     state.fileName = file.baseName();
 }
 
+std::optional<QString> CommandLine::toolsProject(const QStringList& arguments)
+{
+    const qsizetype option = arguments.indexOf("-tools"_L1, 1);
+    return option < 0 ? std::nullopt : std::optional(arguments.value(option + 1));
+}
+
 void CommandLine::preset(const QStringList& arguments, WizardState& state)
 {
     const auto& kinds = configurationKinds();

@@ -20,6 +20,8 @@ public:
     /// A new empty file whose name ends in the suffix, with a dot before it; an empty text when none can be made.
     QString create(const QString& suffix);
     const QStringList& names() const { return fileNames; }
+    /// Leaves this one to the user; the system clears its temporary folder in its own time.
+    void keep(const QString& name) { fileNames.removeAll(name); }
     void removeAll();
     /// Removes what runs have left that were killed; what a living run has stays.
     static void removeStale();

@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/DisplayDialog.h"
 #include "app/AppRegistry.h"
+#include "dialogs/HtmlShape.h"
+#include "dialogs/MessageBox.h"
+#include "dialogs/TextPortions.h"
 
+#include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -14,43 +20,26 @@
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QUrl>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype portionSize = 128LL * 1024;
-// A view lays out a line as a whole; a longer one would stall it.
-constexpr qsizetype longestLine = 10'000;
-// What a window can still show with comfort.
-constexpr qint64 largestShown = 64LL * 1024 * 1024;
 constexpr int fileWindowSize = 600;
+// Enough to recognise a report by.
+constexpr qsizetype shownBeginning = 8LL * 1024;
 
-/// The end of the next portion: after a line break where there is one.
-qsizetype portionEnd(const QString& text, qsizetype from, qsizetype size)
+QString plainBeginning(const QString& html)
 {
-    if (text.size() - from <= size) {
-        return text.size();
-    }
-    const qsizetype lineEnd = QStringView(text).sliced(from, size).lastIndexOf(u'\n');
-    return lineEnd >= 0 ? from + lineEnd + 1 : from + size;
-}
-
-QString withShortLines(QStringView text)
-{
-    QString result;
-    result.reserve(text.size());
-    qsizetype lineLength = 0;
-    for (const QChar character : text) {
-        lineLength = character == u'\n' ? 0 : lineLength + 1;
-        result += character;
-        if (lineLength >= longestLine && !character.isHighSurrogate()) {
-            result += u'\n';
-            lineLength = 0;
-        }
-    }
-    return result;
+    const qsizetype tagEnd = html.lastIndexOf(u'>', std::min(shownBeginning, html.size()) - 1);
+    const QString beginning = html.first(std::max<qsizetype>(tagEnd + 1, 0));
+    return HtmlShape::of(beginning).isQuick() ? QTextDocumentFragment::fromHtml(beginning).toPlainText() : QString();
 }
 
 } // namespace
@@ -71,7 +60,6 @@ DisplayDialog::DisplayDialog(AppRegistry& owner, const QString& title, int displ
     auto* grid = new QGridLayout(this);
     createView(*grid);
     createButtons(*grid);
-    connect(&portionTimer, &QTimer::timeout, this, &DisplayDialog::appendPortion);
 }
 
 DisplayDialog::~DisplayDialog()
@@ -89,6 +77,9 @@ void DisplayDialog::createView(QGridLayout& grid)
         textView->setUndoRedoEnabled(false);
         textView->setLineWrapMode(QPlainTextEdit::NoWrap);
         textView->setAccessibleName(windowTitle());
+        // What tools print stands in columns.
+        textView->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        portions = new TextPortions(*textView, this);
         grid.addWidget(textView, 0, 0);
     } else {
         messageLabel = new QLabel;
@@ -121,79 +112,99 @@ void DisplayDialog::createBrowser(QGridLayout& grid)
 void DisplayDialog::createButtons(QGridLayout& grid)
 {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, Qt::Horizontal);
-    QPushButton* print = buttons->addButton(tr("Print..."), QDialogButtonBox::ActionRole);
-    print->setVisible(!messageLabel);
-    print->setAutoDefault(false);
+    printButton = buttons->addButton(tr("Print..."), QDialogButtonBox::ActionRole);
+    printButton->setVisible(!messageLabel);
+    printButton->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &DisplayDialog::Close);
-    connect(print, &QPushButton::clicked, this, &DisplayDialog::Print);
+    connect(printButton, &QPushButton::clicked, this, &DisplayDialog::Print);
+    if (htmlView) {
+        browserButton = buttons->addButton(tr("&Open in the browser"), QDialogButtonBox::ActionRole);
+        browserButton->hide();
+        connect(browserButton, &QPushButton::clicked, this, &DisplayDialog::openInBrowser);
+    }
     grid.addWidget(buttons, htmlView ? 2 : 1, 0, 1, htmlView ? 2 : 1);
 }
 
 void DisplayDialog::SetText(const QString& text)
 {
-    if (textView) {
-        textView->clear();
-        pendingText = text;
-        textPosition = 0;
-        appendPortion();
-        portionTimer.start(0);
-    } else if (htmlView) {
-        if (!LoadHtml(text)) {
-            htmlView->setText(text);
-        }
-    } else {
+    if (portions) {
+        portions->show(text);
+    } else if (messageLabel) {
         messageLabel->setText(text);
+    } else if (!HtmlShape::of(text).isQuick()) {
+        offerBrowser(text);
+    } else if (!LoadHtml(text)) {
+        htmlView->setText(text);
     }
 }
 
 bool DisplayDialog::showFile(AppRegistry& registry, const QString& title, const QString& fileName)
 {
-    QFile file(fileName);
+    auto file = std::make_unique<QFile>(fileName);
     if (!QFileInfo(fileName).isFile() ||
-        (!file.open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::ExistingOnly) &&
-         !file.open(QIODevice::ReadOnly | QIODevice::Text))) {
+        (!file->open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::ExistingOnly) &&
+         !file->open(QIODevice::ReadOnly | QIODevice::Text))) {
         return false;
     }
-    QString text = QString::fromLocal8Bit(file.read(largestShown));
-    if (!file.atEnd()) {
-        text += u'\n' + tr("[The file is larger; only its beginning is shown]");
-    }
-    file.close();
     DisplayDialog dialog(registry, title, Text, fileWindowSize, fileWindowSize);
-    dialog.SetText(text);
+    dialog.portions->show(std::move(file));
     dialog.exec();
     return true;
 }
 
-void DisplayDialog::appendPortion()
+// The byte order mark declares the encoding.
+QString DisplayDialog::writeHtml(const QString& text, const QString& suffix)
 {
-    if (textPosition >= pendingText.size()) {
-        portionTimer.stop();
-        pendingText.clear();
-        textPosition = 0;
-        return;
-    }
-    const qsizetype end = portionEnd(pendingText, textPosition, portionSize);
-    QTextCursor cursor(textView->document());
-    cursor.movePosition(QTextCursor::End);
-    cursor.insertText(withShortLines(QStringView(pendingText).sliced(textPosition, end - textPosition)));
-    textPosition = end;
-}
-
-// Through a file, so that relative links resolve and Back and Forward work. The byte order mark declares the encoding.
-bool DisplayDialog::LoadHtml(const QString& text)
-{
-    QFile file(registry ? registry->CreateTempFileName({}) : QString());
+    QFile file(registry ? registry->CreateTempFileName(suffix) : QString());
     if (file.fileName().isEmpty() || !file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        return false;
+        return {};
     }
     const QByteArray bytes = "\xEF\xBB\xBF" + text.toUtf8();
-    if (file.write(bytes) != bytes.size() || !file.flush()) {
+    return file.write(bytes) == bytes.size() && file.flush() ? file.fileName() : QString();
+}
+
+// Through a file, so that relative links resolve and Back and Forward work.
+bool DisplayDialog::LoadHtml(const QString& text)
+{
+    const QString file = writeHtml(text, {});
+    if (file.isEmpty()) {
         return false;
     }
-    file.close();
-    htmlView->setSource(QUrl::fromLocalFile(file.fileName()), QTextDocument::HtmlResource);
+    htmlView->setSource(QUrl::fromLocalFile(file), QTextDocument::HtmlResource);
     return true;
+}
+
+void DisplayDialog::offerBrowser(const QString& text)
+{
+    if (wholeFile.isEmpty()) {
+        wholeFile = writeHtml(text, u".html"_s);
+    }
+    const QString note = wholeFile.isEmpty()
+                             ? tr("[This is only the beginning: the report is too long for this window, and no "
+                                  "temporary file could be written for the browser]")
+                             : tr("[This is only the beginning: the report is too long for this window. Until the "
+                                  "wizard is closed it is in %1]")
+                                   .arg(QDir::toNativeSeparators(wholeFile));
+    const QString first = tr("[Only the beginning of the report is shown here]");
+    htmlView->setPlainText(first + u"\n\n"_s + plainBeginning(text) + u"\n\n"_s + note);
+    browserButton->setVisible(!wholeFile.isEmpty());
+    // It would print the beginning only.
+    printButton->setVisible(wholeFile.isEmpty());
+    browserButton->setDefault(true);
+    browserButton->setFocus();
+}
+
+void DisplayDialog::openInBrowser()
+{
+    // A browser may read the file when this program is gone.
+    if (registry) {
+        registry->tempFiles.keep(wholeFile);
+    }
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(wholeFile))) {
+        MessageBox::warn(this, windowTitle(),
+                         tr("No browser could be started. The report is in %1; open it with a program of your choice.")
+                             .arg(QDir::toNativeSeparators(wholeFile)));
+    }
 }
 
 void DisplayDialog::Print()
@@ -211,10 +222,8 @@ void DisplayDialog::Print()
 
 void DisplayDialog::printTo(QPrinter& printer)
 {
-    while (textPosition < pendingText.size()) {
-        appendPortion();
-    }
     if (textView) {
+        portions->finish();
         textView->print(&printer);
     } else if (htmlView) {
         htmlView->print(&printer);

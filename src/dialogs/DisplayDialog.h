@@ -3,14 +3,15 @@
 
 #include <QDialog>
 #include <QPointer>
-#include <QTimer>
 
 class AppRegistry;
 class QGridLayout;
 class QLabel;
 class QPlainTextEdit;
 class QPrinter;
+class QPushButton;
 class QTextBrowser;
+class TextPortions;
 
 /// Shows a text: plain, as HTML with Back and Forward, or as a short message. Listed in the registry's open dialogs
 /// from its construction until its Close button is pressed or it is destroyed.
@@ -26,7 +27,10 @@ public:
     ~DisplayDialog() override;
 
     /// Shows the text. A large plain text appears at once and is completed in portions, so that the window stays alive.
+    /// Of html on which the window would stall, only the beginning is shown, as plain text, and the browser is offered.
     void SetText(const QString& text);
+    /// The file that holds the whole of what SetText will only begin with. Without one, SetText writes it when needed.
+    void setWholeFile(const QString& fileName) { wholeFile = fileName; }
     /// Shows a text file in a modal window, of a very large one the beginning. False when it can not be opened, or is a
     /// pipe or a device, which would never end.
     static bool showFile(AppRegistry& registry, const QString& title, const QString& fileName);
@@ -46,7 +50,10 @@ private:
     void createBrowser(QGridLayout& grid);
     void createButtons(QGridLayout& grid);
     bool LoadHtml(const QString& text);
-    void appendPortion();
+    /// A temporary file with the text as html; empty when none can be written.
+    QString writeHtml(const QString& text, const QString& suffix);
+    void offerBrowser(const QString& text);
+    void openInBrowser();
     void unlist();
 
     QPointer<AppRegistry> registry;
@@ -54,8 +61,8 @@ private:
     QPlainTextEdit* textView = nullptr;
     QTextBrowser* htmlView = nullptr;
     QLabel* messageLabel = nullptr;
-    /// What of a plain text is not in the view yet begins at textPosition.
-    QString pendingText;
-    qsizetype textPosition = 0;
-    QTimer portionTimer;
+    QPushButton* printButton = nullptr;
+    QPushButton* browserButton = nullptr;
+    TextPortions* portions = nullptr;
+    QString wholeFile;
 };

@@ -14,3 +14,19 @@ QString PlainText::withoutMnemonic(QString text)
 {
     return text.replace(u'&', u"&&"_s);
 }
+
+QString PlainText::withShortLines(QStringView text, qsizetype longest)
+{
+    QString result;
+    result.reserve(text.size());
+    qsizetype lineLength = 0;
+    for (const QChar character : text) {
+        lineLength = character == u'\n' ? 0 : lineLength + 1;
+        result += character;
+        if (lineLength >= longest && !character.isHighSurrogate()) {
+            result += u'\n';
+            lineLength = 0;
+        }
+    }
+    return result;
+}

@@ -16,6 +16,8 @@
 namespace {
 
 constexpr int largestSpan = 100;
+constexpr int largestSize = 1000;
+constexpr int largestSpacing = 500;
 
 // The layout does not check its cells.
 int usableSpan(int span)
@@ -23,14 +25,35 @@ int usableSpan(int span)
     return std::clamp(span, 1, largestSpan);
 }
 
+// What is no size gives the usual one; what no screen shows is bounded.
+int usableSize(int size, int usual)
+{
+    return size <= 0 ? usual : std::min(size, largestSize);
+}
+
+int usableSpacing(int spacing)
+{
+    return std::clamp(spacing, 0, largestSpacing);
+}
+
+int pageButtonWidth(const PageData& page)
+{
+    return usableSize(page.buttonWidth, PageData::usualButtonWidth);
+}
+
+int pageButtonHeight(const PageData& page)
+{
+    return usableSize(page.buttonHeight, PageData::usualButtonHeight);
+}
+
 QSize buttonSize(const PageData& page, const RunAppData& launcher)
 {
     const int columns = usableSpan(launcher.columnspan);
     const int rows = usableSpan(launcher.rowspan);
-    const int width = launcher.buttonwidth != 0 ? launcher.buttonwidth : page.buttonWidth;
+    const int width = usableSize(launcher.buttonwidth, pageButtonWidth(page));
     // An arrow column lies between two button columns, so the gap there counts twice.
-    return {width * columns + 2 * (columns - 1) * page.horizontalSpacing,
-            page.buttonHeight * rows + (rows - 1) * page.verticalSpacing};
+    return {width * columns + 2 * (columns - 1) * usableSpacing(page.horizontalSpacing),
+            pageButtonHeight(page) * rows + (rows - 1) * usableSpacing(page.verticalSpacing)};
 }
 
 QPushButton* createButton(const PageData& page, RunAppData& launcher, ExecutableLookup& lookup)
@@ -40,7 +63,7 @@ QPushButton* createButton(const PageData& page, RunAppData& launcher, Executable
     if (!launcher.image.isEmpty()) {
         button->setIcon(QIcon(launcher.image));
         if (launcher.name.isEmpty()) {
-            button->setIconSize({page.buttonWidth - 2, page.buttonHeight - 2});
+            button->setIconSize({pageButtonWidth(page) - 2, pageButtonHeight(page) - 2});
             button->setAccessibleName(launcher.description.isEmpty() ? QFileInfo(launcher.CurrentExe()).baseName()
                                                                      : launcher.description);
         }
@@ -93,8 +116,8 @@ QList<LauncherCell> placeLaunchers(const QList<LauncherSpan>& spans, int columns
 void buildButtons(PageData& page, QGridLayout& grid)
 {
     ExecutableLookup lookup(appRegistry->executableFolders());
-    grid.setHorizontalSpacing(page.horizontalSpacing);
-    grid.setVerticalSpacing(page.verticalSpacing);
+    grid.setHorizontalSpacing(usableSpacing(page.horizontalSpacing));
+    grid.setVerticalSpacing(usableSpacing(page.verticalSpacing));
     grid.setSizeConstraint(QLayout::SetNoConstraint);
     QList<RunAppData*> shown;
     QList<LauncherSpan> spans;

@@ -16,16 +16,18 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(LauncherOutput)
 };
 
-constexpr qsizetype keptErrors = 64LL * 1024;
 // A window lays out each line; many short ones cost more than their bytes.
-constexpr int shownLines = 500'000;
+int mostLines(int displayMode)
+{
+    return displayMode == MessageDisplay ? 30 : 500'000;
+}
 
 // What a window of the mode can show without stalling.
 qsizetype largestOutput(int displayMode)
 {
     switch (displayMode) {
     case MessageDisplay:
-        return 16LL * 1024;
+        return 4LL * 1024;
     case HtmlDisplay:
         return 1024LL * 1024;
     default:
@@ -44,6 +46,15 @@ qsizetype lengthOfLines(const QByteArray& text, int lines)
     return end;
 }
 
+// Trimmed in steps: removing a little each time from the front would cost each time.
+void appendTail(QByteArray& tail, const QByteArray& bytes, qsizetype kept)
+{
+    tail += bytes;
+    if (tail.size() > 2 * kept) {
+        tail = tail.last(kept);
+    }
+}
+
 } // namespace
 
 LauncherOutput::LauncherOutput(FileMaker fileMaker)
@@ -55,13 +66,39 @@ void LauncherOutput::start(int displayMode)
 {
     mode = displayMode;
     output.clear();
-    errors.clear();
+    outputTail.clear();
+    errorTail.clear();
+    outputProgress.clear();
+    errorProgress.clear();
+    latest = {};
     isCut = false;
     log.start({});
 }
 
+bool LauncherOutput::append(const QByteArray& bytes)
+{
+    keep(bytes);
+    appendTail(outputTail, bytes, keptEnd);
+    return follow(outputProgress, bytes);
+}
+
+bool LauncherOutput::appendErrors(const QByteArray& bytes)
+{
+    appendTail(errorTail, bytes, keptEnd);
+    return follow(errorProgress, bytes);
+}
+
+bool LauncherOutput::follow(ProgressLine& channel, const QByteArray& bytes)
+{
+    if (!channel.append(bytes)) {
+        return false;
+    }
+    latest = channel.progress();
+    return true;
+}
+
 // Taken as it comes: a full pipe would stop the tool, and an endless one must not fill the memory.
-void LauncherOutput::append(const QByteArray& bytes)
+void LauncherOutput::keep(const QByteArray& bytes)
 {
     if (mode == NoDisplay) {
         return;
@@ -76,17 +113,9 @@ void LauncherOutput::append(const QByteArray& bytes)
     }
 }
 
-void LauncherOutput::appendErrors(const QByteArray& bytes)
-{
-    errors += bytes;
-    if (errors.size() > keptErrors) {
-        errors = errors.last(keptErrors);
-    }
-}
-
 QString LauncherOutput::takeText()
 {
-    if (const qsizetype size = lengthOfLines(output, shownLines); size < output.size()) {
+    if (const qsizetype size = lengthOfLines(output, mostLines(mode)); size < output.size()) {
         cut(size);
     }
     log.finish();

@@ -39,6 +39,19 @@ bool PageData::ProgramsRunning() const
     return std::ranges::any_of(applications, [](const auto& launcher) { return launcher->isAlive(); });
 }
 
+QStringList PageData::runningNames() const
+{
+    QStringList names;
+    for (const auto& launcher : applications) {
+        if (launcher->isRunning()) {
+            names += launcher->title();
+        } else if (launcher->isAlive()) {
+            names += tr("%1 (what it started)").arg(launcher->title());
+        }
+    }
+    return names;
+}
+
 void PageData::StopApplications()
 {
     for (const auto& launcher : applications) {

@@ -32,6 +32,8 @@ public:
     bool ApplicationsRunning() const;
     /// The same without the windows.
     bool ProgramsRunning() const;
+    /// The names of what still runs: launchers, and those that left something running.
+    QStringList runningNames() const;
     /// The launchers after whose success this one is enabled, by name.
     QStringList StartersOf(RunAppData* launcher) const;
     void StopApplications();
@@ -43,13 +45,16 @@ public:
     void ConditionsOnActivate(RunAppData* launcher) { applyGroups(launcher, QStringLiteral("finish")); }
     void ConditionsOnComplete(RunAppData* launcher) { applyGroups(launcher, QStringLiteral("start")); }
 
+    static constexpr int usualButtonWidth = 180;
+    static constexpr int usualButtonHeight = 50;
+
     QString titleAttribute;
     QString title;
     QString subtitle;
     QString helpPage;
     int columns = 3;
-    int buttonWidth = 180;
-    int buttonHeight = 50;
+    int buttonWidth = usualButtonWidth;
+    int buttonHeight = usualButtonHeight;
     int horizontalSpacing = 2;
     int verticalSpacing = 2;
     std::vector<std::unique_ptr<RunAppData>> applications;

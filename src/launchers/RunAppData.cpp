@@ -5,12 +5,14 @@
 #include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
 #include "dialogs/PlainText.h"
+#include "dialogs/ProgressBar.h"
+#include "launchers/LauncherArguments.h"
 #include "launchers/PageData.h"
+#include "launchers/RunIndicator.h"
+#include "launchers/RunReport.h"
 #include "launchers/StartProcess.h"
-#include "personality/MessageSelectionFile.h"
-#include "personality/ProductNames.h"
+#include "personality/Result.h"
 #include "process/ExecutableLookup.h"
-#include "project/Project.h"
 
 #include <QAction>
 #include <QDir>
@@ -75,6 +77,8 @@ void RunAppData::attachButton(QPushButton* pushButton)
     stopAction->setVisible(false);
     connect(stopAction, &QAction::triggered, this, &RunAppData::Stop);
     pushButton->addAction(stopAction);
+    indicator = new RunIndicator(pushButton);
+    connect(indicator, &RunIndicator::stopRequested, this, &RunAppData::Stop);
     pushButton->setContextMenuPolicy(Qt::ActionsContextMenu);
     updateToolTip();
 }
@@ -97,7 +101,7 @@ void RunAppData::Activate()
     if (busyCursor) {
         windowLock.lock(title());
     }
-    const Result<QStringList> arguments = prepareArguments();
+    const Result<QStringList> arguments = LauncherArguments::prepare(exeargs, page);
     if (!arguments.ok()) {
         windowLock.unlock();
         MessageBox::warn(MainWindow::current(), title(), arguments.problem);
@@ -112,42 +116,6 @@ void RunAppData::Activate()
         return;
     }
     process.closeWriteChannel();
-}
-
-Result<QStringList> RunAppData::prepareArguments()
-{
-    const Result<QString> messageFile = prepareMessageFile();
-    if (!messageFile.ok()) {
-        return {{}, messageFile.problem};
-    }
-    // A page without a project of its own works on the one the suite used last.
-    Project own;
-    const bool ownProject = page && !page->projectFile.isEmpty();
-    if (ownProject) {
-        own.load(page->projectFile, appRegistry->projectFacts());
-    }
-    Project& project = ownProject ? own : appRegistry->values.project;
-    const bool isC = ownProject ? page->isORVC : project.isCAnalyser();
-    return project.expandLauncherArguments(exeargs, ProductNames::of(isC).shortName, messageFile.value,
-                                           appRegistry->optionSources());
-}
-
-Result<QString> RunAppData::prepareMessageFile()
-{
-    PersistedValues& values = appRegistry->values;
-    if (!values.useMessageViewerMessages) {
-        return {};
-    }
-    if (!values.project.isCAnalyser()) {
-        values.cMessages = values.cppMessages;
-    }
-    const QString fileName = appRegistry->CreateTempFileName(u".via"_s);
-    if (!fileName.isEmpty() && writeMessageSelectionFile(values.cMessages, fileName).ok()) {
-        return {fileName};
-    }
-    return {{},
-            tr("A temporary file can not be written in %1. Make room there or make it writable.")
-                .arg(QDir::toNativeSeparators(QDir::tempPath()))};
 }
 
 void RunAppData::ActivateComplete()
@@ -166,7 +134,7 @@ void RunAppData::ActivateComplete()
         window->raise();
     }
     if (process.error() != QProcess::UnknownError || process.exitCode() != 0) {
-        showFailure();
+        showFailure(RunReport::failure(process));
         return;
     }
     if (displayMode != NoDisplay) {
@@ -197,6 +165,10 @@ void RunAppData::Stop()
     if (process.processId() == 0) {
         return;
     }
+    if (indicator) {
+        indicator->showStopping();
+    }
+    updateText();
     // Its children may not listen although it does.
     process.setLeftovers(ChildProcess::Leftovers::Kill);
     process.terminateGroup();
@@ -209,48 +181,50 @@ void RunAppData::Stop()
 
 void RunAppData::readOutput()
 {
-    output.append(process.readAllStandardOutput());
+    if (output.append(process.readAllStandardOutput())) {
+        showProgress();
+    }
 }
 
 void RunAppData::readErrors()
 {
-    output.appendErrors(process.readAllStandardError());
+    if (output.appendErrors(process.readAllStandardError())) {
+        showProgress();
+    }
+}
+
+void RunAppData::showProgress()
+{
+    windowLock.showProgress(output.progress());
+    if (indicator && !terminated) {
+        indicator->showProgress(output.progress());
+        updateText();
+    }
 }
 
 bool RunAppData::showOutput()
 {
     readOutput();
     if (output.isEmpty()) {
-        MessageBox::warn(MainWindow::current(), title(), tr("No data returned from process"));
+        showFailure(tr("No data returned from process"));
         return false;
     }
     auto* dialog = new DisplayDialog(*appRegistry, title(), displayMode, windowWidth,
                                      displayMode == MessageDisplay ? messageHeight : windowHeight);
     // The window stays when it is closed; it goes with its launcher at the latest.
     connect(this, &QObject::destroyed, dialog, &QObject::deleteLater);
-    dialog->SetText(output.takeText());
+    const QString text = output.takeText();
+    dialog->setWholeFile(output.wholeFile());
+    dialog->SetText(text);
     dialog->show();
     return true;
 }
 
-void RunAppData::showFailure()
+void RunAppData::showFailure(const QString& text)
 {
+    readOutput();
     readErrors();
-    QString text;
-    switch (process.error()) {
-    case QProcess::FailedToStart:
-        text = tr("Failed to Start");
-        break;
-    case QProcess::Crashed:
-        text = tr("Process Crashed");
-        break;
-    default:
-        text = tr("Process Failed") + u" ["_s + QString::number(process.exitCode()) + u']';
-    }
-    QString details = process.error() == QProcess::UnknownError ? QString() : process.errorString() + u'\n';
-    details = process.program() + u' ' + process.arguments().join(u' ') + u'\n' + details +
-              QString::fromLocal8Bit(output.errorOutput());
-    MessageBox::warn(MainWindow::current(), title(), text, details);
+    MessageBox::warnTogether(MainWindow::current(), title(), text, RunReport::details(process, output));
 }
 
 void RunAppData::markRunning(bool isRunning)
@@ -258,9 +232,30 @@ void RunAppData::markRunning(bool isRunning)
     if (!button) {
         return;
     }
-    button->setText(isRunning ? title() + u'\n' + tr("running...") : name);
     stopAction->setVisible(isRunning);
+    if (isRunning) {
+        indicator->show(title());
+    } else {
+        indicator->hide();
+    }
+    updateText();
     updateToolTip();
+}
+
+void RunAppData::updateText()
+{
+    if (!button) {
+        return;
+    }
+    if (!stopAction->isVisible()) {
+        button->setText(name);
+        return;
+    }
+    const Progress& progress = output.progress();
+    const QString state = terminated           ? tr("stopping...")
+                          : progress.isKnown() ? ProgressBar::countText(progress)
+                                               : tr("running...");
+    button->setText(title() + u'\n' + state);
 }
 
 void RunAppData::enableButton(bool enabled)
@@ -274,7 +269,7 @@ void RunAppData::updateToolTip()
 {
     QString text = disabledReason.isEmpty() ? description : disabledReason;
     if (stopAction->isVisible()) {
-        text = tr("Running. Its context menu stops it.");
+        text = tr("Running. The small button on it and its context menu stop it.");
     } else if (page && disabledReason.isEmpty() && !button->isEnabled()) {
         const QStringList starters = page->StartersOf(this);
         if (!starters.isEmpty()) {

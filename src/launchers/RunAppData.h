@@ -4,7 +4,6 @@
 #include "definitions/ApplicationRecord.h"
 #include "launchers/LauncherOutput.h"
 #include "launchers/WindowLock.h"
-#include "personality/Result.h"
 #include "process/ChildProcess.h"
 
 #include <QObject>
@@ -16,6 +15,7 @@
 class ExecutableLookup;
 class PageData;
 class QAction;
+class RunIndicator;
 
 /// A launcher: a button that runs a tool of the suite on the new project.
 class RunAppData : public QObject, public ApplicationRecord
@@ -35,7 +35,7 @@ public:
     bool isAlive() { return isRunning() || process.hasLeftovers(); }
     /// Stops the run and closes all output windows.
     void Terminate();
-    /// Marks the button while the tool runs, and offers Stop in its context menu.
+    /// Marks the button while the tool runs, and offers Stop on it and in its context menu.
     void attachButton(QPushButton* pushButton);
     void enableButton(bool enabled);
 
@@ -69,18 +69,18 @@ public:
     PageData* page;
 
 private:
-    Result<QStringList> prepareArguments();
-    /// The message selection for the tool; no file when the user does not want one.
-    static Result<QString> prepareMessageFile();
     void readOutput();
     void readErrors();
+    void showProgress();
     bool showOutput();
-    void showFailure();
+    void showFailure(const QString& text);
     void markRunning(bool isRunning);
+    void updateText();
     void updateToolTip();
 
     bool awaitingEnd = false;
     LauncherOutput output;
     WindowLock windowLock;
     QPointer<QAction> stopAction;
+    QPointer<RunIndicator> indicator;
 };

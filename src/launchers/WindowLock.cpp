@@ -30,13 +30,19 @@ WindowLock::WindowLock(QObject* parent)
     connect(&busyTimer, &QTimer::timeout, this, &WindowLock::showBusyDialog);
 }
 
+WindowLock::~WindowLock() = default;
+
 void WindowLock::lock(const QString& tool)
 {
     if (locked) {
         return;
     }
     locked = true;
+    if (const QWidget* window = MainWindow::current()) {
+        focused = window->focusWidget();
+    }
     toolName = tool;
+    latest = {};
     QApplication::setOverrideCursor(Qt::WaitCursor);
     busyTimer.start(busyDelay);
     enableMainWindow(false);
@@ -52,11 +58,24 @@ void WindowLock::unlock()
     busyTimer.stop();
     delete busyDialog;
     enableMainWindow(true);
+    // A disabled window loses it, and the next Enter would go to Finish.
+    if (focused) {
+        focused->setFocus();
+    }
 }
 
 void WindowLock::showBusyDialog()
 {
     busyDialog = new BusyDialog(toolName, MainWindow::current());
     connect(busyDialog, &QDialog::rejected, this, &WindowLock::stopRequested);
+    busyDialog->showProgress(latest);
     busyDialog->show();
+}
+
+void WindowLock::showProgress(const Progress& progress)
+{
+    latest = progress;
+    if (busyDialog) {
+        busyDialog->showProgress(progress);
+    }
 }

@@ -1,25 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "process/ProgressLine.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <QTimer>
+#include <QWidget>
 
-class QDialog;
+class BusyDialog;
 
 /// Locks the main window while a tool works that the user waits for: wait cursor, no input, and after a moment a window
-/// that names the tool and offers to stop it.
+/// that names the tool, tells how far it is and offers to stop it.
 class WindowLock : public QObject
 {
     Q_OBJECT
 
 public:
     explicit WindowLock(QObject* parent = nullptr);
+    ~WindowLock() override;
 
     /// Locks for the tool of this name. Locking twice is locking once.
     void lock(const QString& tool);
     void unlock();
+    void showProgress(const Progress& progress);
 
 Q_SIGNALS:
     void stopRequested();
@@ -29,6 +34,8 @@ private:
 
     bool locked = false;
     QString toolName;
+    Progress latest;
     QTimer busyTimer;
-    QPointer<QDialog> busyDialog;
+    QPointer<QWidget> focused;
+    QPointer<BusyDialog> busyDialog;
 };

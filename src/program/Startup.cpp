@@ -5,6 +5,7 @@
 #include "app/Translations.h"
 #include "batch/BatchArguments.h"
 #include "batch/BatchMode.h"
+#include "dialogs/MessageBox.h"
 #include "launchers/PageReader.h"
 #include "process/Guardian.h"
 #include "process/StopSignals.h"
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 
+#include <cstdlib>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -120,6 +122,13 @@ int runWithWindow(int argc, char** argv)
         return 0;
     }
     ApplicationWindow window(title(), u"projectCreation.htm"_s, QCoreApplication::arguments());
+    if (const auto project = CommandLine::toolsProject(QCoreApplication::arguments())) {
+        const Result<void> opened = window.openTools(*project);
+        if (!opened.ok()) {
+            MessageBox::warn(nullptr, title(), opened.problem);
+            return EXIT_FAILURE;
+        }
+    }
     window.show();
     const StopSignals stopSignals;
     QObject::connect(&stopSignals, &StopSignals::received, &registry, [&registry] {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/ActionPage.h"
 #include "app/AppRegistry.h"
+#include "dialogs/ElidedLabel.h"
+#include "dialogs/ProgressBar.h"
 #include "process/ArgumentSubstitution.h"
 #include "wizard/ApplicationWindow.h"
 #include "wizard/OutputView.h"
@@ -10,8 +12,8 @@
 #include <QDir>
 #include <QFile>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 
 #include <algorithm>
@@ -33,7 +35,8 @@ constexpr int charactersPerFlush = 64 * 1024;
 ActionPage::ActionPage(ApplicationWindow* owner)
     : AppPage(owner, ActionPageId)
     , statusLabel(new QLabel)
-    , progressBar(new QProgressBar)
+    , itemLabel(new ElidedLabel)
+    , progressBar(new ProgressBar)
     , stopButton(new QPushButton(tr("&Stop")))
     , outputView(new OutputView)
     , logLabel(new QLabel)
@@ -42,8 +45,6 @@ ActionPage::ActionPage(ApplicationWindow* owner)
 {
     setTitle(tr("Create the Project"));
     setSubTitle(tr("Conversion in progress..."));
-    progressBar->setRange(0, 0);
-    progressBar->setValue(1);
     stopButton->setToolTip(tr("Stop the conversion program and everything it started"));
     statusLabel->setBuddy(progressBar);
     progressBar->setAccessibleName(tr("Progress of the conversion"));
@@ -53,7 +54,10 @@ ActionPage::ActionPage(ApplicationWindow* owner)
     logLabel->setWordWrap(true);
 
     auto* grid = new QGridLayout(this);
-    grid->addWidget(statusLabel, 0, 0, 1, 2);
+    auto* status = new QHBoxLayout;
+    status->addWidget(statusLabel);
+    status->addWidget(itemLabel, 1);
+    grid->addLayout(status, 0, 0, 1, 2);
     grid->addWidget(progressBar, 1, 0);
     grid->addWidget(stopButton, 1, 1);
     grid->addWidget(outputView, 2, 0, 1, 2);
@@ -101,6 +105,8 @@ void ActionPage::showRunning()
     window->conversionWarning.clear();
     setSubTitle(tr("Conversion in progress..."));
     statusLabel->setText(tr("Converting Project Progress:"));
+    progress.clear();
+    showProgress();
     progressBar->show();
     stopButton->show();
     logLabel->hide();
@@ -127,11 +133,21 @@ void ActionPage::cleanupPage()
 void ActionPage::ReadReady()
 {
     const QString text = run.takeOutput();
-    log.append(text.toLocal8Bit());
+    const QByteArray bytes = text.toLocal8Bit();
+    log.append(bytes);
     buffer.append(text);
+    if (progress.append(bytes)) {
+        showProgress();
+    }
     if (!flushTimer.isActive()) {
         flushTimer.start();
     }
+}
+
+void ActionPage::showProgress()
+{
+    progressBar->showProgress(progress.progress());
+    itemLabel->setLine(progress.progress().item);
 }
 
 void ActionPage::flushOutput()
@@ -194,6 +210,7 @@ void ActionPage::ConversionFinished(const QString& message, bool ok, const QStri
     setSubTitle(tr("Conversion Operation Finished"));
     statusLabel->setText(tr("Converting Project Status:"));
     progressBar->hide();
+    itemLabel->setLine({});
     stopButton->hide();
     finished = true;
     if (ok && QFile::exists(window->ProjectFile())) {

@@ -4,13 +4,15 @@
 #include "process/ConversionRun.h"
 #include "process/OutputBuffer.h"
 #include "process/OutputLog.h"
+#include "process/ProgressLine.h"
 #include "wizard/AppPage.h"
 
 #include <QTimer>
 
+class ElidedLabel;
 class OutputView;
+class ProgressBar;
 class QLabel;
-class QProgressBar;
 class QPushButton;
 
 /// Runs the conversion and shows what it prints and how it ends.
@@ -36,6 +38,7 @@ public Q_SLOTS:
 
 private:
     void showRunning();
+    void showProgress();
     void flushOutput();
     /// Says where the whole output is, once the view does not hold all of it.
     void nameLog();
@@ -43,7 +46,9 @@ private:
     void ConversionFinished(const QString& message, bool ok, const QString& colour);
 
     QLabel* statusLabel;
-    QProgressBar* progressBar;
+    /// What the conversion program is at, as far as it tells.
+    ElidedLabel* itemLabel;
+    ProgressBar* progressBar;
     QPushButton* stopButton;
     OutputView* outputView;
     /// Names the file with the complete output.
@@ -51,6 +56,7 @@ private:
     ConversionRun run;
     OutputBuffer buffer;
     OutputLog log;
+    ProgressLine progress;
     qint64 shownLines = 0;
     QTimer flushTimer;
     bool finished = false;

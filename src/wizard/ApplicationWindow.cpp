@@ -7,6 +7,7 @@
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/MessageBox.h"
 #include "personality/FileScans.h"
+#include "project/Project.h"
 #include "wizard/ActionPage.h"
 #include "wizard/ConfPage.h"
 #include "wizard/DisplayOptionsPage.h"
@@ -97,6 +98,34 @@ int ApplicationWindow::NextPage(int pageId) const
     return nextPage(pageId, *this);
 }
 
+Result<void> ApplicationWindow::openTools(const QString& projectFile)
+{
+    if (projectFile.isEmpty()) {
+        return {tr("-tools: the name of a project file must follow.")};
+    }
+    const QFileInfo file(projectFile);
+    const QString path = QDir::toNativeSeparators(file.absoluteFilePath());
+    if (!file.isFile()) {
+        return {file.exists() ? tr("%1 is not a file. Choose a project file (.prj).").arg(path)
+                              : tr("The project file %1 does not exist. Check its name and folder.").arg(path)};
+    }
+    if (QFile probe(path); !probe.open(QIODevice::ReadOnly)) {
+        return {tr("The project file %1 can not be read: %2").arg(path, probe.errorString())};
+    }
+    Project project;
+    if (!project.load(path, appRegistry->projectFacts())) {
+        return {tr("%1 holds no project. Create the project anew, or choose another file.").arg(path)};
+    }
+    if (appRegistry->definitions.applicationPages.empty()) {
+        return {tr("The definitions file %1 declares no tools, so there is nothing to open %2 with.")
+                    .arg(appRegistry->DefinitionsFileName(), path)};
+    }
+    SetAnalyser(project.isCAnalyser());
+    toolsFile = path;
+    setStartId(DisplayOptionsPageId);
+    return {};
+}
+
 void ApplicationWindow::showConversionOutput()
 {
     const QString log = actionPage->logFileName();
@@ -113,6 +142,8 @@ void ApplicationWindow::CustomButtonClicked(int which)
     setOption(QWizard::HaveCustomButton1, false);
     setOption(QWizard::NoCancelButton, false);
     setOption(QWizard::NoBackButtonOnLastPage, false);
+    toolsFile.clear();
+    setStartId(StartPageId);
     restart();
 }
 
@@ -150,16 +181,18 @@ void ApplicationWindow::DoRegistryValues(QSettings* settings)
     settings->endGroup();
 }
 
-bool ApplicationWindow::confirmInterruption()
+OrvWizardWindow::Consent ApplicationWindow::confirmInterruption()
 {
     if (!actionPage->isConverting()) {
-        return true;
+        return Consent::NotNeeded;
     }
+    const QStringList running = QStringList{conversion.isEmpty() ? tr("the conversion") : conversion} + runningNames();
     const bool agreed = MessageBox::ask(this, tr("Conversion in progress"),
                                         tr("The conversion is still running. Closing the wizard stops it, and the new "
-                                           "project file will not be created.\nDo you wish to close the wizard?"));
+                                           "project file will not be created.\nDo you wish to close the wizard?"),
+                                        runningText(running));
     // A conversion that ended behind the question has a result, which the user shall see.
-    return agreed && actionPage->isConverting();
+    return agreed && actionPage->isConverting() ? Consent::Given : Consent::Refused;
 }
 
 void ApplicationWindow::presetFromLastProject()

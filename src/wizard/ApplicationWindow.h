@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "personality/Result.h"
 #include "process/WizardState.h"
 #include "wizard/OrvWizardWindow.h"
 
@@ -27,6 +28,11 @@ public:
     const QString& GetMessagePersonality();
     /// The id of the page that follows pageId.
     int NextPage(int pageId) const;
+    /// Makes the tools' page the first one, for a project that exists; before the window is shown. The problem says
+    /// what is wrong with the file.
+    Result<void> openTools(const QString& projectFile);
+    /// The project given to openTools(), until another one is to be converted; empty otherwise.
+    const QString& openedProject() const { return toolsFile; }
     /// Shows what the conversion program printed.
     void showConversionOutput();
 
@@ -36,11 +42,12 @@ public Q_SLOTS:
     void DoRegistryValues(QSettings* settings);
 
 protected:
-    bool confirmInterruption() override;
+    Consent confirmInterruption() override;
 
 private:
     void presetFromLastProject();
     void createPages();
 
     ActionPage* actionPage = nullptr;
+    QString toolsFile;
 };

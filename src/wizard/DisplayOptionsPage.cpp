@@ -1,26 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/DisplayOptionsPage.h"
 #include "app/AppRegistry.h"
+#include "dialogs/ElidedLabel.h"
 #include "launchers/PageData.h"
 #include "wizard/ApplicationWindow.h"
 #include "wizard/PageSequence.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     : AppPage(owner, DisplayOptionsPageId)
+    , projectLabel(new ElidedLabel)
+    , warning(new QWidget)
+    , warningText(new QLabel)
+    , outputButton(new QPushButton(tr("Show the &conversion's output...")))
     , buttonGroup(new QGroupBox)
     , buttonGrid(new QGridLayout)
     , scrollArea(new QScrollArea)
 {
     setTitle(tr("Analyse and Display Operations"));
-    setSubTitle(tr("Now that the project is created launch an application to analyse and display the project "
-                   "information"));
     buttonGroup->setFlat(true);
     buttonGroup->setLayout(buttonGrid);
     // A disabled button gets no menu of its own, but its tool may run all the same.
@@ -29,12 +36,13 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     scrollArea->setWidget(buttonGroup);
     scrollArea->setWidgetResizable(true);
     // The page before is left at once, with all that its program said.
-    auto* output = new QPushButton(tr("Show the &conversion's output..."));
-    output->setAutoDefault(false);
-    connect(output, &QPushButton::clicked, owner, &ApplicationWindow::showConversionOutput);
+    outputButton->setAutoDefault(false);
+    connect(outputButton, &QPushButton::clicked, owner, &ApplicationWindow::showConversionOutput);
     auto* layout = new QVBoxLayout(this);
+    createNotes(*layout);
     layout->addWidget(scrollArea);
-    layout->addWidget(output, 0, Qt::AlignLeft);
+    layout->addWidget(outputButton, 0, Qt::AlignLeft);
+    showNotes();
     // The page appears by itself: an Enter that was meant for the one before must not close the wizard.
     connect(owner, &QWizard::currentIdChanged, this, [owner](int id) {
         auto* finish = qobject_cast<QPushButton*>(owner->button(QWizard::FinishButton));
@@ -42,6 +50,37 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
             finish->setDefault(false);
         }
     });
+}
+
+void DisplayOptionsPage::createNotes(QLayout& layout)
+{
+    warningText->setTextFormat(Qt::PlainText);
+    warningText->setWordWrap(true);
+    warningText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    auto* icon = new QLabel;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
+    auto* row = new QHBoxLayout(warning);
+    row->setContentsMargins({});
+    row->addWidget(icon, 0, Qt::AlignTop);
+    row->addWidget(warningText, 1);
+    layout.addWidget(projectLabel);
+    layout.addWidget(warning);
+}
+
+// A project that was opened has no conversion to tell of.
+void DisplayOptionsPage::showNotes()
+{
+    const QString& opened = window->openedProject();
+    const bool isNew = opened.isEmpty();
+    setSubTitle(isNew ? tr("Now that the project is created launch an application to analyse and display the project "
+                           "information")
+                      : tr("Launch an application to analyse and display the project information"));
+    projectLabel->setLine(isNew ? QString() : tr("Project: %1").arg(opened));
+    projectLabel->setVisible(!isNew);
+    warningText->setText(window->conversionWarning);
+    warning->setVisible(isNew && !window->conversionWarning.isEmpty());
+    outputButton->setVisible(isNew);
 }
 
 // Once, when they are first needed: until then the launchers are those of the C++ analyser, which decides what is
@@ -80,9 +119,11 @@ void DisplayOptionsPage::initializePage()
     window->setOption(QWizard::NoCancelButton, true);
     window->setOption(QWizard::HaveCustomButton1, true);
     window->setButtonText(QWizard::CustomButton1, tr("New Project Conversion"));
+    showNotes();
     if (PageData* launchers = launcherPage()) {
         buildButtons(*launchers);
-        launchers->SetProjectFile(window->ProjectFile());
+        const QString& opened = window->openedProject();
+        launchers->SetProjectFile(opened.isEmpty() ? window->ProjectFile() : opened);
         launchers->SetIsORVC(window->isORVC);
     }
 }

@@ -3,9 +3,13 @@
 
 #include "wizard/AppPage.h"
 
+class ElidedLabel;
 class PageData;
 class QGridLayout;
 class QGroupBox;
+class QLabel;
+class QLayout;
+class QPushButton;
 class QScrollArea;
 
 /// The suite's tools for the project that was just created.
@@ -22,11 +26,18 @@ public:
     bool isComplete() const override { return true; }
 
 private:
+    void createNotes(QLayout& layout);
+    void showNotes();
     void buildButtons(PageData& launchers);
     void showButtonMenu(const QPoint& position);
     /// The first launcher page of the definitions; the others are never shown.
     static PageData* launcherPage();
 
+    /// Names the project where no page before has.
+    ElidedLabel* projectLabel;
+    QWidget* warning;
+    QLabel* warningText;
+    QPushButton* outputButton;
     QGroupBox* buttonGroup;
     QGridLayout* buttonGrid;
     QScrollArea* scrollArea;

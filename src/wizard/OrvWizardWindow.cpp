@@ -18,6 +18,7 @@
 #include <QShowEvent>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -89,7 +90,9 @@ bool OrvWizardWindow::validateCurrentPage()
 
 void OrvWizardWindow::reject()
 {
-    if (confirmInterruption() && confirmStop(&PageData::ProgramsRunning)) {
+    // Who has agreed to one question is not asked another.
+    const Consent consent = confirmInterruption();
+    if (consent == Consent::Given || (consent == Consent::NotNeeded && confirmStop(&PageData::ProgramsRunning))) {
         QWizard::reject();
     }
 }
@@ -131,7 +134,13 @@ void OrvWizardWindow::showEvent(QShowEvent* event)
 
 void OrvWizardWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(confirmInterruption() && CanClose());
+    const Consent consent = confirmInterruption();
+    if (consent == Consent::Given) {
+        stopChildren();
+        event->accept();
+        return;
+    }
+    event->setAccepted(consent == Consent::NotNeeded && CanClose());
 }
 
 bool OrvWizardWindow::confirmStop(bool (PageData::*isBusy)() const)
@@ -142,7 +151,28 @@ bool OrvWizardWindow::confirmStop(bool (PageData::*isBusy)() const)
     return (!running && !anyStray) ||
            MessageBox::ask(this, tr("Child Applications Still Running"),
                            tr("Closing this application will kill child applications.\nDo you wish to "
-                              "close this application?"));
+                              "close this application?"),
+                           runningText(runningNames()));
+}
+
+QStringList OrvWizardWindow::runningNames() const
+{
+    QStringList names;
+    for (const auto& page : appRegistry->definitions.applicationPages) {
+        names += page->runningNames();
+    }
+    if (names.isEmpty() && StrayProcesses::any()) {
+        names += tr("a program that a tool has left running");
+    }
+    for (const QDialog* dialog : std::as_const(appRegistry->openDialogs)) {
+        names += tr("window \"%1\"").arg(dialog->windowTitle());
+    }
+    return names;
+}
+
+QString OrvWizardWindow::runningText(const QStringList& names)
+{
+    return names.isEmpty() ? QString() : tr("Still open: %1").arg(names.join(u", "_s));
 }
 
 bool OrvWizardWindow::CanClose()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QStringList>
 #include <QWizard>
 
 class HelpManager;
@@ -29,8 +30,13 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     /// True when the window may go; what still runs has been stopped then.
     virtual bool CanClose();
-    /// True when the user agrees to give up what the current page is doing, or it does nothing.
-    virtual bool confirmInterruption() { return true; }
+    enum class Consent { NotNeeded, Given, Refused };
+    /// Asks whether what the current page is doing may be given up, if it does something.
+    virtual Consent confirmInterruption() { return Consent::NotNeeded; }
+    /// What runs besides the current page, and what windows are open, for the user.
+    QStringList runningNames() const;
+    /// The line that tells it below a question; empty when there is nothing to tell.
+    static QString runningText(const QStringList& names);
     virtual void FinishHook() {}
 
     QAbstractButton* printButton = nullptr;

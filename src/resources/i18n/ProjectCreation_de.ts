@@ -114,6 +114,34 @@ Möchten Sie den Assistenten schließen?</translation>
         <source>The output could not be kept.</source>
         <translation>Die Ausgabe konnte nicht aufbewahrt werden.</translation>
     </message>
+    <message>
+        <source>-tools: the name of a project file must follow.</source>
+        <translation>-tools: Es muss der Name einer Projektdatei folgen.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file. Choose a project file (.prj).</source>
+        <translation>%1 ist keine Datei. Wählen Sie eine Projektdatei (.prj).</translation>
+    </message>
+    <message>
+        <source>The project file %1 does not exist. Check its name and folder.</source>
+        <translation>Die Projektdatei %1 existiert nicht. Prüfen Sie Namen und Ordner.</translation>
+    </message>
+    <message>
+        <source>The project file %1 can not be read: %2</source>
+        <translation>Die Projektdatei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 holds no project. Create the project anew, or choose another file.</source>
+        <translation>%1 enthält kein Projekt. Erstellen Sie das Projekt neu oder wählen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>The definitions file %1 declares no tools, so there is nothing to open %2 with.</source>
+        <translation>Die Definitionsdatei %1 enthält keine Werkzeuge, mit denen %2 geöffnet werden könnte.</translation>
+    </message>
+    <message>
+        <source>the conversion</source>
+        <translation>die Konvertierung</translation>
+    </message>
 </context>
 <context>
     <name>ArgumentSubstitution</name>
@@ -460,6 +488,10 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
         <source>&amp;Stop</source>
         <translation>An&amp;halten</translation>
     </message>
+    <message>
+        <source>Progress of %1</source>
+        <translation>Fortschritt von %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfPage</name>
@@ -648,8 +680,24 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
         <translation>Bericht drucken</translation>
     </message>
     <message>
-        <source>[The file is larger; only its beginning is shown]</source>
-        <translation>[Die Datei ist größer; nur ihr Anfang wird gezeigt]</translation>
+        <source>[Only the beginning of the report is shown here]</source>
+        <translation>[Hier wird nur der Anfang des Berichts gezeigt]</translation>
+    </message>
+    <message>
+        <source>&amp;Open in the browser</source>
+        <translation>Im &amp;Browser öffnen</translation>
+    </message>
+    <message>
+        <source>[This is only the beginning: the report is too long for this window, and no temporary file could be written for the browser]</source>
+        <translation>[Dies ist nur der Anfang: Der Bericht ist zu lang für dieses Fenster, und für den Browser konnte keine temporäre Datei geschrieben werden]</translation>
+    </message>
+    <message>
+        <source>[This is only the beginning: the report is too long for this window. Until the wizard is closed it is in %1]</source>
+        <translation>[Dies ist nur der Anfang: Der Bericht ist zu lang für dieses Fenster. Solange der Assistent geöffnet ist, steht er in %1]</translation>
+    </message>
+    <message>
+        <source>No browser could be started. The report is in %1; open it with a program of your choice.</source>
+        <translation>Es konnte kein Browser gestartet werden. Der Bericht steht in %1; öffnen Sie ihn mit einem Programm Ihrer Wahl.</translation>
     </message>
 </context>
 <context>
@@ -669,6 +717,14 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
     <message>
         <source>Show the &amp;conversion&apos;s output...</source>
         <translation>&amp;Ausgabe der Konvertierung zeigen...</translation>
+    </message>
+    <message>
+        <source>Launch an application to analyse and display the project information</source>
+        <translation>Starten Sie eine Anwendung, um die Projektinformationen zu analysieren und anzuzeigen</translation>
+    </message>
+    <message>
+        <source>Project: %1</source>
+        <translation>Projekt: %1</translation>
     </message>
 </context>
 <context>
@@ -776,6 +832,20 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
     </message>
 </context>
 <context>
+    <name>MessageBox</name>
+    <message>
+        <source>Meanwhile:</source>
+        <translation>Inzwischen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... und %n weiterer</numerusform>
+            <numerusform>... und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>OrvWizardWindow</name>
     <message>
         <source>&amp;Print</source>
@@ -790,6 +860,32 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
 Do you wish to close this application?</source>
         <translation>Wenn Sie diese Anwendung schließen, werden die von ihr gestarteten Anwendungen beendet.
 Möchten Sie diese Anwendung schließen?</translation>
+    </message>
+    <message>
+        <source>a program that a tool has left running</source>
+        <translation>ein Programm, das ein Werkzeug laufen ließ</translation>
+    </message>
+    <message>
+        <source>window &quot;%1&quot;</source>
+        <translation>Fenster „%1“</translation>
+    </message>
+    <message>
+        <source>Still open: %1</source>
+        <translation>Noch offen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PageData</name>
+    <message>
+        <source>%1 (what it started)</source>
+        <translation>%1 (was es gestartet hat)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBar</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
@@ -968,12 +1064,47 @@ Möchten Sie diese Anwendung schließen?</translation>
         <translation>In %1 kann keine temporäre Datei geschrieben werden. Schaffen Sie dort Platz, oder machen Sie den Ordner beschreibbar.</translation>
     </message>
     <message>
-        <source>Running. Its context menu stops it.</source>
-        <translation>Läuft. Das Kontextmenü hält das Werkzeug an.</translation>
-    </message>
-    <message>
         <source>Available once this has succeeded: %1</source>
         <translation>Verfügbar, sobald dies gelungen ist: %1</translation>
+    </message>
+    <message>
+        <source>stopping...</source>
+        <translation>wird angehalten...</translation>
+    </message>
+    <message>
+        <source>Running. The small button on it and its context menu stop it.</source>
+        <translation>Läuft. Die kleine Schaltfläche darauf und das Kontextmenü halten das Werkzeug an.</translation>
+    </message>
+    <message>
+        <source>Exit code: %1</source>
+        <translation>Exit-Code: %1</translation>
+    </message>
+    <message>
+        <source>Command: %1</source>
+        <translation>Befehl: %1</translation>
+    </message>
+    <message>
+        <source>The end of its output:</source>
+        <translation>Das Ende der Ausgabe:</translation>
+    </message>
+    <message>
+        <source>The end of its error output:</source>
+        <translation>Das Ende der Fehlerausgabe:</translation>
+    </message>
+</context>
+<context>
+    <name>RunIndicator</name>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Stop %1</source>
+        <translation>%1 anhalten</translation>
+    </message>
+    <message>
+        <source>Progress of %1</source>
+        <translation>Fortschritt von %1</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1312,13 @@ Möchten Sie diesen Ordner erstellen?
     <message>
         <source>The definitions file %1 is used, not the suite&apos;s; -file names the one that you want.</source>
         <translation>Die Definitionsdatei %1 wird benutzt, nicht die der Suite; -file nennt die gewünschte.</translation>
+    </message>
+</context>
+<context>
+    <name>TextPortions</name>
+    <message>
+        <source>[The text is longer; only its beginning is shown]</source>
+        <translation>[Der Text ist länger; nur sein Anfang wird gezeigt]</translation>
     </message>
 </context>
 <context>

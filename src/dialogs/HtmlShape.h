@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+
+/// What decides how long a window works on a piece of html, found in one pass without understanding it.
+struct HtmlShape
+{
+    qsizetype characters = 0;
+    /// Tags that begin an element: table cells, what begins a line or paragraph, and the others.
+    qsizetype cells = 0;
+    qsizetype blocks = 0;
+    qsizetype inlines = 0;
+    /// The longest piece of a line that can not be wrapped: its characters, and the tags within it.
+    qsizetype longestRun = 0;
+    qsizetype longestRunTags = 0;
+    /// How deep elements, and tables, lie in each other; what is never closed counts.
+    qsizetype depth = 0;
+    qsizetype tableDepth = 0;
+    /// Style rules, each of which is tried on each element.
+    qsizetype rules = 0;
+    qsizetype images = 0;
+
+    static HtmlShape of(QStringView html);
+    /// True when a text browser lays it out without its window stalling noticeably.
+    bool isQuick() const;
+};

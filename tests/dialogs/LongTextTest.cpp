@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppRegistry.h"
+#include "Controls.h"
+#include "dialogs/DisplayDialog.h"
+#include "dialogs/HtmlShape.h"
+#include "Installation.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QDesktopServices>
+#include <QFontInfo>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextBlock>
+#include <QTextBrowser>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString repeated(const QString& piece, int times)
+{
+    return piece.repeated(times);
+}
+
+} // namespace
+
+/// Texts of a size or shape on which a window would stall.
+class LongTextTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void judgesHtml_data()
+    {
+        const TestRows<QString, bool> row("html", "quick");
+        row("nothing", {}, true);
+        row("no html", u"1 < 2 and 3 > 2"_s, true);
+        row("a report", u"<h1>Report</h1>"_s + repeated(u"<p>some words of a report</p>\n"_s, 500), true);
+        row("a long report", repeated(u"<p>some words of a report</p>\n"_s, 20000), false);
+        row("a small table", u"<table>"_s + repeated(u"<tr><td>1<td>2</tr>"_s, 100) + u"</table>"_s, true);
+        row("many rows", u"<table>"_s + repeated(u"<tr><td>1</td></tr>"_s, 1000) + u"</table>"_s, false);
+        row("many cells", u"<TABLE><TR>"_s + repeated(u"<TD>1"_s, 1000), false);
+        row("a table in a table", repeated(u"<table><tr><td>"_s, 2) + u'x', true);
+        row("tables in tables", repeated(u"<table><tr><td>"_s, 12) + u'x', false);
+        row("a long word", repeated(u"x"_s, 10000), true);
+        row("a very long word", repeated(u"x"_s, 25000), false);
+        row("a long word of blanks that hold together", repeated(u"\u00A0"_s, 25000), false);
+        row("a long word of pieces", repeated(u"<b>x</b>"_s, 3000), false);
+        row("paragraphs in a word", repeated(u"<p>x</p>"_s, 1000), true);
+        row("deep", repeated(u"<div>"_s, 2000), false);
+        row("deep and closed", repeated(u"<div>"_s, 2000) + u'x' + repeated(u"</div>"_s, 2000), false);
+        row("beside each other", repeated(u"<div>x</div>"_s, 1000), true);
+        row("line breaks", repeated(u"a b<br>"_s, 5000), false);
+        row("rules", u"<style>"_s + repeated(u"a {} "_s, 2000) + u"</style>"_s + repeated(u"<p>x y"_s, 500), false);
+        row("images", repeated(u"<img src='a.png'> "_s, 100), false);
+        row("a comment", u"<!--"_s + repeated(u"<td>"_s, 5000) + u"-->"_s, true);
+        row("never ends", u"<p>x"_s + u"<table "_s, true);
+    }
+
+    void judgesHtml()
+    {
+        QFETCH(const QString, html);
+        QFETCH(const bool, quick);
+        QCOMPARE(HtmlShape::of(html).isQuick(), quick);
+    }
+
+    void offersTheBrowserForLongHtml()
+    {
+        const Installation suite;
+        auto registry = std::make_unique<AppRegistry>();
+        DisplayDialog dialog(*registry, u"Report"_s, DisplayDialog::Html, 600, 600);
+        const QString rows = repeated(u"<tr><td>cell</td></tr>\n"_s, 50000);
+        dialog.SetText(u"<h1>Title &amp; more</h1><table>"_s + rows);
+        dialog.show();
+        const QString shown = dialog.findChild<QTextBrowser*>()->toPlainText();
+        QVERIFY2(shown.contains("\n\nTitle & more\ncell"_L1), qPrintable(shown.left(100)));
+        QVERIFY(shown.size() < 20000);
+        const QString file = shown.section(u' ', -1).remove(u']');
+        QCOMPARE(suite.read(file).count("<td>"), 50000);
+
+        QDesktopServices::setUrlHandler(u"file"_s, this, "openUrl");
+        opened.clear();
+        controlCalled<QPushButton>(dialog, u"&Open in the browser"_s).click();
+        QDesktopServices::unsetUrlHandler(u"file"_s);
+        QCOMPARE(opened, QUrl::fromLocalFile(file));
+        // A browser may read it later.
+        registry->ShutDown();
+        QVERIFY(QFile::remove(file));
+    }
+
+    void showsShortHtmlItself()
+    {
+        AppRegistry registry;
+        DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Html, 600, 600);
+        dialog.SetText(u"<b>short</b>"_s);
+        dialog.show();
+        QCOMPARE(dialog.findChild<QTextBrowser*>()->toPlainText(), u"short"_s);
+        QVERIFY(!findControl(dialog, u"&Open in the browser"_s));
+    }
+
+    void textStandsInColumns()
+    {
+        AppRegistry registry;
+        DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Text, 600, 600);
+        QVERIFY(QFontInfo(dialog.findChild<QPlainTextEdit*>()->font()).fixedPitch());
+    }
+
+    void showsLongTexts_data()
+    {
+        const TestRows<QString, int, QString> row("text", "lines", "end");
+        row("short", u"a\nb"_s, 2, u"b"_s);
+        row("many lines", repeated(u"line\n"_s, 200'000) + u"end"_s, 200'001, u"end"_s);
+        row("more lines than a view takes", repeated(u"\n"_s, 1'200'000), 1'000'000, u"only its beginning"_s);
+        row("a line without an end", repeated(u"x"_s, 1'000'000) + u"end"_s, 100, u"xend"_s);
+    }
+
+    void showsLongTexts()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const int, lines);
+        QFETCH(const QString, end);
+        AppRegistry registry;
+        DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Text, 600, 600);
+        dialog.SetText(text);
+        const QTextDocument& document = *dialog.findChild<QPlainTextEdit*>()->document();
+        QTRY_VERIFY_WITH_TIMEOUT(document.lastBlock().text().contains(end), 60000);
+        QVERIFY2(document.blockCount() >= lines, qPrintable(QString::number(document.blockCount())));
+        QVERIFY2(document.blockCount() <= lines + 5000, qPrintable(QString::number(document.blockCount())));
+    }
+
+public Q_SLOTS:
+    void openUrl(const QUrl& url) { opened = url; }
+
+private:
+    QUrl opened;
+};
+
+KOVRA_TEST(LongTextTest)
+#include "LongTextTest.moc"

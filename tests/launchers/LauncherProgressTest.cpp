@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppRegistry.h"
+#include "Controls.h"
+#include "dialogs/BusyDialog.h"
+#include "Installation.h"
+#include "launchers/PageData.h"
+#include "launchers/RunAppData.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QProgressBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Launchers that run scripts, on a page that is shown.
+struct LauncherPage : Installation
+{
+    explicit LauncherPage(const QByteArrayList& scripts, const QByteArray& more = {}, const QByteArray& ofPage = {})
+    {
+        QByteArray applications = ofPage;
+        for (qsizetype i = 0; i < scripts.size(); ++i) {
+            const QString program = writeScript(u"tool%1"_s.arg(i + 1), scripts[i]);
+            applications += "<application name='Tool " + QByteArray::number(i + 1) + "'><exe>" + program.toUtf8() +
+                            "</exe>" + more + "</application>";
+        }
+        define("<applicationPage>" + applications + "</applicationPage>");
+        start().values.useMessageViewerMessages = false;
+        PageData& data = *appRegistry->definitions.applicationPages.at(0);
+        data.SetProjectFile(path(u"work/p.prj"_s));
+        data.BuildButtons(new QGridLayout(&window));
+        window.show();
+    }
+
+    RunAppData& tool(int number) const
+    {
+        return *appRegistry->definitions.applicationPages.at(0)->applications.at(std::size_t(number - 1));
+    }
+
+    QWidget window;
+};
+
+// Goes on when the test has seen it.
+const QByteArray awaitGo = "while [ ! -e \"$0.go\" ]; do sleep 0.02; done\n";
+
+} // namespace
+
+class LauncherProgressTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsItOnTheButton()
+    {
+        const LauncherPage page({"echo '[34/151] a.c'\n" + awaitGo + "printf '\\r[151/151] b.c' >&2\n" + awaitGo +
+                                 "while [ ! -e \"$0.end\" ]; do sleep 0.02; done"});
+        RunAppData& tool = page.tool(1);
+        const auto* bar = page.window.findChild<QProgressBar*>();
+        QVERIFY(!bar);
+        tool.button->click();
+        QCOMPARE(tool.button->text(), u"Tool 1\nrunning..."_s);
+        QTRY_COMPARE(tool.button->text(), u"Tool 1\n34 of 151"_s);
+        bar = &controlCalled<QProgressBar>(page.window, u"Progress of Tool 1"_s);
+        QCOMPARE(bar->value(), 34);
+        QCOMPARE(bar->maximum(), 151);
+        QVERIFY(tool.button->geometry().contains(bar->geometry()));
+        page.write(u"tool1.go"_s, "");
+        QTRY_COMPARE(tool.button->text(), u"Tool 1\n151 of 151"_s);
+        page.write(u"tool1.end"_s, "");
+        QTRY_COMPARE(tool.button->text(), u"Tool 1"_s);
+        QVERIFY(!bar->isVisible());
+    }
+
+    void stopsOnTheButton()
+    {
+        const LauncherPage page({"echo '[1/3] a'; exec sleep 1000"});
+        RunAppData& tool = page.tool(1);
+        tool.button->click();
+        QTRY_COMPARE(tool.button->text(), u"Tool 1\n1 of 3"_s);
+        auto& stop = controlCalled<QPushButton>(page.window, u"Stop Tool 1"_s);
+        QVERIFY(tool.button->geometry().contains(stop.geometry()));
+        // A grey button's tool can be stopped as well.
+        tool.button->setEnabled(false);
+        QVERIFY(stop.isEnabled());
+        // Reached by Tab from its button, pressed by the space bar.
+        QCOMPARE(tool.button->nextInFocusChain(), &stop);
+        stop.setFocus();
+        QTest::keyClick(&stop, Qt::Key_Space);
+        QCOMPARE(tool.button->text(), u"Tool 1\nstopping..."_s);
+        QVERIFY(!stop.isEnabled());
+        QTRY_COMPARE(tool.button->text(), u"Tool 1"_s);
+        QVERIFY(!stop.isVisible());
+    }
+
+    void showsItInTheBusyWindow()
+    {
+        const LauncherPage page({"echo '[1/3] first.c' >&2\n" + awaitGo + "echo '[2/3] second.c' >&2; exec sleep 1000"},
+                                "<displayoutput>text</displayoutput>");
+        RunAppData& tool = page.tool(1);
+        tool.button->click();
+        const auto busy = [] { return qobject_cast<BusyDialog*>(QApplication::activeWindow()); };
+        QTRY_VERIFY(busy());
+        const auto says = [&busy](const QString& text) {
+            const auto labels = busy()->findChildren<QLabel*>();
+            return std::ranges::any_of(labels, [&text](const QLabel* label) { return label->text() == text; });
+        };
+        const auto* bar = busy()->findChild<QProgressBar*>();
+        QTRY_COMPARE(bar->value(), 1);
+        QVERIFY(says(u"first.c"_s));
+        page.write(u"tool1.go"_s, "");
+        QTRY_COMPARE(bar->text(), u"2 of 3"_s);
+        QVERIFY(says(u"second.c"_s));
+        controlCalled<QPushButton>(*busy(), u"&Stop"_s).click();
+        QTRY_VERIFY(!tool.isRunning());
+        QVERIFY(!QApplication::overrideCursor());
+        QVERIFY(appRegistry->openDialogs.isEmpty());
+    }
+
+    void tellsManyFailuresInOneBox()
+    {
+        const LauncherPage page(QByteArrayList(14, awaitGo + "echo reason of $0 >&2; exit 7"));
+        for (int number = 1; number <= 14; ++number) {
+            page.tool(number).button->click();
+            page.write(u"tool%1.go"_s.arg(number), "");
+        }
+        QStringList texts;
+        QString additions;
+        QString details;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, this, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box && box->detailedText().count(u"reason of "_s) == 14) {
+                texts += box->text();
+                additions = box->informativeText();
+                details = box->detailedText();
+                box->accept();
+            }
+        });
+        watch.start(10);
+        QTRY_COMPARE_WITH_TIMEOUT(texts, QStringList{u"Process Failed [7]"_s}, 20000);
+        QVERIFY2(additions.count(u"Process Failed [7]"_s) == 12, qPrintable(additions));
+        QVERIFY2(additions.endsWith("... and 1 more"_L1), qPrintable(additions));
+        // The next failure is a new one.
+        BoxAnswers boxes({QMessageBox::Ok});
+        watch.stop();
+        page.tool(1).button->click();
+        QTRY_COMPARE(boxes.texts, QStringList{u"Tool 1|Process Failed [7]"_s});
+        QCOMPARE(boxes.details.value(0).count(u"reason of "_s), 1);
+    }
+
+    void givesUsableButtons_data()
+    {
+        const TestRows<QByteArray, QByteArray, QSize> row("page", "application", "size");
+        row("as given", "<buttonwidth>100</buttonwidth>", "", {100, 50});
+        row("its own", "", "<buttonwidth>90</buttonwidth>", {90, 50});
+        row("negative", "", "<buttonwidth>-5</buttonwidth>", {180, 50});
+        row("huge", "", "<buttonwidth>999999999</buttonwidth>", {1000, 50});
+        row("page negative", "<buttonwidth>-1</buttonwidth><buttonheight>-1</buttonheight>", "", {180, 50});
+        row("page nonsense", "<buttonwidth>x</buttonwidth><buttonheight>x</buttonheight>", "", {180, 50});
+        row("page huge", "<buttonwidth>99999999</buttonwidth><buttonheight>99999999</buttonheight>", "", {1000, 1000});
+        row("spacing", "<horizontalspacing>-900</horizontalspacing>", "<columnspan>3</columnspan>", {540, 50});
+    }
+
+    void givesUsableButtons()
+    {
+        QFETCH(const QByteArray, page);
+        QFETCH(const QByteArray, application);
+        QFETCH(const QSize, size);
+        const LauncherPage launchers({""}, application, page);
+        QCOMPARE(launchers.tool(1).button->size(), size);
+    }
+};
+
+KOVRA_TEST(LauncherProgressTest)
+#include "LauncherProgressTest.moc"

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include "app/CommandLine.h"
+#include "launchers/PageData.h"
+#include "process/StrayProcesses.h"
+#include "TestMain.h"
+#include "TestRows.h"
+#include "WizardDriver.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray projectText = "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n"
+                               "messagePersonality=default string\nanalyserPersonality=default string\n"
+                               "compilerPersonality=default string\n*project=";
+
+QByteArray project(const QByteArray& analyser)
+{
+    return projectText + analyser + "\nmain.c\nEndContainedFilesMarker\nEndOfProjectFile\n";
+}
+
+/// A suite with a conversion that runs a script, and one tool that says on what it was started.
+AppRegistry& startSuite(Installation& suite, const QByteArray& script)
+{
+    const QString converter = suite.writeScript(u"convert"_s, script);
+    const QString tool = suite.writeScript(u"tool"_s, "echo \"$@\" > \"$0.out\"\n");
+    suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + converter.toUtf8() +
+                 "</exe><exeargs>%PF</exeargs><inputData><displayName>E</displayName></inputData></projectCreator>"
+                 "<applicationPage><application name='Tool'><exe>" +
+                 tool.toUtf8() + "</exe><exeargs>%PF %Q</exeargs></application></applicationPage>");
+    AppRegistry& registry = suite.start();
+    registry.values.useMessageViewerMessages = false;
+    return registry;
+}
+
+void convert(const WizardDriver& wizard, const Installation& suite)
+{
+    wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
+    wizard.press(QWizard::NextButton);
+}
+
+} // namespace
+
+class ToolsPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsItsProjectOnTheCommandLine_data()
+    {
+        const TestRows<QStringList, bool, QString> row("arguments", "given", "file");
+        row("not given", {u"program"_s, u"-prj"_s, u"x"_s}, false, {});
+        row("given", {u"program"_s, u"-c"_s, u"-tools"_s, u"x.prj"_s}, true, u"x.prj"_s);
+        row("without a file", {u"program"_s, u"-tools"_s}, true, {});
+        row("the program's own name", {u"-tools"_s, u"x"_s}, false, {});
+    }
+
+    void findsItsProjectOnTheCommandLine()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const bool, given);
+        QFETCH(const QString, file);
+        QCOMPARE(CommandLine::toolsProject(arguments).has_value(), given);
+        QCOMPARE(CommandLine::toolsProject(arguments).value_or(QString()), file);
+    }
+
+    void opensAProjectThatExists_data()
+    {
+        const TestRows<QString, QByteArray> row("name", "analyser");
+        row("C", u"work/p.prj"_s, "ORVC");
+        row("C++", u"work/p.prj"_s, "ORVCPP");
+        row("name with dots", u"work/my.v2.prj"_s, "ORVC");
+        row("another suffix", u"work/p.PRJ"_s, "ORVC");
+        row("blanks and umlauts", u"wörk/my project.prj"_s, "ORVC");
+    }
+
+    void opensAProjectThatExists()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, analyser);
+        Installation suite;
+        startSuite(suite, "exit 0");
+        const QString file = suite.write(name, project(analyser));
+        ApplicationWindow window(u"t"_s, u"h"_s, {u"ProjectCreation"_s});
+        QCOMPARE(window.openTools(QDir::current().relativeFilePath(file)).problem, QString());
+        window.show();
+        QCOMPARE(window.currentId(), int(DisplayOptionsPageId));
+        QVERIFY(!window.button(QWizard::BackButton)->isVisible());
+        QVERIFY(!findControl(*window.currentPage(), u"Show the &conversion's output..."_s));
+        QVERIFY(findControl(*window.currentPage(), u"Project: "_s + file));
+        controlCalled<QPushButton>(*window.currentPage(), u"Tool"_s).click();
+        QTRY_COMPARE(suite.read(u"tool.out"_s), file.toUtf8() + ' ' + analyser + '\n');
+
+        // Another conversion begins where every conversion begins.
+        window.button(QWizard::CustomButton1)->click();
+        QCOMPARE(window.currentId(), int(StartPageId));
+        QVERIFY(window.openedProject().isEmpty());
+        QCOMPARE(window.startId(), int(StartPageId));
+    }
+
+    void saysWhyAProjectIsNotOpened_data()
+    {
+        const TestRows<QString, QString> row("name", "says");
+        row("no name", {}, u"-tools: the name of a project file must follow."_s);
+        row("missing", u"work/none.prj"_s, u" does not exist. "_s);
+        row("folder", u"work"_s, u" is not a file. "_s);
+        row("text", u"work/text.prj"_s, u" holds no project. "_s);
+        row("empty", u"work/empty.prj"_s, u" holds no project. "_s);
+        row("cut", u"work/cut.prj"_s, u" holds no project. "_s);
+    }
+
+    void saysWhyAProjectIsNotOpened()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QString, says);
+        Installation suite;
+        startSuite(suite, "exit 0");
+        suite.write(u"work/text.prj"_s, "just text\n");
+        suite.write(u"work/empty.prj"_s, "");
+        suite.write(u"work/cut.prj"_s, "VersionTag 45\n");
+        ApplicationWindow window(u"t"_s, u"h"_s, {u"ProjectCreation"_s});
+        const QString file = name.isEmpty() ? QString() : suite.path(name);
+        const QString problem = window.openTools(file).problem;
+        QVERIFY2(problem.contains(says), qPrintable(problem));
+        QVERIFY2(problem.contains(file), qPrintable(problem));
+        QCOMPARE(window.startId(), int(StartPageId));
+    }
+
+    void opensNothingWithoutTools()
+    {
+        Installation suite;
+        suite.define("");
+        suite.start();
+        ApplicationWindow window(u"t"_s, u"h"_s, {u"ProjectCreation"_s});
+        const QString problem = window.openTools(suite.write(u"work/p.prj"_s, project("ORVC"))).problem;
+        QVERIFY2(problem.contains(" declares no tools"_L1), qPrintable(problem));
+    }
+
+    void tellsOfADoubtfulConversion()
+    {
+        Installation suite;
+        startSuite(suite, "echo x > \"$1\"");
+        WizardDriver wizard;
+        convert(wizard, suite);
+        QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
+        QVERIFY(!wizard.labels().contains(u"exit code 7 <b>"_s));
+        wizard.window.conversionWarning = u"exit code 7 <b>"_s;
+        wizard.window.currentPage()->initializePage();
+        QVERIFY(wizard.labels().contains(u"exit code 7 <b>"_s));
+    }
+
+    void showsTheProgressOfAConversion()
+    {
+        Installation suite;
+        startSuite(suite, "printf '[1/3] first.c\\r'; while [ ! -e \"$0.go\" ]; do sleep 0.02; done\n"
+                          "echo '[3/3] last.c'; exec sleep 1000");
+        WizardDriver wizard;
+        convert(wizard, suite);
+        const auto& bar = *wizard.window.currentPage()->findChild<QProgressBar*>();
+        QCOMPARE(bar.maximum(), 0);
+        QTRY_COMPARE(bar.text(), u"1 of 3"_s);
+        QVERIFY(wizard.labels().contains(u"first.c"_s));
+        suite.write(u"convert.go"_s, "");
+        QTRY_COMPARE(bar.text(), u"3 of 3"_s);
+        QVERIFY(wizard.labels().contains(u"last.c"_s));
+        wizard.button(u"&Stop"_s).click();
+        QTRY_VERIFY(wizard.output().contains("was stopped"_L1));
+        QVERIFY(!bar.isVisible());
+        // The next run begins anew.
+        wizard.press(QWizard::BackButton);
+        QFile::remove(suite.path(u"convert.go"_s));
+        wizard.press(QWizard::NextButton);
+        QTRY_COMPARE(bar.text(), u"1 of 3"_s);
+        wizard.button(u"&Stop"_s).click();
+    }
+
+    void asksOnceBeforeClosing()
+    {
+        StrayProcesses::adopt();
+        Installation suite;
+        startSuite(suite, "(setsid sleep 1000 >/dev/null 2>&1 &) ; echo started; exec sleep 1000");
+        WizardDriver wizard;
+        convert(wizard, suite);
+        QTRY_VERIFY(wizard.output().contains("started"_L1));
+        QStringList questions;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, this, [&questions] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                questions += box->windowTitle() + u'|' + box->informativeText();
+                box->button(QMessageBox::Yes)->click();
+            }
+        });
+        watch.start(10);
+        wizard.window.close();
+        QCOMPARE(questions, QStringList{u"Conversion in progress|Still open: T, a program that a tool has left "
+                                        "running"_s});
+        QVERIFY(!wizard.window.isVisible());
+        QVERIFY(!StrayProcesses::any());
+    }
+
+    void namesWhatStillRuns()
+    {
+        Installation suite;
+        startSuite(suite, "exit 0");
+        suite.writeScript(u"tool"_s, "echo started; exec sleep 1000");
+        ApplicationWindow window(u"t"_s, u"h"_s, {u"ProjectCreation"_s});
+        QCOMPARE(window.openTools(suite.write(u"work/p.prj"_s, project("ORVC"))).problem, QString());
+        window.show();
+        controlCalled<QPushButton>(*window.currentPage(), u"Tool"_s).click();
+        QString question;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, this, [&question] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                question = box->windowTitle() + u'|' + box->informativeText();
+                box->button(QMessageBox::Yes)->click();
+            }
+        });
+        watch.start(10);
+        window.close();
+        QCOMPARE(question, u"Child Applications Still Running|Still open: Tool"_s);
+        QVERIFY(!window.isVisible());
+    }
+};
+
+KOVRA_TEST(ToolsPageTest)
+#include "ToolsPageTest.moc"
