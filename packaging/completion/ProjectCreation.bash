@@ -56,7 +56,7 @@ _ProjectCreation()
         return
     fi
     case $previous in
-    -prj) _kovra_offer_files "$current" '*.prj' ;;
+    -prj | -tools) _kovra_offer_files "$current" '*.prj' ;;
     -file | -check) _kovra_offer_files "$current" '*.xml' ;;
     -mp) _kovra_offer_files "$current" '*.p_s' ;;
     -ap) _kovra_offer_files "$current" '*.p_a' ;;
@@ -73,7 +73,7 @@ _ProjectCreation()
             options+=' -type -input -module -overwrite -dry-run -timeout -quiet -list-types -list-inputs -check -run --json
                 -help'
         else
-            options+=' -batch -ver -help --version --help'
+            options+=' -tools -batch -ver -help --version --help'
         fi
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
         ;;

@@ -15,6 +15,7 @@ _arguments \
     '(-cpp)-c[create an Orv C project]' \
     '(-c)-cpp[create an Orv C++ project]' \
     '-prj[project file to be created]:project file:_files -g "*.prj"' \
+    '-tools[open the tools for a project that exists]:project file:_files -g "*.prj"' \
     '-mp[message configuration]:file:_files -g "*.p_s"' \
     '-ap[analyser configuration]:file:_files -g "*.p_a"' \
     '-cp[compiler configuration]:file:_files -g "*.p_c"' \
