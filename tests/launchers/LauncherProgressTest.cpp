@@ -172,6 +172,27 @@ private Q_SLOTS:
         const LauncherPage launchers({""}, application, page);
         QCOMPARE(launchers.tool(1).button->size(), size);
     }
+
+    void canBeReadOnADarkDesktop_data()
+    {
+        const TestRows<QByteArray, QColor> row("colour", "text");
+        row("usual", "", Qt::black);
+        row("light", "<colour>lightgreen</colour>", Qt::black);
+        row("dark", "<colour>navy</colour>", Qt::white);
+    }
+
+    void canBeReadOnADarkDesktop()
+    {
+        QFETCH(const QByteArray, colour);
+        QFETCH(const QColor, text);
+        const QPalette usual = QApplication::palette();
+        QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+        const LauncherPage page({""}, colour + "<leftimage>arrow</leftimage>");
+        QCOMPARE(page.tool(1).button->palette().color(QPalette::Active, QPalette::ButtonText), text);
+        const QImage arrow = page.window.findChild<QLabel*>()->pixmap().toImage();
+        QCOMPARE(arrow.pixelColor(arrow.rect().center()), QApplication::palette().color(QPalette::WindowText));
+        QApplication::setPalette(usual);
+    }
 };
 
 KOVRA_TEST(LauncherProgressTest)
