@@ -12,6 +12,11 @@ namespace {
 // Longer than a count and any path that a window could show.
 constexpr qsizetype longestHead = 1024;
 
+bool isLineEnd(char character)
+{
+    return character == '\n' || character == '\r';
+}
+
 // The place of the next line break or carriage return, or the end.
 qsizetype lineLength(QByteArrayView text)
 {
@@ -35,6 +40,10 @@ bool ProgressLine::append(QByteArrayView output)
 {
     const Progress before = current;
     while (!output.isEmpty()) {
+        if (head.isEmpty() && (inOtherLine || output.front() != '[')) {
+            output = skipOtherLines(output);
+            continue;
+        }
         const qsizetype length = lineLength(output);
         const qsizetype room = longestHead - head.size();
         head += output.first(std::min(length, room));
@@ -48,6 +57,19 @@ bool ProgressLine::append(QByteArrayView output)
     // A program that begins its lines with the carriage return does not end the one that counts.
     readHead();
     return current != before;
+}
+
+// What remains from the next bracket that begins a line. A flood is mostly other lines, and shall cost little.
+QByteArrayView ProgressLine::skipOtherLines(QByteArrayView output)
+{
+    for (qsizetype bracket = output.indexOf('[', 1); bracket >= 0; bracket = output.indexOf('[', bracket + 1)) {
+        if (isLineEnd(output[bracket - 1])) {
+            inOtherLine = false;
+            return output.sliced(bracket);
+        }
+    }
+    inOtherLine = !isLineEnd(output.back());
+    return {};
 }
 
 void ProgressLine::readHead()
@@ -74,6 +96,7 @@ void ProgressLine::readHead()
 void ProgressLine::clear()
 {
     head.clear();
+    inOtherLine = false;
     current = {};
 }
 

@@ -34,8 +34,11 @@ public:
 
 private:
     void readHead();
+    QByteArrayView skipOtherLines(QByteArrayView output);
 
-    /// The beginning of the line that is being printed.
+    /// The beginning of the line that is being printed, if that begins with a bracket.
     QByteArray head;
+    /// The line that is being printed begins with something else.
+    bool inOtherLine = false;
     Progress current;
 };
