@@ -2,6 +2,7 @@
 #include "dialogs/DisplayDialog.h"
 #include "app/AppRegistry.h"
 #include "dialogs/HtmlShape.h"
+#include "dialogs/HtmlView.h"
 #include "dialogs/MessageBox.h"
 #include "dialogs/TextPortions.h"
 
@@ -18,7 +19,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QTextBrowser>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QUrl>
@@ -94,7 +94,7 @@ void DisplayDialog::createBrowser(QGridLayout& grid)
 {
     auto* back = new QPushButton(tr("Back"));
     auto* forward = new QPushButton(tr("Forward"));
-    htmlView = new QTextBrowser;
+    htmlView = new HtmlView;
     htmlView->setAccessibleName(windowTitle());
     for (QPushButton* button : {back, forward}) {
         button->setEnabled(false);

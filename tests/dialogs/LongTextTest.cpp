@@ -99,6 +99,37 @@ private Q_SLOTS:
         QVERIFY(!findControl(dialog, u"&Open in the browser"_s));
     }
 
+    void followsLinks_data()
+    {
+        const TestRows<QString, bool> row("link", "inBrowser");
+        row("the web", u"https://example.invalid/a.html"_s, true);
+        row("a long page", u"long.html"_s, true);
+        row("a short page", u"short.html"_s, false);
+        row("no page", u"long.txt"_s, false);
+        row("a missing page", u"missing.html"_s, false);
+    }
+
+    void followsLinks()
+    {
+        QFETCH(const QString, link);
+        QFETCH(const bool, inBrowser);
+        const Installation suite;
+        suite.write(u"short.html"_s, "short");
+        suite.write(u"long.html"_s, QByteArray("<td>cell").repeated(1000));
+        suite.write(u"long.txt"_s, QByteArray("<td>cell").repeated(1000));
+        AppRegistry registry;
+        DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Html, 600, 600);
+        dialog.SetText(u"start"_s);
+        auto& view = *dialog.findChild<QTextBrowser*>();
+        const QUrl url = link.contains(u':') ? QUrl(link) : QUrl::fromLocalFile(suite.path(link));
+        opened.clear();
+        QDesktopServices::setUrlHandler(url.scheme(), this, "openUrl");
+        view.setSource(url);
+        QDesktopServices::unsetUrlHandler(url.scheme());
+        QCOMPARE(opened, inBrowser ? url : QUrl());
+        QCOMPARE(view.source() == url, !inBrowser);
+    }
+
     void textStandsInColumns()
     {
         AppRegistry registry;
