@@ -30,8 +30,6 @@ struct WizardState
     /// when all is well.
     QString conversionWarning;
     bool isORVC = true;
-    /// What the user should know of a conversion that made its project file all the same; empty when all went well.
-    QString conversionWarning;
     /// All three configuration files came with the command line and exist.
     bool personalitiesGiven = false;
 
