@@ -33,7 +33,7 @@ namespace {
 
 constexpr int fileWindowSize = 600;
 // Enough to recognise a report by.
-constexpr qsizetype shownBeginning = 8LL * 1024;
+constexpr qsizetype shownBeginning = 4LL * 1024;
 
 QString plainBeginning(const QString& html)
 {

@@ -19,13 +19,13 @@ constexpr std::array emptyTags = {"br"_L1, "hr"_L1, "img"_L1, "meta"_L1, "link"_
 
 // Microseconds of a middling machine, measured with benchmarks/HtmlShapes.cpp; what grows with the square is what makes
 // a window freeze.
-constexpr double budget = 25'000;
-constexpr double perCharacter = 0.3;
+constexpr double budget = 15'000;
+constexpr double perCharacter = 0.4;
 constexpr double perCell = 45;
 constexpr double perBlock = 10;
 constexpr double perInline = 4;
 constexpr double perImage = 500;
-constexpr double perRunSquare = 6e-5;
+constexpr double perRunSquare = 1e-4;
 constexpr double perRunTagSquare = 0.005;
 constexpr double perDepthSquare = 0.01;
 constexpr double perRule = 0.05;
@@ -50,7 +50,7 @@ public:
     HtmlShape measure()
     {
         shape.characters = html.size();
-        while (position < html.size()) {
+        while (position < html.size() && !isHopeless()) {
             if (html[position] == u'<' && position + 1 < html.size() && isTagStart(html[position + 1])) {
                 readTag();
             } else {
@@ -62,6 +62,14 @@ public:
     }
 
 private:
+    // Its length and its tags alone are too much, so there is no need to look at the rest.
+    bool isHopeless() const
+    {
+        return double(shape.characters) * perCharacter + double(shape.cells) * perCell +
+                   double(shape.blocks) * perBlock + double(shape.inlines) * perInline >
+               budget;
+    }
+
     static bool isTagStart(QChar character)
     {
         return character.isLetter() || character == u'/' || character == u'!' || character == u'?';

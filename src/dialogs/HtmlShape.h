@@ -3,7 +3,8 @@
 
 #include <QStringView>
 
-/// What decides how long a window works on a piece of html, found in one pass without understanding it.
+/// What decides how long a window works on a piece of html, found in one pass without understanding it. The pass ends
+/// early where it is too much anyway; the figures are those up to there.
 struct HtmlShape
 {
     qsizetype characters = 0;

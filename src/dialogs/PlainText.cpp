@@ -17,9 +17,14 @@ QString PlainText::withoutMnemonic(QString text)
 
 QString PlainText::withShortLines(QStringView text, qsizetype longest)
 {
+    qsizetype lineLength = 0;
+    return withShortLines(text, longest, lineLength);
+}
+
+QString PlainText::withShortLines(QStringView text, qsizetype longest, qsizetype& lineLength)
+{
     QString result;
     result.reserve(text.size());
-    qsizetype lineLength = 0;
     for (const QChar character : text) {
         lineLength = character == u'\n' ? 0 : lineLength + 1;
         result += character;

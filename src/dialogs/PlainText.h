@@ -16,5 +16,7 @@ QString withoutMnemonic(QString text);
 /// The text with line breaks added so that no line is longer. A view lays out a line as a whole; a very long one would
 /// stall it.
 QString withShortLines(QStringView text, qsizetype longest);
+/// The same for a part of a text; lineLength is that of the line which the part goes on with, and ends with.
+QString withShortLines(QStringView text, qsizetype longest, qsizetype& lineLength);
 
 } // namespace PlainText

@@ -2,20 +2,26 @@
 #include "dialogs/TextPortions.h"
 #include "dialogs/PlainText.h"
 
+#include <QDeadlineTimer>
 #include <QPlainTextEdit>
 #include <QTextCursor>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
-constexpr qsizetype portionSize = 128LL * 1024;
-constexpr int portionLines = 3000;
+constexpr qint64 readSize = 256LL * 1024;
+constexpr qsizetype portionSize = 8LL * 1024;
+constexpr int portionLines = 300;
+// How long the window may be kept waiting at a time, give or take a portion.
+constexpr auto patience = 12ms;
 // A view lays out a line as a whole.
-constexpr qsizetype longestLine = 10'000;
+constexpr qsizetype longestLine = 1'000;
 // What a window can still show with comfort.
 constexpr qint64 mostCharacters = 64LL * 1024 * 1024;
 constexpr qint64 mostLines = 1'000'000;
@@ -41,7 +47,7 @@ TextPortions::TextPortions(QPlainTextEdit& target, QObject* parent)
     : QObject(parent)
     , view(target)
 {
-    connect(&timer, &QTimer::timeout, this, &TextPortions::appendPortion);
+    connect(&timer, &QTimer::timeout, this, &TextPortions::appendSome);
 }
 
 void TextPortions::show(const QString& text)
@@ -67,6 +73,7 @@ void TextPortions::restart()
     position = 0;
     characters = 0;
     lines = 0;
+    lineLength = 0;
     timer.start(0);
 }
 
@@ -79,11 +86,19 @@ void TextPortions::finish()
 
 void TextPortions::refill()
 {
-    pending = decoder.decode(source->read(portionSize));
+    pending = decoder.decode(source->read(readSize));
     position = 0;
     if (source->atEnd()) {
         source.reset();
     }
+}
+
+void TextPortions::appendSome()
+{
+    const QDeadlineTimer deadline(patience);
+    do {
+        appendPortion();
+    } while (timer.isActive() && !deadline.hasExpired());
 }
 
 void TextPortions::appendPortion()
@@ -99,7 +114,7 @@ void TextPortions::appendPortion()
     }
     const qsizetype end = portionEnd(pending, position);
     const QStringView portion = QStringView(pending).sliced(position, end - position);
-    append(PlainText::withShortLines(portion, longestLine));
+    append(PlainText::withShortLines(portion, longestLine, lineLength));
     position = end;
     characters += portion.size();
     lines += portion.count(u'\n');

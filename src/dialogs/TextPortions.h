@@ -31,6 +31,7 @@ public:
 private:
     void restart();
     bool isDone() const { return position >= pending.size() && !source; }
+    void appendSome();
     void appendPortion();
     void refill();
     void append(const QString& text);
@@ -44,4 +45,5 @@ private:
     QStringDecoder decoder;
     qint64 characters = 0;
     qint64 lines = 0;
+    qsizetype lineLength = 0;
 };
