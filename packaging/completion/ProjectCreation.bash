@@ -94,11 +94,12 @@ _prjconv()
     --options) mapfile -t COMPREPLY < <(compgen -W 'sub-projects keep-missing sub-projects,keep-missing' -- "$current") ;;
     --paths) mapfile -t COMPREPLY < <(compgen -W 'relative absolute' -- "$current") ;;
     --own-language) COMPREPLY=(1) ;;
-    --name | --extensions | --exclude | --defines) COMPREPLY=() ;;
+    --compiler-macros) COMPREPLY=(0 1) ;;
+    --name | --extensions | --exclude | --defines | --include-folders) COMPREPLY=() ;;
     *)
         mapfile -t COMPREPLY < <(compgen -W '--compile-commands --source-folder --file-list --output --name --analyser
             --compiler-personality --analyser-personality --message-personality --output-folder --extensions --exclude
-            --defines --options --paths --own-language --help --version' -- "$current")
+            --defines --include-folders --compiler-macros --options --paths --own-language --help --version' -- "$current")
         ;;
     esac
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Arguments.h"
 #include "Failure.h"
+#include "SourceLists.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -20,7 +22,7 @@ void declare(QCommandLineParser& parser)
     const auto value = [&](const QString& name, const QString& help, const QString& kind) {
         parser.addOption({name, help, kind});
     };
-    value(u"compile-commands"_s, u"convert a compilation database"_s, u"file"_s);
+    value(u"compile-commands"_s, u"convert a compilation database, or the one that a build folder holds"_s, u"file"_s);
     value(u"source-folder"_s, u"convert the sources below a folder"_s, u"folder"_s);
     value(u"file-list"_s, u"convert the sources that a text file lists, one a line"_s, u"file"_s);
     value(u"output"_s, u"project file to be written"_s, u"file.prj"_s);
@@ -32,9 +34,13 @@ void declare(QCommandLineParser& parser)
     value(u"output-folder"_s, u"where the analyser puts its output; without it a folder beside the project file"_s,
           u"folder"_s);
     value(u"extensions"_s, u"with --source-folder: endings of the sources, for example \"c;cpp\""_s, u"list"_s);
-    value(u"exclude"_s, u"with --source-folder: folders and files to leave out, for example \"build;*_test.c\""_s,
+    value(u"exclude"_s,
+          u"names and paths to leave out, for example \"deps/*;*_test.c\"; @FILE takes them from a file, one a line"_s,
           u"list"_s);
     value(u"defines"_s, u"more defines, for example \"NDEBUG;SIZE=2\""_s, u"list"_s);
+    value(u"include-folders"_s, u"more include folders, searched after those of the build"_s, u"list"_s);
+    value(u"compiler-macros"_s, u"1: ask the compilers of the build what they predefine (default), 0: do not"_s,
+          u"flag"_s);
     value(u"options"_s, u"any of sub-projects, keep-missing, separated by commas"_s, u"list"_s);
     value(u"paths"_s, u"relative (as far as possible) or absolute"_s, u"kind"_s);
     value(u"own-language"_s, u"1: only sources in the analyser's own language"_s, u"flag"_s);
@@ -56,6 +62,19 @@ QStringList parts(const QString& text)
     for (const QString& part : text.split(u';')) {
         if (const QString trimmed = part.trimmed(); !trimmed.isEmpty()) {
             result += trimmed;
+        }
+    }
+    return result;
+}
+
+QStringList patterns(const QString& text)
+{
+    QStringList result;
+    for (const QString& part : parts(text)) {
+        if (part.startsWith(u'@')) {
+            result += listedLines(part.sliced(1));
+        } else {
+            result += part;
         }
     }
     return result;
@@ -104,6 +123,11 @@ void check(const QCommandLineParser& parser, Arguments& arguments)
     if (!paths.isEmpty() && paths != "relative"_L1 && paths != "absolute"_L1) {
         throw wrong(u"--paths wants relative or absolute, not \"%1\""_s.arg(paths));
     }
+    const QString macros = parser.value(u"compiler-macros"_s);
+    if (!macros.isEmpty() && macros != "0"_L1 && macros != "1"_L1) {
+        throw wrong(u"--compiler-macros wants 0 or 1, not \"%1\""_s.arg(macros));
+    }
+    arguments.compilerMacros = macros != "0"_L1;
     arguments.forC = analyser == "ORVC"_L1;
     arguments.absolutePaths = paths == "absolute"_L1;
 }
@@ -137,8 +161,11 @@ Arguments Arguments::parse(const QStringList& commandLine)
     arguments.messagePersonality = absolute(parser.value(u"message-personality"_s));
     arguments.outputFolder = absolute(parser.value(u"output-folder"_s));
     arguments.extensions = list(parser.value(u"extensions"_s));
-    arguments.exclude = parts(parser.value(u"exclude"_s));
+    arguments.exclude = patterns(parser.value(u"exclude"_s));
     arguments.defines = parts(parser.value(u"defines"_s));
+    for (const QString& folder : parts(parser.value(u"include-folders"_s))) {
+        arguments.includeFolders += QDir::cleanPath(absolute(folder));
+    }
     arguments.onlyOwnLanguage = parser.value(u"own-language"_s) == "1"_L1;
     takeOptions(arguments, parser.value(u"options"_s));
     check(parser, arguments);

@@ -20,8 +20,13 @@ struct Arguments
     QString messagePersonality;
     QString outputFolder;
     QStringList extensions;
+    /// Patterns of what is left out.
     QStringList exclude;
     QStringList defines;
+    /// Absolute.
+    QStringList includeFolders;
+    /// Whether compilers are asked what they predefine.
+    bool compilerMacros = true;
     bool subProjects = false;
     bool keepMissing = false;
     bool absolutePaths = false;

@@ -58,7 +58,7 @@ private Q_SLOTS:
         const QString database =
             suite.write(u"work/db.json"_s,
                         R"([{"file": "code/größe a.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]},
-                {"file": "code/lib/b.cpp", "arguments": ["c++"]}])");
+                {"file": "code/lib/b.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]}])");
         const AppRegistry& registry = suite.start();
         WizardDriver wizard;
         BoxAnswers boxes({QMessageBox::Yes, QMessageBox::No, QMessageBox::Yes});
@@ -81,7 +81,7 @@ private Q_SLOTS:
              {u"name=own code\nsourceDir="_s + suite.path(u"work/code"_s), u"*project=ORVCPP\ngröße a.cpp"_s,
               u"messagePersonality="_s + suite.path(u"orvcpp/personalities/default.p_s"_s),
               u"name=lib\nsourceDir="_s + suite.path(u"work/code/lib"_s), u"b.cpp"_s,
-              u"-i \""_s + suite.path(u"work/an include"_s) + u"\"\n-d INDEX=7\n-d DEMO=<1>\n-d SECOND"_s}) {
+              u"-d INDEX=7\n-d DEMO=<1>\n-d SECOND\n-i \""_s + suite.path(u"work/an include"_s) + u"\""_s}) {
             QVERIFY2(written.contains('\n' + lines.toUtf8() + '\n'), written);
         }
         if (!hasAnalyser) {
