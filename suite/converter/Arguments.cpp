@@ -25,6 +25,7 @@ void declare(QCommandLineParser& parser)
     value(u"compile-commands"_s, u"convert a compilation database, or the one that a build folder holds"_s, u"file"_s);
     value(u"source-folder"_s, u"convert the sources below a folder"_s, u"folder"_s);
     value(u"file-list"_s, u"convert the sources that a text file lists, one a line"_s, u"file"_s);
+    BuildInputs::declare(parser);
     value(u"output"_s, u"project file to be written"_s, u"file.prj"_s);
     value(u"name"_s, u"name of the project; without it the project file's"_s, u"name"_s);
     value(u"analyser"_s, u"ORVC or ORVCPP"_s, u"analyser"_s);
@@ -108,9 +109,10 @@ void check(const QCommandLineParser& parser, Arguments& arguments)
         throw wrong(u"unexpected argument \"%1\""_s.arg(strays.first()));
     }
     const int sources = int(!arguments.compileCommands.isEmpty()) + int(!arguments.sourceFolder.isEmpty()) +
-                        int(!arguments.fileList.isEmpty());
+                        int(!arguments.fileList.isEmpty()) + arguments.build.count();
     if (sources != 1) {
-        throw wrong(u"give one of --compile-commands, --source-folder and --file-list"_s);
+        throw wrong(u"give one of --compile-commands, --source-folder, --file-list, --build-folder, --cmake-source, "
+                    "--make-folder and --visual-studio"_s);
     }
     if (arguments.output.isEmpty()) {
         throw wrong(u"--output is missing"_s);
@@ -151,6 +153,7 @@ Arguments Arguments::parse(const QStringList& commandLine)
     arguments.compileCommands = parser.value(u"compile-commands"_s);
     arguments.sourceFolder = parser.value(u"source-folder"_s);
     arguments.fileList = parser.value(u"file-list"_s);
+    arguments.build = BuildInputs::from(parser);
     arguments.output = absolute(parser.value(u"output"_s));
     arguments.name = parser.value(u"name"_s);
     if (arguments.name.isEmpty()) {

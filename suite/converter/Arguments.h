@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "builds/BuildInputs.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +12,7 @@ struct Arguments
     QString compileCommands;
     QString sourceFolder;
     QString fileList;
+    BuildInputs build = {};
     QString output;
     QString name;
     bool forC = false;

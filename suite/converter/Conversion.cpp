@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Conversion.h"
 #include "Arguments.h"
+#include "builds/BuildReader.h"
 #include "CompileDatabase.h"
 #include "CompilerQuery.h"
 #include "Output.h"
@@ -42,6 +43,8 @@ void readSources(const Arguments& arguments, SourceCollector& collector)
         const QStringList usual = arguments.forC ? QStringList{u"c"_s} : usualCppEndings();
         scanFolder(arguments.sourceFolder, arguments.extensions.isEmpty() ? usual : arguments.extensions,
                    PathFilter(arguments.exclude), collector);
+    } else if (arguments.build.count() > 0) {
+        readBuild(arguments.build, arguments.output, collector);
     } else {
         print(stdout, u"Reading "_s + arguments.fileList);
         readFileList(arguments.fileList, collector);
