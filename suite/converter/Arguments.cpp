@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Arguments.h"
+#include "builds/NinjaFolder.h"
 #include "Failure.h"
 #include "SourceLists.h"
 
@@ -7,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -154,6 +157,11 @@ Arguments Arguments::parse(const QStringList& commandLine)
     arguments.sourceFolder = parser.value(u"source-folder"_s);
     arguments.fileList = parser.value(u"file-list"_s);
     arguments.build = BuildInputs::from(parser);
+    // Ninja tells what a build folder without a database compiles.
+    if (isNinjaFolder(arguments.compileCommands) &&
+        !QFileInfo::exists(arguments.compileCommands + u"/compile_commands.json"_s)) {
+        arguments.build.buildFolder = std::exchange(arguments.compileCommands, {});
+    }
     arguments.output = absolute(parser.value(u"output"_s));
     arguments.name = parser.value(u"name"_s);
     if (arguments.name.isEmpty()) {

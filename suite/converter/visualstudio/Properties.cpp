@@ -14,13 +14,14 @@ namespace {
 constexpr QChar markStart(0xE000);
 constexpr QChar markEnd(0xE001);
 
-// Set by the build tools' own files, which are not there.
+// Set by the build tools' own files, which are not there; or marks of old projects without a meaning today.
 constexpr std::array compilersOwn = {"devenvdir"_L1,
-                                     "executablepath"_L1,
                                      "excludepath"_L1,
+                                     "executablepath"_L1,
                                      "externalincludepath"_L1,
                                      "frameworksdkdir"_L1,
                                      "includepath"_L1,
+                                     "inherit"_L1,
                                      "librarypath"_L1,
                                      "llvminstalldir"_L1,
                                      "msbuildextensionspath"_L1,
@@ -28,6 +29,7 @@ constexpr std::array compilersOwn = {"devenvdir"_L1,
                                      "msbuildsdkspath"_L1,
                                      "msbuildtoolspath"_L1,
                                      "netfxkitsdir"_L1,
+                                     "noinherit"_L1,
                                      "referencepath"_L1,
                                      "sourcepath"_L1,
                                      "universalcrt_includepath"_L1,

@@ -85,6 +85,16 @@ private Q_SLOTS:
         QCOMPARE(sourceLines(place).join(u'|'), u"one a.cpp: -d A=1 -d FOR_one|two a.cpp: -d A=1 -d FOR_two"_s);
     }
 
+    void asksNinjaAboutAFolderWithoutADatabase()
+    {
+        const ConvertedProject place;
+        place.write(u"work/src/a.c"_s, "int a;\n");
+        place.write(u"work/build/build.ninja"_s, "rule cc\n command = cc -DA=3 -c $in\nbuild a.o: cc ../src/a.c\n");
+        const ProgramResult result = place.convert({u"--compile-commands"_s, u"build"_s});
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
+        QCOMPARE(sourceLines(place).join(u'|'), u"p a.c: -d A=3"_s);
+    }
+
     void makesPartsOfProjects()
     {
         const ConvertedProject place;

@@ -335,7 +335,7 @@ private Q_SLOTS:
         row("unknown inside", "$(Derived)", QString(), u"\"p$(Unknown_2)\" is left out: $(Unknown_2) is unknown"_s);
         row("unknown function", "$(Mine.PadLeft(7))", QString(), u"$(Mine.PadLeft(7)) is unknown"_s);
         row("registry", "$(Registry:HKEY_LOCAL_MACHINE\\x@y)", QString(), u"is unknown"_s);
-        row("compiler's own", "$(VC_IncludePath);$(WindowsSDK_IncludePath)", QString());
+        row("compiler's own", "$(VC_IncludePath);$(WindowsSDK_IncludePath);$(NOINHERIT)", QString());
         row("functions",
             "$([System.IO.Path]::Combine('a', `b`));$([MSBuild]::NormalizePath('$(ProjectDir)', 'x', '..'))",
             u"a/b /D ~"_s);
