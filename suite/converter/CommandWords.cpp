@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "CommandWords.h"
 
+#include <algorithm>
+#include <array>
+#include <cstring>
+
 namespace {
 
 bool isBlank(char character)
@@ -14,9 +18,16 @@ bool isEscapable(char character)
     return character == '"' || character == '\\' || character == '$' || character == '`';
 }
 
+bool holds(QByteArrayView text, char character)
+{
+    return std::memchr(text.data(), character, size_t(text.size())) != nullptr;
+}
+
+// Nothing but words and the blanks between them, as most commands are.
 bool isPlain(QByteArrayView command)
 {
-    return command.indexOf('\\') < 0 && command.indexOf('"') < 0 && command.indexOf('\'') < 0;
+    static constexpr std::array others{'\\', '"', '\'', '\t', '\n', '\r', '\v', '\f'};
+    return std::ranges::none_of(others, [&](char character) { return holds(command, character); });
 }
 
 } // namespace
@@ -61,20 +72,23 @@ bool CommandWords::split(QByteArrayView command, Rules rules)
     if (!isPlain(command)) {
         return rules == Rules::Windows ? splitWindows(command) : splitShell(command, rules == Rules::ResponseFile);
     }
-    const char* at = command.begin();
-    while (at != command.end()) {
-        const char* wordEnd = at;
-        while (wordEnd != command.end() && !isBlank(*wordEnd)) {
-            ++wordEnd;
-        }
-        if (wordEnd != at) {
-            add(QByteArrayView(at, wordEnd));
-            at = wordEnd;
-        } else {
-            ++at;
-        }
-    }
+    splitPlain(command);
     return true;
+}
+
+void CommandWords::splitPlain(QByteArrayView command)
+{
+    const qsizetype base = buffer.size();
+    buffer.append(command);
+    qsizetype at = 0;
+    while (at < command.size()) {
+        const void* blank = std::memchr(command.data() + at, ' ', size_t(command.size() - at));
+        const qsizetype wordEnd = blank ? static_cast<const char*>(blank) - command.data() : command.size();
+        if (wordEnd > at) {
+            spans.emplace_back(base + at, wordEnd - at);
+        }
+        at = wordEnd + 1;
+    }
 }
 
 bool CommandWords::splitShell(QByteArrayView command, bool everywhere)

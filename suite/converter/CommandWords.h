@@ -29,6 +29,7 @@ public:
     QStringList texts() const;
 
 private:
+    void splitPlain(QByteArrayView command);
     bool splitShell(QByteArrayView command, bool everywhere);
     bool splitWindows(QByteArrayView command);
     void begin() { start = buffer.size(); }

@@ -38,7 +38,7 @@ void CompileDatabase::read(const QString& fileName, SourceCollector& collector)
     refuseUtf16(file);
     DatabaseStream stream(file);
     DatabaseReader handler(fileName, stream, collector);
-    rapidjson::Reader reader;
+    rapidjson::GenericReader<DatabaseEncoding, rapidjson::UTF8<>> reader;
     const rapidjson::ParseResult result = reader.Parse(stream, handler);
     if (file.error() != QFileDevice::NoError) {
         throw Failure{u"%1: can not be read (%2)."_s.arg(fileName, file.errorString())};

@@ -6,7 +6,6 @@
 #include <QHashFunctions>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -22,15 +21,21 @@ QByteArrayView nameOf(QByteArrayView path)
     return path.sliced(found.base() - path.begin());
 }
 
-// Names of what the compiler writes.
+// An option whose value names what the compiler writes.
 bool namesOutput(QByteArrayView word)
 {
-    static constexpr std::array<QByteArrayView, 5> options{"-o", "-MF", "-MT", "-MQ", "-MJ"};
-    return std::ranges::find(options, word) != options.end();
+    if (word.size() == 2) {
+        return word[0] == '-' && word[1] == 'o';
+    }
+    return word.size() == 3 && word[0] == '-' && word[1] == 'M' &&
+           (word[2] == 'F' || word[2] == 'T' || word[2] == 'Q' || word[2] == 'J');
 }
 
 bool holdsOutput(QByteArrayView word)
 {
+    if (word.size() < 3 || (word[1] != 'F' && word[1] != 'W')) {
+        return false;
+    }
     return word.startsWith("/Fo") || word.startsWith("/Fd") || word.startsWith("-Wp,-MD,") ||
            word.startsWith("-Wp,-MMD,");
 }
@@ -67,7 +72,7 @@ bool DatabaseEntry::isWindows() const
 bool DatabaseEntry::isFile(qsizetype i) const
 {
     const QByteArrayView word = arguments[i];
-    if (i == 0 || word.startsWith('-') || !word.endsWith(nameOf(file))) {
+    if (i == 0 || word.isEmpty() || word[0] == '-') {
         return false;
     }
     return nameOf(word) == nameOf(file) && !OptionSpellings::takesNextWord(QString::fromUtf8(arguments[i - 1]));

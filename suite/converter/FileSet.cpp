@@ -18,8 +18,9 @@ Failure cannotWrite(const QString& path, const QString& reason)
             "there."_s.arg(path, reason)};
 }
 
-// QSaveFile::commit() of Qt 6.4 is content with what could not be flushed.
-void fill(QSaveFile& file, const QByteArray& contents)
+// What was only half written says so at the flush: QSaveFile::commit() of Qt 6.4 is content without it.
+template <typename File>
+void fill(File& file, const QByteArray& contents)
 {
     const bool isGood = file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush();
     if (!isGood) {
@@ -66,26 +67,33 @@ void FileSet::add(const QString& path, const QByteArray& contents)
     if (info.exists() && !info.isFile()) {
         throw cannotWrite(path, u"it is not a file"_s);
     }
-    const bool existed = info.exists();
     QByteArray oldContents;
-    if (existed && old.open(QIODevice::ReadOnly)) {
+    if (info.exists() && old.open(QIODevice::ReadOnly)) {
         oldContents = old.readAll();
         if (oldContents == contents) {
             return;
         }
     }
+    makeFolder(Paths::folderOf(path));
     auto file = std::make_unique<QSaveFile>(path);
+    fill(*file, contents);
+    changed.push_back({std::move(file), oldContents, !info.exists()});
     ++count;
-    if (existed) {
-        fill(*file, contents);
-        changed.push_back({std::move(file), oldContents});
+}
+
+void FileSet::addNew(const QString& path, const QByteArray& contents)
+{
+    if (QFileInfo::exists(path)) {
+        add(path, contents);
         return;
     }
-    // Nothing is lost by a new one, and so thousands of them need not be held open.
+    // Thousands of them need neither be held open nor flushed to the disk one by one.
     makeFolder(Paths::folderOf(path));
-    fill(*file, contents);
-    place(*file);
+    QFile file(path);
     newFiles += path;
+    fill(file, contents);
+    names += path;
+    ++count;
 }
 
 void FileSet::commit()
@@ -96,19 +104,31 @@ void FileSet::commit()
             place(*changed[placed].file);
         }
     } catch (const Failure&) {
-        for (size_t i = 0; i < placed; ++i) {
-            QSaveFile again(changed[i].file->fileName());
-            if (again.open(QIODevice::WriteOnly) && again.write(changed[i].old) >= 0 && again.flush()) {
-                again.commit();
-            }
-        }
+        putBack(placed);
         throw;
     }
     isDone = true;
 }
 
+void FileSet::putBack(size_t placed)
+{
+    for (size_t i = 0; i < placed; ++i) {
+        const QString path = changed[i].file->fileName();
+        if (changed[i].isNew) {
+            QFile::remove(path);
+            continue;
+        }
+        QSaveFile again(path);
+        if (again.open(QIODevice::WriteOnly) && again.write(changed[i].old) >= 0 && again.flush()) {
+            again.commit();
+        }
+    }
+}
+
 void FileSet::rollBack()
 {
+    // Their temporary files lie in folders that shall go.
+    changed.clear();
     for (const QString& file : std::as_const(newFiles)) {
         QFile::remove(file);
     }

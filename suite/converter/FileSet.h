@@ -22,6 +22,9 @@ public:
     /// Puts a file beside its place, its folder made first. What is there already stays untouched until commit().
     /// Throws Failure.
     void add(const QString& path, const QByteArray& contents);
+    /// The same for a file that nothing can know yet, because its name tells its contents. It is put into its place at
+    /// once, and taken away again unless commit() is reached.
+    void addNew(const QString& path, const QByteArray& contents);
     /// The same for a file that is good enough as it is.
     void keep(const QString& path) { names += path; }
     /// Puts everything into its place, in the order in which it was added. Throws Failure and leaves the old files.
@@ -36,8 +39,10 @@ private:
     {
         std::unique_ptr<QSaveFile> file;
         QByteArray old;
+        bool isNew;
     };
 
+    void putBack(size_t placed);
     void makeFolder(const QString& folder);
     void rollBack();
 

@@ -80,7 +80,7 @@ void PersonalityFiles::addOptions(const ProjectTree::Node& part, const ProjectTr
     QString label = part.outputSubFolder.section(u'~', 0, 0);
     label = (label.isEmpty() ? arguments.name : label).right(40).replace(odd, u"_"_s);
     const QString path = place + u'/' + label + u'~' + shortHash(text) + u".p_a"_s;
-    files.add(path, OwnedFile::contents(path, OptionsText::via(rootFile) + text));
+    files.addNew(path, OwnedFile::contents(path, OptionsText::via(rootFile) + text));
     optionFiles.insert(part.options, path);
 }
 
@@ -92,7 +92,7 @@ void PersonalityFiles::addCompiler(int compiler, FileSet& files)
     }
     const QString text = known->text();
     const QString path = place + u'/' + known->label() + u'~' + shortHash(text) + u".p_c"_s;
-    files.add(path, OwnedFile::contents(path, OptionsText::via(arguments.compilerPersonality) + text));
+    files.addNew(path, OwnedFile::contents(path, OptionsText::via(arguments.compilerPersonality) + text));
     compilerFiles.insert(compiler, path);
 }
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SharedOptions.h"
 
+#include <QHash>
 #include <QSet>
+
+#include <algorithm>
 
 namespace {
 
@@ -73,12 +76,15 @@ OptionPool::Set SharedOptions::of(const OptionPool& pool, const QList<int>& sets
 OptionPool::Set SharedOptions::rest(const OptionPool::Set& set, const OptionPool::Set& shared)
 {
     // An include folder that comes twice is taken out where it stands first.
-    OptionPool::Set left = shared;
+    QHash<quint32, int> left;
+    for (const quint32 option : shared) {
+        ++left[option];
+    }
     OptionPool::Set result;
     for (const quint32 option : set) {
-        const qsizetype at = left.indexOf(option);
-        if (at >= 0) {
-            left.removeAt(at);
+        int& count = left[option];
+        if (count > 0) {
+            --count;
         } else {
             result += option;
         }
