@@ -63,6 +63,7 @@ void PersonalityFiles::addRoot(const ProjectTree& tree, FileSet& files)
     const QString text = OptionsText::via(arguments.analyserPersonality) + database() +
                          OptionsText::lines(sources.pool, tree.shared, arguments.forC);
     files.add(path, OwnedFile::contents(path, text));
+    rootMark = shortHash(text);
 }
 
 QString PersonalityFiles::database() const
@@ -80,7 +81,9 @@ void PersonalityFiles::addOptions(const ProjectTree::Node& part, const ProjectTr
     QString label = part.outputSubFolder.section(u'~', 0, 0);
     label = (label.isEmpty() ? arguments.name : label).right(40).replace(odd, u"_"_s);
     const QString path = place + u'/' + label + u'~' + shortHash(text) + u".p_a"_s;
-    files.addNew(path, OwnedFile::contents(path, OptionsText::via(rootFile) + text));
+    // Whoever looks at times sees that what is shared has changed.
+    const QString head = OptionsText::via(rootFile) + u"* What all share has the mark %1\n"_s.arg(rootMark);
+    files.addNew(path, OwnedFile::contents(path, head + text));
     optionFiles.insert(part.options, path);
 }
 

@@ -40,6 +40,7 @@ private:
     const QHash<int, CompilerPersonality>& compilers;
     QString place;
     QString rootFile;
+    QString rootMark;
     QHash<int, QString> optionFiles;
     QHash<int, QString> compilerFiles;
 };

@@ -181,7 +181,7 @@ private Q_SLOTS:
             {u"-list-types"_s, 0, u"List of files  [ORVC, ORVCPP]\n"_s},
             {u"-list-types --json"_s, 0, u"\"name\": \"Source folder\""_s},
             {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"kind\": \"DIR\""_s},
-            {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"ORVCPP\": \"cpp;cc;cxx;c\""_s},
+            {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"ORVCPP\": \"cpp;cc;cxx;c++;cp;C;c;cppm;ixx;mpp\""_s},
             {{}, 2, u"Usage: ProjectCreation -batch"_s},
             {u"-what"_s, 2, u"\"-what\""_s},
             {u"-prj"_s, 2, u"-prj wants a value"_s},

@@ -177,10 +177,12 @@ private Q_SLOTS:
         const QByteArray mine = "-d MINE=\xFF\n";
         project.write(u"work/p.options.p_a"_s, project.read(u"work/p.options.p_a"_s) + mine);
         project.write(u"work/p.options/"_s + QFileInfo(part).fileName(), project.read(part) + mine);
+        const QByteArray before = project.read(part);
         QCOMPARE(project.convertDatabase({u"--defines"_s, u"ALL"_s}).status, 0);
         QVERIFY(project.read(u"work/p.options.p_a"_s).contains("-d ALL\n"));
         QVERIFY(project.read(u"work/p.options.p_a"_s).endsWith(mine));
         QVERIFY(project.read(part).endsWith(mine));
+        QVERIFY(project.read(part) != before);
         // Without a use it stays, and the user is told; what holds nothing of theirs goes.
         project.writeDatabase(R"([{"file": "a.c", "command": "cc -DA -c a.c"}])");
         const ProgramResult result = project.convertDatabase();
