@@ -2,40 +2,12 @@
 #include "CommandParser.h"
 #include "OptionWords.h"
 #include "Paths.h"
+#include "RuntimeMacros.h"
+#include "StandardName.h"
 
 #include <QFileInfo>
-#include <QHash>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The -std= name of a standard, whatever compiler it was written for.
-QString standardName(const QString& value)
-{
-    static const QHash<QString, QString> names{
-        {u"c++latest"_s, u"c++23"_s},  {u"c++23preview"_s, u"c++23"_s}, {u"clatest"_s, u"c2x"_s},
-        {u"iso9899:1990"_s, u"c90"_s}, {u"iso9899:199409"_s, u"c90"_s}, {u"iso9899:1999"_s, u"c99"_s},
-        {u"iso9899:199x"_s, u"c99"_s}, {u"iso9899:2011"_s, u"c11"_s},   {u"iso9899:2017"_s, u"c17"_s},
-        {u"iso9899:2018"_s, u"c17"_s},
-    };
-    return names.value(value, value);
-}
-
-// What the run-time library that is chosen brings along.
-QStringList runtimeMacros(QStringView option)
-{
-    QStringList result{u"_MT=1"_s};
-    if (option.startsWith("MD"_L1)) {
-        result += u"_DLL=1"_s;
-    }
-    if (option.endsWith(u'd')) {
-        result += u"_DEBUG=1"_s;
-    }
-    return result;
-}
-
-} // namespace
 
 CommandParser::CommandParser(const BuildCommand& command)
     : build(command)
@@ -295,12 +267,12 @@ void CommandParser::finishOptions()
 // Looked for like any other header, but from the folder of the command.
 QString CommandParser::headerPath(const QString& name) const
 {
-    const QString here = folders.absolute(name);
+    QString here = folders.absolute(name);
     if (here == name || QFileInfo(here).isFile()) {
         return here;
     }
     for (const Option& folder : folders.options(result.compiler.isC)) {
-        const QString path = Paths::absolute(folder.text, name, build.windows);
+        QString path = Paths::absolute(folder.text, name, build.windows);
         if (QFileInfo(path).isFile()) {
             return path;
         }

@@ -151,11 +151,8 @@ bool CommandWords::splitWindows(QByteArrayView command)
         const bool atQuote = i < command.size() && command[i] == '"';
         buffer.append(atQuote ? slashes / 2 : slashes, '\\');
         if (!atQuote) {
-            if (slashes > 0) {
-                --i;
-            } else {
-                buffer.append(command[i]);
-            }
+            i -= slashes > 0 ? 1 : 0;
+            buffer.append(slashes > 0 ? QByteArrayView() : command.sliced(i, 1));
         } else if (slashes % 2 == 1) {
             buffer.append('"');
         } else if (quoted && i + 1 < command.size() && command[i + 1] == '"') {

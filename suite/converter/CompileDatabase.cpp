@@ -64,7 +64,7 @@ QString CompileDatabase::find(const QString& fileOrFolder, QStringList& others)
     };
     look(folder);
     QStringList below = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
-    std::ranges::stable_partition(below, [](const QString& name) { return name.startsWith("build"_L1); });
+    std::stable_partition(below.begin(), below.end(), [](const QString& name) { return name.startsWith("build"_L1); });
     for (const QString& name : std::as_const(below)) {
         look(QDir(folder.filePath(name)));
     }

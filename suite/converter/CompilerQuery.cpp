@@ -21,6 +21,35 @@ namespace {
 // A build has a handful; a description that names thousands is not worth an hour.
 constexpr qsizetype mostQuestions = 200;
 
+using Runs = std::vector<std::unique_ptr<CompilerRun>>;
+
+// As many at a time as the machine has processors.
+void runAll(const Runs& runs)
+{
+    QEventLoop loop;
+    size_t started = 0;
+    size_t finished = 0;
+    const auto startNext = [&] {
+        if (started < runs.size()) {
+            runs[started++]->start();
+        }
+    };
+    for (const auto& run : runs) {
+        QObject::connect(run.get(), &CompilerRun::finished, &loop, [&] {
+            startNext();
+            if (++finished == runs.size()) {
+                loop.quit();
+            }
+        });
+    }
+    for (int i = 0; i < std::max(2, QThread::idealThreadCount()); ++i) {
+        startNext();
+    }
+    if (!runs.empty()) {
+        loop.exec();
+    }
+}
+
 } // namespace
 
 CompilerQuery::CompilerQuery(QStringList distrustedFolders)
@@ -59,45 +88,22 @@ QString CompilerQuery::runnable(const CompilerSetup& setup, QString& reason) con
 QList<CompilerPersonality> CompilerQuery::ask(const QList<CompilerSetup>& setups) const
 {
     QList<CompilerPersonality> answers;
-    std::vector<std::pair<qsizetype, std::unique_ptr<CompilerRun>>> waiting;
+    Runs runs;
+    QList<qsizetype> asked;
     for (const CompilerSetup& setup : setups) {
         answers += CompilerPersonality{.setup = setup, .program = {}, .reason = {}, .macros = {}, .folders = {}};
         CompilerPersonality& answer = answers.last();
         const QString program = runnable(setup, answer.reason);
-        if (program.isEmpty()) {
-            continue;
-        }
-        if (qsizetype(waiting.size()) >= mostQuestions) {
+        if (!program.isEmpty() && asked.size() >= mostQuestions) {
             answer.reason = u"too many compilers to ask"_s;
-            continue;
+        } else if (!program.isEmpty()) {
+            asked += answers.size() - 1;
+            runs.push_back(std::make_unique<CompilerRun>(program, setup));
         }
-        waiting.emplace_back(answers.size() - 1, std::make_unique<CompilerRun>(program, setup));
     }
-
-    QEventLoop loop;
-    size_t started = 0;
-    size_t finished = 0;
-    const auto startNext = [&] {
-        if (started < waiting.size()) {
-            waiting[started++].second->start();
-        }
-    };
-    for (const auto& [number, run] : waiting) {
-        QObject::connect(run.get(), &CompilerRun::finished, &loop, [&] {
-            startNext();
-            if (++finished == waiting.size()) {
-                loop.quit();
-            }
-        });
-    }
-    for (int i = 0; i < std::max(2, QThread::idealThreadCount()); ++i) {
-        startNext();
-    }
-    if (!waiting.empty()) {
-        loop.exec();
-    }
-    for (const auto& [number, run] : waiting) {
-        run->tell(answers[number]);
+    runAll(runs);
+    for (qsizetype i = 0; i < asked.size(); ++i) {
+        runs[size_t(i)]->tell(answers[asked[i]]);
     }
     for (CompilerPersonality& answer : answers) {
         if (answer.macros.isEmpty()) {

@@ -55,7 +55,8 @@ public:
         for (auto key = order.cbegin(); key != order.cend(); ++key) {
             QList<Group>& ofFolder = groups[key.value()];
             // What needs nothing beyond the root goes into the root itself.
-            std::ranges::stable_partition(ofFolder, [&](const Group& group) { return isForRoot(key.key(), group); });
+            std::stable_partition(ofFolder.begin(), ofFolder.end(),
+                                  [&](const Group& group) { return isForRoot(key.key(), group); });
             for (const Group& group : std::as_const(ofFolder)) {
                 addPart(key.key(), group, &group == &ofFolder.first());
             }
