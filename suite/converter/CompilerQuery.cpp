@@ -4,6 +4,7 @@
 #include "CompilerRun.h"
 #include "Paths.h"
 
+#include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -20,6 +21,15 @@ namespace {
 
 // A build has a handful; a description that names thousands is not worth an hour.
 constexpr qsizetype mostQuestions = 200;
+
+// The user has chosen what lies there, even when the sources are all over the system.
+bool isInSearchPath(const QString& program)
+{
+    const QStringList folders = qEnvironmentVariable("PATH").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    return std::ranges::any_of(folders, [&](const QString& folder) {
+        return QDir::isAbsolutePath(folder) && QFileInfo(program).absolutePath() == QDir::cleanPath(folder);
+    });
+}
 
 using Runs = std::vector<std::unique_ptr<CompilerRun>>;
 
@@ -73,6 +83,9 @@ QString CompilerQuery::runnable(const CompilerSetup& setup, QString& reason) con
     if (found.isEmpty()) {
         reason = u"it is not on this system"_s;
         return {};
+    }
+    if (isInSearchPath(found)) {
+        return found;
     }
     for (const QString& path : {found, QFileInfo(found).canonicalFilePath()}) {
         for (const QString& folder : distrusted) {

@@ -37,6 +37,20 @@ private Q_SLOTS:
         QCOMPARE(lines.filter(u"__cplusplus="_s).size(), 0);
     }
 
+    void asksWhatTheSearchPathHolds()
+    {
+        if (QStandardPaths::findExecutable(u"c++"_s).isEmpty()) {
+            QSKIP("needs a compiler");
+        }
+        // The folder that these have in common holds the compiler, too.
+        const ConvertedProject project;
+        project.writeDatabase(R"([{"file": "a.cpp", "command": "c++ -c a.cpp"},
+                                  {"file": "/usr/none.cpp", "command": "c++ -c /usr/none.cpp"}])");
+        const ProgramResult result =
+            project.convertDatabase({u"--compiler-macros"_s, u"1"_s, u"--options"_s, u"keep-missing,sub-projects"_s});
+        QVERIFY2(result.output.contains("c++ was asked for its macros"_L1), qPrintable(result.output));
+    }
+
     void asksEachOnce()
     {
         const ConvertedProject project;
