@@ -21,13 +21,14 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Qt loads it by name, so no library that is linked tells of it; the help collection can not be read without.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6sql6-sqlite)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "assistant-qt6, cppcheck, qt6-translations-l10n, shared-mime-info, xdg-utils")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS qt6-wayland)
+# Each is asked by one kind of conversion only, which names what is missing.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "bear, cmake, ninja-build, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Converts the description of a build, such as a compilation database, to a
 project file for the static analysers Orv C and Orv C++: in a wizard, or
 without a window in scripts.
 .
-It comes with a converter for compilation databases, source folders and lists
-of files, and with open analysers on top of cppcheck, which are used
-where no others are installed.")
+It comes with a converter for compilation databases, CMake, Meson, Ninja, Make
+and Visual Studio projects, source folders and lists of files, and with open
+analysers on top of cppcheck, which are used where no others are installed.")
 include(CPack)

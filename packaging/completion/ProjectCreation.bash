@@ -85,9 +85,10 @@ _prjconv()
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
     case $previous in
     --compile-commands) _kovra_offer_files "$current" '*.json' ;;
+    --visual-studio) _kovra_offer_files "$current" '*.@(sln|slnx|vcxproj|vcxitems)' ;;
     --output) _kovra_offer_files "$current" '*.prj' ;;
     --file-list | --*-personality) _kovra_offer_files "$current" '' ;;
-    --source-folder | --output-folder)
+    --source-folder | --output-folder | --build-folder | --cmake-source | --make-folder)
         mapfile -t COMPREPLY < <(compgen -d -- "$current")
         compopt -o filenames 2>/dev/null
         ;;
@@ -95,11 +96,16 @@ _prjconv()
     --options) mapfile -t COMPREPLY < <(compgen -W 'sub-projects keep-missing sub-projects,keep-missing' -- "$current") ;;
     --paths) mapfile -t COMPREPLY < <(compgen -W 'relative absolute' -- "$current") ;;
     --own-language) COMPREPLY=(1) ;;
-    --name | --extensions | --exclude | --defines) COMPREPLY=() ;;
+    --compiler-macros) COMPREPLY=(0 1) ;;
+    --configuration) mapfile -t COMPREPLY < <(compgen -W 'Debug Release' -- "$current") ;;
+    --platform) mapfile -t COMPREPLY < <(compgen -W 'x64 Win32 ARM64' -- "$current") ;;
+    --make-command | --cmake-options | --environment | --name | --extensions | --exclude | --defines | --include-folders) COMPREPLY=() ;;
     *)
-        mapfile -t COMPREPLY < <(compgen -W '--compile-commands --source-folder --file-list --output --name --analyser
+        mapfile -t COMPREPLY < <(compgen -W '--compile-commands --build-folder --cmake-source --cmake-options
+            --make-folder --make-command --environment --visual-studio --configuration --platform
+            --source-folder --file-list --output --name --analyser
             --compiler-personality --analyser-personality --message-personality --output-folder --extensions --exclude
-            --defines --options --paths --own-language --help --version' -- "$current")
+            --defines --include-folders --compiler-macros --options --paths --own-language --help --version' -- "$current")
         ;;
     esac
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "builds/BuildInputs.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +12,7 @@ struct Arguments
     QString compileCommands;
     QString sourceFolder;
     QString fileList;
+    BuildInputs build = {};
     QString output;
     QString name;
     bool forC = false;
@@ -20,8 +23,13 @@ struct Arguments
     QString messagePersonality;
     QString outputFolder;
     QStringList extensions;
+    /// Patterns of what is left out.
     QStringList exclude;
     QStringList defines;
+    /// Absolute.
+    QStringList includeFolders;
+    /// Whether compilers are asked what they predefine.
+    bool compilerMacros = true;
     bool subProjects = false;
     bool keepMissing = false;
     bool absolutePaths = false;

@@ -1,134 +1,77 @@
 // SPDX-License-Identifier: MIT
 #include "CompileDatabase.h"
-#include "CommandSplitter.h"
+#include "DatabaseReader.h"
 #include "Failure.h"
+#include "FilePosition.h"
 #include "SourceLists.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QRegularExpression>
+
+#include <rapidjson/error/en.h>
+#include <rapidjson/reader.h>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// The parser reports how far it had read, the character at fault included.
-QString position(const QByteArray& text, qsizetype offset)
-{
-    const QByteArrayView before = QByteArrayView(text).first(std::clamp(offset - 1, qsizetype(0), text.size()));
-    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
-    return u"%1:%2"_s.arg(before.count('\n') + 1).arg(before.size() - lineStart + 1);
-}
+constexpr QLatin1StringView usualName("compile_commands.json");
 
-Failure badEntry(const QString& fileName, qsizetype index, const QString& reason)
+void refuseUtf16(QFile& file)
 {
-    return {u"%1: entry %2 %3. Generate the compilation database again."_s.arg(fileName, QString::number(index + 1),
-                                                                               reason)};
-}
-
-QString below(const QString& directory, const QString& path)
-{
-    // A leading colon is a name like any other here, not one of Qt's own resources.
-    const bool isAbsolute = QDir::isAbsolutePath(path) && !path.startsWith(u':');
-    return QDir::cleanPath(isAbsolute ? path : directory + u'/' + path);
-}
-
-// The value of an option that is either joined to it or the next word; null when the word is another option.
-QString optionValue(const QStringList& words, qsizetype& i, QStringView option)
-{
-    const QString& word = words[i];
-    if (!word.startsWith(option)) {
-        return {};
+    const QByteArray start = file.peek(2);
+    if (start == "\xFF\xFE" || start == "\xFE\xFF") {
+        throw Failure{u"%1: is written in UTF-16. Save it as UTF-8."_s.arg(file.fileName())};
     }
-    if (word.size() > option.size()) {
-        return word.sliced(option.size());
-    }
-    return i + 1 < words.size() ? words[++i] : QString();
-}
-
-// Elsewhere /Include may be the folder of a source.
-bool isSlashCompiler(const QString& compiler)
-{
-    static const QRegularExpression name(u"(^|[/\\\\])(cl|clang-cl|icl)(\\.exe)?$"_s,
-                                         QRegularExpression::CaseInsensitiveOption);
-    return name.match(compiler).hasMatch();
-}
-
-void readOptions(const QStringList& words, const QString& directory, SourceUnit& unit)
-{
-    static constexpr std::array includeOptions = {u"-isystem", u"-iquote", u"-idirafter", u"-I"};
-    const bool hasSlashOptions = !words.isEmpty() && isSlashCompiler(words.first());
-    for (qsizetype i = 1; i < words.size(); ++i) {
-        if (const QString define = optionValue(words, i, u"-D"); !define.isEmpty()) {
-            unit.defines += define;
-            continue;
-        }
-        for (const char16_t* option : includeOptions) {
-            if (const QString folder = optionValue(words, i, option); !folder.isEmpty()) {
-                unit.includeFolders += below(directory, folder);
-                break;
-            }
-        }
-        if (const QString folder = hasSlashOptions ? optionValue(words, i, u"/I") : QString(); !folder.isEmpty()) {
-            unit.includeFolders += below(directory, folder);
-        }
-    }
-}
-
-SourceUnit readEntry(const QJsonValue& value, const QString& fileName, const QString& ownFolder, qsizetype index)
-{
-    if (!value.isObject()) {
-        throw badEntry(fileName, index, u"is not an object"_s);
-    }
-    const QJsonObject entry = value.toObject();
-    const QString file = entry["file"_L1].toString();
-    if (file.isEmpty()) {
-        throw badEntry(fileName, index, u"has no \"file\""_s);
-    }
-    const QString directory = below(ownFolder, entry["directory"_L1].toString());
-    SourceUnit unit{.path = below(directory, file), .includeFolders = {}, .defines = {}};
-    QStringList words;
-    if (entry["arguments"_L1].isArray()) {
-        const QJsonArray arguments = entry["arguments"_L1].toArray();
-        for (const auto& argument : arguments) {
-            words += argument.toString();
-        }
-    } else {
-        words = splitCommand(entry["command"_L1].toString());
-    }
-    readOptions(words, directory, unit);
-    return unit;
 }
 
 } // namespace
 
-SourceUnits readCompileDatabase(const QString& fileName)
+void CompileDatabase::read(const QString& fileName, SourceCollector& collector)
 {
     QFile file(fileName);
     openText(file, u"compilation database"_s);
-    const QByteArray text = file.readAll();
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError) {
-        throw Failure{u"%1:%2: %3. Generate the compilation database again."_s.arg(
-            fileName, position(text, error.offset), error.errorString())};
+    file.setTextModeEnabled(false);
+    refuseUtf16(file);
+    DatabaseStream stream(file);
+    DatabaseReader handler(fileName, stream, collector);
+    rapidjson::GenericReader<DatabaseEncoding, rapidjson::UTF8<>> reader;
+    const rapidjson::ParseResult result = reader.Parse(stream, handler);
+    if (file.error() != QFileDevice::NoError) {
+        throw Failure{u"%1: can not be read (%2)."_s.arg(fileName, file.errorString())};
     }
-    if (!document.isArray()) {
-        throw Failure{u"%1:1:1: not a compilation database: the file must hold a JSON array."_s.arg(fileName)};
+    if (result.IsError()) {
+        throw Failure{u"%1: %2 Generate the compilation database again."_s.arg(
+            FilePosition::columnOf(fileName, result.Offset()),
+            QString::fromLatin1(rapidjson::GetParseError_En(result.Code())))};
     }
-    const QJsonArray entries = document.array();
-    const QString ownFolder = QFileInfo(fileName).absolutePath();
-    SourceUnits units;
-    units.reserve(entries.size());
-    for (qsizetype i = 0; i < entries.size(); ++i) {
-        units += readEntry(entries[i], fileName, ownFolder, i);
+}
+
+QString CompileDatabase::find(const QString& fileOrFolder, QStringList& others)
+{
+    if (!QFileInfo(fileOrFolder).isDir()) {
+        return fileOrFolder;
     }
-    return units;
+    const QDir folder(fileOrFolder);
+    QStringList found;
+    const auto look = [&](const QDir& place) {
+        if (const QFileInfo file(place.filePath(usualName)); file.isFile()) {
+            found += file.filePath();
+        }
+    };
+    look(folder);
+    QStringList below = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
+    std::stable_partition(below.begin(), below.end(), [](const QString& name) { return name.startsWith("build"_L1); });
+    for (const QString& name : std::as_const(below)) {
+        look(QDir(folder.filePath(name)));
+    }
+    if (found.isEmpty()) {
+        throw Failure{u"%1: there is no %2 in this folder or one level below. Name the build folder or the file."_s.arg(
+            fileOrFolder, usualName)};
+    }
+    others = found.mid(1);
+    return found.first();
 }

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "SourceUnit.h"
+#include "OptionPool.h"
+#include "ProjectSources.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
 
 struct Arguments;
 
-/// A project as it will be written: the root's files, then one sub-project for each further folder.
+/// A project as it will be written: the root's files, then a flat list of parts.
 struct ProjectTree
 {
     struct Node
@@ -13,21 +18,22 @@ struct ProjectTree
         QString name;
         /// Absolute.
         QString sourceDir;
-        /// Relative to the output folder; empty for the root.
+        /// Relative to the output folder; empty for the folder itself.
         QString outputSubFolder;
         /// Absolute paths.
         QStringList files;
+        /// A set of the pool; -1 when the root's options are all.
+        int options = -1;
+        /// A compiler of the sources; -1 for the root's.
+        int compiler = -1;
     };
 
     Node root;
-    QList<Node> subProjects;
-    QStringList includeFolders;
-    QStringList defines;
-    qsizetype duplicates = 0;
-    qsizetype otherLanguage = 0;
-    QStringList missing;
+    QList<Node> parts;
+    /// What every part is built with.
+    OptionPool::Set shared;
 
     qsizetype fileCount() const;
-    /// Sorts the units into projects; leaves out what the arguments do not want. Throws Failure when nothing is left.
-    static ProjectTree build(const SourceUnits& units, const Arguments& arguments);
+    /// Sorts the sources into parts.
+    static ProjectTree build(const Sources& sources, const ProjectSources& kept, const Arguments& arguments);
 };

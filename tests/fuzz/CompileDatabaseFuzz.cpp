@@ -4,9 +4,11 @@
 #include "CompileDatabase.h"
 #include "Failure.h"
 #include "project/Project.h"
+#include "ProjectSources.h"
 #include "ProjectTree.h"
 #include "ProjectWriter.h"
 #include "Sandbox.h"
+#include "SourceCollector.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,12 +17,13 @@ namespace {
 QStringList filesOf(const ProjectTree& tree)
 {
     QStringList files = tree.root.files;
-    for (const ProjectTree::Node& project : tree.subProjects) {
-        files += project.files;
+    for (const ProjectTree::Node& part : tree.parts) {
+        files += part.files;
     }
     return files;
 }
 
+// Without asking compilers: a database made of random bytes starts nothing.
 void convert(const QString& database, bool forC, bool subProjects)
 {
     Arguments arguments;
@@ -31,9 +34,14 @@ void convert(const QString& database, bool forC, bool subProjects)
     arguments.subProjects = subProjects;
     arguments.absolutePaths = forC;
     arguments.keepMissing = true;
+    arguments.compilerMacros = false;
     try {
-        const ProjectTree tree = ProjectTree::build(readCompileDatabase(database), arguments);
-        writeProject(tree, arguments);
+        SourceCollector collector(arguments);
+        CompileDatabase::read(database, collector);
+        const Sources sources = collector.take();
+        const ProjectTree tree =
+            ProjectTree::build(sources, ProjectSources::choose(sources, arguments), arguments);
+        writeProject(tree, sources, {}, arguments);
         Project project;
         Sandbox::require(project.load(arguments.output), "what was written is no project");
         Sandbox::require(project.isCAnalyser() == forC, "the project is for the other analyser");

@@ -58,7 +58,7 @@ private Q_SLOTS:
         const QString database =
             suite.write(u"work/db.json"_s,
                         R"([{"file": "code/größe a.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]},
-                {"file": "code/lib/b.cpp", "arguments": ["c++"]}])");
+                {"file": "code/lib/b.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]}])");
         const AppRegistry& registry = suite.start();
         WizardDriver wizard;
         BoxAnswers boxes({QMessageBox::Yes, QMessageBox::No, QMessageBox::Yes});
@@ -81,7 +81,7 @@ private Q_SLOTS:
              {u"name=own code\nsourceDir="_s + suite.path(u"work/code"_s), u"*project=ORVCPP\ngröße a.cpp"_s,
               u"messagePersonality="_s + suite.path(u"orvcpp/personalities/default.p_s"_s),
               u"name=lib\nsourceDir="_s + suite.path(u"work/code/lib"_s), u"b.cpp"_s,
-              u"-i \""_s + suite.path(u"work/an include"_s) + u"\"\n-d INDEX=7\n-d DEMO=<1>\n-d SECOND"_s}) {
+              u"-d INDEX=7\n-d DEMO=<1>\n-d SECOND\n-i \""_s + suite.path(u"work/an include"_s) + u"\""_s}) {
             QVERIFY2(written.contains('\n' + lines.toUtf8() + '\n'), written);
         }
         if (!hasAnalyser) {
@@ -181,7 +181,7 @@ private Q_SLOTS:
             {u"-list-types"_s, 0, u"List of files  [ORVC, ORVCPP]\n"_s},
             {u"-list-types --json"_s, 0, u"\"name\": \"Source folder\""_s},
             {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"kind\": \"DIR\""_s},
-            {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"ORVCPP\": \"cpp;cc;cxx;c\""_s},
+            {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"ORVCPP\": \"cpp;cc;cxx;c++;cp;C;c;cppm;ixx;mpp\""_s},
             {{}, 2, u"Usage: ProjectCreation -batch"_s},
             {u"-what"_s, 2, u"\"-what\""_s},
             {u"-prj"_s, 2, u"-prj wants a value"_s},

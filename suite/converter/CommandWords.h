@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QStringList>
+
+#include <utility>
+#include <vector>
+
+/// The words of a command, as UTF-8 in one buffer that is used again for the next command.
+class CommandWords
+{
+public:
+    /// Whose rules say where a word ends.
+    enum class Rules {
+        Shell,        ///< blanks separate, quotes and backslashes protect as in a POSIX shell; nothing is expanded
+        Windows,      ///< as the C run-time of Windows divides a command line
+        ResponseFile, ///< as GNU compilers read an @file: a backslash protects everywhere
+    };
+
+    void clear();
+    void add(QByteArrayView word);
+    /// Appends the words of a command; false when a quote is not closed, which then ends with the command.
+    bool split(QByteArrayView command, Rules rules);
+
+    qsizetype size() const { return qsizetype(spans.size()); }
+    QByteArrayView operator[](qsizetype i) const;
+    QStringList texts() const;
+
+private:
+    void splitPlain(QByteArrayView command);
+    bool splitShell(QByteArrayView command, bool everywhere);
+    bool splitWindows(QByteArrayView command);
+    void begin() { start = buffer.size(); }
+    void end();
+
+    QByteArray buffer;
+    std::vector<std::pair<qsizetype, qsizetype>> spans;
+    qsizetype start = 0;
+};

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+struct Arguments;
+
+/// Reads the build description, writes the project and tells on standard output what became of it. Throws Failure.
+void convert(const Arguments& arguments);

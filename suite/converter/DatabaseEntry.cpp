@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "DatabaseEntry.h"
+#include "OptionSpellings.h"
+#include "Paths.h"
+
+#include <QHashFunctions>
+
+#include <algorithm>
+
+namespace {
+
+bool isWindowsPath(QByteArrayView path)
+{
+    return Paths::isWindows(QString::fromUtf8(path.first(std::min<qsizetype>(path.size(), 3))));
+}
+
+QByteArrayView nameOf(QByteArrayView path)
+{
+    const auto isSeparator = [](char character) { return character == '/' || character == '\\'; };
+    const auto found = std::find_if(path.rbegin(), path.rend(), isSeparator);
+    return path.sliced(found.base() - path.begin());
+}
+
+// An option whose value names what the compiler writes.
+bool namesOutput(QByteArrayView word)
+{
+    if (word.size() == 2) {
+        return word[0] == '-' && word[1] == 'o';
+    }
+    return word.size() == 3 && word[0] == '-' && word[1] == 'M' &&
+           (word[2] == 'F' || word[2] == 'T' || word[2] == 'Q' || word[2] == 'J');
+}
+
+bool holdsOutput(QByteArrayView word)
+{
+    if (word.size() < 3 || (word[1] != 'F' && word[1] != 'W')) {
+        return false;
+    }
+    return word.startsWith("/Fo") || word.startsWith("/Fd") || word.startsWith("-Wp,-MD,") ||
+           word.startsWith("-Wp,-MMD,");
+}
+
+} // namespace
+
+void DatabaseEntry::clear()
+{
+    directory.resize(0);
+    file.resize(0);
+    output.resize(0);
+    command.resize(0);
+    arguments.clear();
+    hasArguments = false;
+}
+
+bool DatabaseEntry::isWindows() const
+{
+    if (directory.startsWith('/') && !directory.startsWith("//")) {
+        return false;
+    }
+    if (isWindowsPath(directory) || isWindowsPath(file)) {
+        return true;
+    }
+    QByteArrayView compiler = hasArguments && arguments.size() > 0 ? arguments[0] : QByteArrayView(command);
+    const bool quoted = compiler.startsWith('"');
+    compiler = compiler.sliced(quoted ? 1 : 0);
+    const qsizetype end = hasArguments ? compiler.size() : compiler.indexOf(quoted ? '"' : ' ');
+    compiler = end < 0 ? compiler : compiler.first(end);
+    return isWindowsPath(compiler) || compiler.toByteArray().toLower().endsWith(".exe");
+}
+
+// The source itself, and no option's value of the same name.
+bool DatabaseEntry::isFile(qsizetype i) const
+{
+    const QByteArrayView word = arguments[i];
+    if (i == 0 || word.isEmpty() || word[0] == '-') {
+        return false;
+    }
+    return nameOf(word) == nameOf(file) && !OptionSpellings::takesNextWord(QString::fromUtf8(arguments[i - 1]));
+}
+
+size_t DatabaseEntry::key() const
+{
+    size_t hash = qHashBits(directory.constData(), size_t(directory.size()), QHashSeed::globalSeed());
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QByteArrayView word = arguments[i];
+        if (namesOutput(word)) {
+            ++i;
+        } else if (!holdsOutput(word)) {
+            const bool own = isFile(i);
+            hash = qHashBits(word.data(), own ? 0 : size_t(word.size()), hash + (own ? 1 : 2));
+        }
+    }
+    return hash;
+}
+
+QByteArray DatabaseEntry::objectFile() const
+{
+    if (!output.isEmpty()) {
+        return output;
+    }
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        const QByteArrayView word = arguments[i];
+        if (word == "-o" && i + 1 < arguments.size()) {
+            return arguments[i + 1].toByteArray();
+        }
+        if (word.startsWith("/Fo") && word.size() > 3) {
+            return word.sliced(3).toByteArray();
+        }
+    }
+    return {};
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "Installation.h"
+#include "TestMain.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// The conversion types of the suite's definitions, as a user starts them: each input has to reach the converter.
+class ConversionTypesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const ProgramResult installed = runProgram(
+            QStringLiteral(INSTALL_SUITE), {suite.path(u"."_s), u"--build-dir"_s, QStringLiteral(BUILD_FOLDER)});
+        QVERIFY2(installed.status == 0, qPrintable(installed.errors));
+        suite.write(u"work/src/CMakeLists.txt"_s,
+                    "cmake_minimum_required(VERSION 3.16)\nproject(x CXX)\nadd_library(x STATIC a.cpp b.cpp)\n"
+                    "target_compile_definitions(x PRIVATE FROM=${FROM})\n");
+        suite.write(u"work/src/Makefile"_s, "all:\n\tg++ -DFROM=$(FROM) -c a.cpp b.cpp\n");
+        suite.write(u"work/src/build.ninja"_s, "rule cc\n command = g++ -DFROM=ninja -c $in\n"
+                                               "build a.o: cc a.cpp\nbuild b.o: cc b.cpp\n");
+        suite.write(u"work/src/x.vcxproj"_s,
+                    "<Project><ItemGroup><ProjectConfiguration Include=\"Debug|x64\"/>"
+                    "<ProjectConfiguration Include=\"Ship|ARM64\"/></ItemGroup><ItemDefinitionGroup><ClCompile>"
+                    "<PreprocessorDefinitions>FROM=$(Configuration)$(Platform)</PreprocessorDefinitions></ClCompile>"
+                    "</ItemDefinitionGroup><ItemGroup><ClCompile Include=\"a.cpp;b.cpp\"/></ItemGroup></Project>");
+        suite.write(u"work/src/a.cpp"_s, "int a;\n");
+        suite.write(u"work/src/b.cpp"_s, "int b;\n");
+    }
+
+    void handsItsInputsToTheConverter_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QStringList>("inputs");
+        QTest::addColumn<QByteArray>("define");
+        const QString source = suite.path(u"work/src"_s);
+        const auto row = [](const QString& type, const QStringList& inputs, const char* define) {
+            QTest::addRow("%s", qPrintable(type)) << type << inputs << QByteArray(define);
+        };
+        row(u"Build folder (CMake, Meson, Ninja)"_s, {u"Build folder="_s + source}, "ninja");
+        row(u"CMake source folder"_s, {u"CMake source folder="_s + source, u"Options for cmake=-DFROM=options"_s},
+            "options");
+        row(u"Make project (recorded while it builds)"_s,
+            {u"Folder to build in="_s + source, u"Build command=make -B all"_s,
+             u"Environment of the build=FROM=env;X=1"_s},
+            "env");
+        row(u"Visual Studio solution or project"_s,
+            {u"Solution or project="_s + source + u"/x.vcxproj"_s, u"Configuration=ship"_s, u"Platform=arm64"_s},
+            "ShipARM64");
+    }
+
+    void handsItsInputsToTheConverter()
+    {
+        QFETCH(const QString, type);
+        QFETCH(const QStringList, inputs);
+        QFETCH(const QByteArray, define);
+        const QString project = suite.path(u"work/out/%1.prj"_s.arg(QString::fromLatin1(define)));
+        QStringList arguments{u"-batch"_s, u"-cpp"_s, u"-prj"_s, project, u"-type"_s, type};
+        for (const QString& input :
+             inputs + QStringList{u"Leave out=b.*"_s, u"More defines=MORE=1"_s, u"More include folders=/more"_s,
+                                  u"Ask the compilers for their macros=0"_s}) {
+            arguments += {u"-input"_s, input};
+        }
+        const ProgramResult result = runProgram(suite.path(u"create-project"_s), arguments);
+        QVERIFY2(result.status == 0, qPrintable(result.output + result.errors));
+        const QByteArray written = suite.read(project);
+        QVERIFY2(written.contains("\na.cpp\n"), written);
+        QVERIFY2(!written.contains("b.cpp"), written);
+        const QByteArray options = suite.read(project.chopped(4) + u".options.p_a"_s);
+        for (const QByteArray& line :
+             {QByteArray("-d FROM=" + define), QByteArray("-d MORE=1"), QByteArray("-i \"/more\"")}) {
+            QVERIFY2(options.contains('\n' + line + '\n'), options + result.output.toUtf8());
+        }
+        QVERIFY2(!result.output.contains("asked for its macros"_L1), qPrintable(result.output));
+    }
+
+private:
+    Installation suite;
+};
+
+KOVRA_TEST(ConversionTypesTest)
+#include "ConversionTypesTest.moc"

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "ConvertedProject.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QFile>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// What compilers are asked, and which.
+class CompilerMacrosTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void asksTheCompiler()
+    {
+        const QString compiler = QStandardPaths::findExecutable(u"c++"_s);
+        if (compiler.isEmpty()) {
+            QSKIP("needs a compiler");
+        }
+        const ConvertedProject project;
+        project.writeDatabase(R"([{"file": "a.cpp", "command": "ccache c++ -fopenmp -std=c++17 -c a.cpp"}])");
+        const ProgramResult result = project.convertDatabase(
+            {u"--compiler-macros"_s, u"1"_s, u"--compiler-personality"_s, project.write(u"work/t.p_c"_s, "-d T\n")});
+        QVERIFY2(result.output.contains("c++ was asked for its macros"_L1), qPrintable(result.output));
+        const QStringList lines = project.options(project.partOf(u"a.cpp"_s).compiler);
+        QCOMPARE(lines.first(), u"-d T"_s);
+        QVERIFY(lines.contains(u"*orv compiler=\"%1\""_s.arg(compiler)));
+        QVERIFY(lines.contains(u"*orv builtin=\"/usr/include\""_s));
+        QVERIFY(lines.contains(u"-d __CHAR_BIT__=8"_s));
+        QVERIFY(lines.contains(u"-d __GNUG__=12"_s) || lines.filter(u"-d __GNUG__="_s).size() == 1);
+        QCOMPARE(lines.filter(u"-d _OPENMP="_s).size(), 1);
+        QCOMPARE(lines.filter(u"-d __INT64_C(c)=c ##"_s).size(), 1);
+        QCOMPARE(lines.filter(u"__cplusplus="_s).size(), 0);
+    }
+
+    void asksWhatTheSearchPathHolds()
+    {
+        if (QStandardPaths::findExecutable(u"c++"_s).isEmpty()) {
+            QSKIP("needs a compiler");
+        }
+        // The folder that these have in common holds the compiler, too.
+        const ConvertedProject project;
+        project.writeDatabase(R"([{"file": "a.cpp", "command": "c++ -c a.cpp"},
+                                  {"file": "/usr/none.cpp", "command": "c++ -c /usr/none.cpp"}])");
+        const ProgramResult result =
+            project.convertDatabase({u"--compiler-macros"_s, u"1"_s, u"--options"_s, u"keep-missing,sub-projects"_s});
+        QVERIFY2(result.output.contains("c++ was asked for its macros"_L1), qPrintable(result.output));
+    }
+
+    void asksEachOnce()
+    {
+        const ConvertedProject project;
+        const QString compiler = project.writeScript(
+            u"tools/gcc"_s,
+            "echo asked >> \"$0.log\"\necho '#define ASKED_WITH '\"$*\"\nread line && echo '#define INPUT' || true");
+        QByteArray entries = "[";
+        for (int i = 0; i < 20; ++i) {
+            entries += (i == 0 ? "" : ",") + QByteArray(R"({"file": "s/)") + QByteArray::number(i) +
+                       R"(.c", "command": ")" + compiler.toUtf8() + R"( -std=c99 -m32 -DI=)" + QByteArray::number(i) +
+                       " -arch x -c x.c\"}";
+        }
+        project.writeDatabase(entries + "]");
+        const ProgramResult result = project.convertDatabase({u"--compiler-macros"_s, u"1"_s});
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
+        QCOMPARE(project.read(u"tools/gcc.log"_s), QByteArray("asked\n"));
+        QCOMPARE(project.options(project.partOf(u"3.c"_s).compiler).last(),
+                 u"-d ASKED_WITH=-E -dM -v -x c -std=c99 -m32 -arch x -"_s);
+    }
+
+    void takesTheUsualMacros_data()
+    {
+        const TestRows<QString, QByteArray, QString, QString> row("program", "body", "says", "macro");
+        row("not there", u"/opt/none/aarch64-linux-gnu-gcc-12"_s, {}, u"it is not on this system"_s,
+            u"-d __aarch64__=1"_s);
+        row("refuses", u"%1/tools/gcc"_s, "echo no such option >&2; exit 1", u"it refused to answer: no such option"_s,
+            u"-d __BYTE_ORDER__=1234"_s);
+        row("never ends", u"%1/tools/cc"_s, "exec sleep 1000", u"it gave no answer in time"_s, u"-d __x86_64__=1"_s);
+        row("floods", u"%1/tools/clang"_s, "exec yes '#define A'", u"its answer is too long"_s, u"-d __clang__=1"_s);
+        row("says nothing", u"%1/tools/gcc-12"_s, "true", u"its answer holds no macros"_s, u"-d __linux__=1"_s);
+        row("not a compiler's name", u"%1/tools/clean"_s, "touch \"$0.ran\"", u"it has no option"_s,
+            u"-d __linux__=1"_s);
+        row("among the sources", u"%1/work/gcc"_s, "touch \"$0.ran\"", u"it lies among the sources"_s,
+            u"-d __linux__=1"_s);
+        row("by a relative path", u"./gcc"_s, {}, u"it is named by a relative path"_s, u"-d __linux__=1"_s);
+        row("cross compiler for Windows", u"/opt/none/i686-w64-mingw32-gcc"_s, {}, u"it is not on this system"_s,
+            u"-d __SIZEOF_POINTER__=4"_s);
+    }
+
+    void takesTheUsualMacros()
+    {
+        QFETCH(QString, program);
+        QFETCH(const QByteArray, body);
+        QFETCH(const QString, says);
+        QFETCH(const QString, macro);
+        const ConvertedProject project;
+        program.replace(u"%1"_s, project.path(u"work"_s).chopped(5));
+        if (!body.isEmpty()) {
+            project.writeScript(program.mid(project.path(u"work"_s).size() - 4), body);
+        }
+        project.writeDatabase(R"([{"file": "a.c", "command": ")" + program.toUtf8() + R"( -c a.c"}])");
+        const ProgramResult result = project.convertDatabase({u"--compiler-macros"_s, u"1"_s});
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
+        QVERIFY2(result.output.contains(says), qPrintable(result.output));
+        const QStringList lines = project.options(project.partOf(u"a.c"_s).compiler);
+        QVERIFY2(lines.contains(macro), qPrintable(lines.join(u'\n')));
+        QVERIFY(!QFile::exists(program + u".ran"_s));
+    }
+};
+
+KOVRA_TEST(CompilerMacrosTest)
+#include "CompilerMacrosTest.moc"

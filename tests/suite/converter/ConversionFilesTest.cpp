@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "ConvertedProject.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto twoSets =
+    R"([{"file": "a.c", "command": "cc -DA -c a.c"}, {"file": "b.c", "command": "cc -DB -c b.c"}])";
+
+/// Every file below the work folder with its contents.
+QMap<QString, QByteArray> snapshot(const Installation& place)
+{
+    QMap<QString, QByteArray> result;
+    QDirIterator files(place.path(u"work"_s), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString name = files.next();
+        result.insert(name, place.read(name));
+    }
+    return result;
+}
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+} // namespace
+
+/// What is written, and what is left when that fails.
+class ConversionFilesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusesBadInput_data()
+    {
+        const TestRows<QByteArray, QString> row("database", "says");
+        row("broken", "[\n  {\"file\": \"a.c\",}\n]", u"db.json:2:18: "_s);
+        row("empty", "", u"db.json:1:1: "_s);
+        row("truncated", "[{\"file\": \"a.c\"}", u"db.json:1:17: "_s);
+        row("binary", QByteArray("\0\1\2", 3), u"db.json:1:1: "_s);
+        row("something behind it", "[]\n[]", u"db.json:2:1: "_s);
+        row("UTF-16", QByteArray("\xFF\xFE[\0]\0", 6), u"is written in UTF-16"_s);
+        row("not an array", "{\"file\": \"a.c\"}", u"must hold a JSON array"_s);
+        row("entry without file", "[{\"file\": \"a.c\"},\n{\"directory\": \"/\"}]",
+            u"db.json:2: entry 2 has no \"file\""_s);
+        row("entry that is no object", "[\n3]", u"entry 1 is not an object"_s);
+        row("command that is no text", "[{\"file\": \"a.c\",\n\"command\": 3}]",
+            u"db.json:1: entry 1 has a \"command\" of the wrong type"_s);
+        row("arguments that are no list", R"([{"file": "a.c", "arguments": "cc -c"}])",
+            u"\"arguments\" of the wrong type"_s);
+        row("argument that is no text", R"([{"file": "a.c", "arguments": ["cc", 1]}])",
+            u"\"arguments\" of the wrong"_s);
+        row("file that is an object", R"([{"file": {"a": "c"}}])", u"\"file\" of the wrong type"_s);
+        row("directory that is a list", R"([{"directory": ["a"], "file": "a.c"}])",
+            u"\"directory\" of the wrong type"_s);
+        row("nested without end", QByteArray("[{\"x\": ") + QByteArray(1000000, '['), u"nested too deeply"_s);
+        row("nothing left", "[{\"file\": \"gone.c\"}]", u"no source file is left"_s);
+        row("line break in a define", R"([{"file": "a.c", "arguments": ["cc", "-DA=1\nB"]}])", u"holds a line break"_s);
+        row("a folder", R"([{"file": "."}])", u"no source file is left"_s);
+        row("empty entry", "[{}]", u"db.json:1: entry 1 has"_s);
+        row("line break in a name", "[{\"file\": \"x\\ny.c\"}]", u"the name holds a line break"_s);
+    }
+
+    void refusesBadInput()
+    {
+        QFETCH(const QByteArray, database);
+        QFETCH(const QString, says);
+        const ConvertedProject project;
+        project.write(u"work/a.c"_s, "");
+        project.write(u"work/x\ny.c"_s, "");
+        project.write(u"work/p.prj"_s, "old");
+        project.write(u"work/db.json"_s, database);
+        const auto before = snapshot(project);
+        const ProgramResult result = project.convertDatabase({u"--defines"_s, u"X"_s});
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
+        QCOMPARE(snapshot(project), before);
+    }
+
+    void refusesWrongArguments_data()
+    {
+        const TestRows<QString, QString> row("arguments", "says");
+        row("nothing to convert", u""_s, u"give one of --compile-commands"_s);
+        row("two things", u"--file-list a --source-folder b"_s, u"give one of --compile-commands"_s);
+        row("stray", u"--file-list db.json what"_s, u"unexpected argument \"what\""_s);
+        row("paths", u"--file-list db.json --paths x"_s, u"--paths wants"_s);
+        row("compiler macros", u"--file-list db.json --compiler-macros yes"_s, u"--compiler-macros wants 0 or 1"_s);
+        row("options", u"--file-list db.json --options x"_s, u"--options does not know \"x\""_s);
+    }
+
+    void refusesWrongArguments()
+    {
+        QFETCH(const QString, arguments);
+        QFETCH(const QString, says);
+        const ConvertedProject project;
+        const ProgramResult result = project.convert(arguments.split(u' ', Qt::SkipEmptyParts));
+        QCOMPARE(result.status, 2);
+        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
+    }
+
+    void worksWithOddNames()
+    {
+        const ConvertedProject project;
+        const QStringList names{u":colon.c"_s, u"a=b.c"_s,      u"eq=folder/x.c"_s, u"*star.c"_s, u" blank .c"_s,
+                                u"xMarker"_s,  u"имя/файл.c"_s, u"quo\"te.c"_s,     u"%2.c"_s,    u"-D.c"_s};
+        QJsonArray entries;
+        for (const QString& name : names) {
+            project.write(u"work/s/"_s + name, "");
+            entries.append(QJsonObject{{u"file"_s, u"s/"_s + name}});
+        }
+        project.write(u"work/db.json"_s, QJsonDocument(entries).toJson());
+        for (const auto& options : {u"sub-projects"_s, u""_s}) {
+            const ProgramResult result = project.convertDatabase({u"--options"_s, options});
+            QVERIFY2(result.status == 0, qPrintable(result.errors));
+            QStringList files;
+            for (const ConvertedProject::Part& part : project.parts()) {
+                for (const QString& file : part.files) {
+                    QVERIFY2(!file.startsWith(u':'), qPrintable(file));
+                    files += QDir::cleanPath(part.sourceDir + u'/' + file).mid(project.work(u"s/"_s).size());
+                }
+            }
+            files.sort();
+            QCOMPARE(files, sorted(names));
+        }
+    }
+
+    void refusesANameThatNoValueCanHold()
+    {
+        const ConvertedProject project;
+        project.write(u"work/a.c"_s, "");
+        project.write(u"work/list"_s, "a.c\n");
+        const ProgramResult result = project.convert({u"--file-list"_s, u"list"_s, u"--name"_s, u"a=b"_s});
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.errors.contains("a=b: the name holds \"=\""_L1), qPrintable(result.errors));
+    }
+
+    void leavesAloneWhatIsTheSame()
+    {
+        const ConvertedProject project;
+        project.writeDatabase(R"([{"file": "a.c", "command": "cc -DA -F x -c a.c"},
+                                  {"file": "b.c", "command": "cc -DB -c b.c"}])");
+        QCOMPARE(project.convertDatabase({u"--compiler-macros"_s, u"1"_s}).status, 0);
+        // An analyser notes when it was here.
+        QByteArray text = project.read(u"work/p.prj"_s);
+        project.write(u"work/p.prj"_s, text.replace("*project", "*lastAnalysis=2\n*project"));
+        const QDateTime old = QDateTime::currentDateTime().addDays(-1);
+        const QStringList files = snapshot(project).keys();
+        for (const QString& file : files) {
+            project.write(QDir(project.path(u""_s)).relativeFilePath(file), project.read(file), old);
+        }
+        QCOMPARE(project.convertDatabase({u"--compiler-macros"_s, u"1"_s}).status, 0);
+        for (const QString& file : files) {
+            QVERIFY2(QFileInfo(file).lastModified() < old.addSecs(10), qPrintable(file));
+        }
+    }
+
+    void keepsTheUsersPart()
+    {
+        const ConvertedProject project;
+        project.writeDatabase(twoSets);
+        QCOMPARE(project.convertDatabase().status, 0);
+        const QString part = project.partOf(u"b.c"_s).analyser;
+        const QByteArray mine = "-d MINE=\xFF\n";
+        project.write(u"work/p.options.p_a"_s, project.read(u"work/p.options.p_a"_s) + mine);
+        project.write(u"work/p.options/"_s + QFileInfo(part).fileName(), project.read(part) + mine);
+        const QByteArray before = project.read(part);
+        QCOMPARE(project.convertDatabase({u"--defines"_s, u"ALL"_s}).status, 0);
+        QVERIFY(project.read(u"work/p.options.p_a"_s).contains("-d ALL\n"));
+        QVERIFY(project.read(u"work/p.options.p_a"_s).endsWith(mine));
+        QVERIFY(project.read(part).endsWith(mine));
+        QVERIFY(project.read(part) != before);
+        // Without a use it stays, and the user is told; what holds nothing of theirs goes.
+        project.writeDatabase(R"([{"file": "a.c", "command": "cc -DA -c a.c"}])");
+        const ProgramResult result = project.convertDatabase();
+        QVERIFY2(result.output.contains(u"nothing uses "_s + part), qPrintable(result.output));
+        QCOMPARE(QDir(project.work(u"p.options"_s)).entryList(QDir::Files), QStringList{QFileInfo(part).fileName()});
+    }
+
+    void keepsAForeignConfigurationFile()
+    {
+        const ConvertedProject project;
+        project.writeDatabase(twoSets);
+        project.write(u"work/p.options.p_a"_s, "mine\n");
+        const auto before = snapshot(project);
+        const ProgramResult result = project.convertDatabase();
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.errors.contains("was not written by this program"_L1), qPrintable(result.errors));
+        QCOMPARE(snapshot(project), before);
+    }
+
+    void writesAllOrNothing_data()
+    {
+        const TestRows<QString, QString> row("prepare", "start");
+        row("full disk", {}, u"trap '' XFSZ; ulimit -f 0"_s);
+        row("full disk at the end", {}, u"trap '' XFSZ; ulimit -f 1"_s);
+        row("project is a folder", u"rm p.prj; mkdir p.prj"_s, u"true"_s);
+        row("options folder is a file", u"rm -r p.options; touch p.options"_s, u"true"_s);
+        row("lost folder", {}, u"mkdir x; cd x; rmdir ../x"_s);
+    }
+
+    void writesAllOrNothing()
+    {
+        QFETCH(const QString, prepare);
+        QFETCH(const QString, start);
+        const ConvertedProject project;
+        project.writeDatabase(twoSets);
+        QCOMPARE(project.convertDatabase().status, 0);
+        QByteArray many = "[";
+        for (int i = 0; i < 100; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            project.write(u"work/n%1.c"_s.arg(i), "");
+            many += (i == 0 ? "" : ",") + QByteArray(R"({"file": "n)") + number + R"(.c", "command": "cc -DN=)" +
+                    number + " -c n.c\"}";
+        }
+        project.write(u"work/db.json"_s, many + "]");
+        const QString work = project.path(u"work"_s);
+        runProgram(u"/bin/sh"_s, {u"-c"_s, prepare}, {}, work);
+        const auto before = snapshot(project);
+        const QString output = start.contains(u"rmdir"_s) ? u"p.prj"_s : project.work(u"p.prj"_s);
+        const ProgramResult result = runProgram(
+            u"/bin/sh"_s,
+            {u"-c"_s, start + u"; exec \"$0\" --compile-commands \"$1/db.json\" --output \"$2\" --analyser ORVC"_s,
+             QStringLiteral(CONVERTER), work, output},
+            {{u"LC_ALL"_s, u"C.UTF-8"_s}}, work);
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.errors.contains("can not be written ("_L1), qPrintable(result.errors));
+        QCOMPARE(snapshot(project), before);
+    }
+};
+
+KOVRA_TEST(ConversionFilesTest)
+#include "ConversionFilesTest.moc"

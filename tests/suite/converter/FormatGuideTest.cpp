@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "ConvertedProject.h"
+#include "project/Project.h"
+#include "TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// The converters of the guides work from and into any folder.
+class FormatGuideTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void convertsFromAnyFolder_data()
+    {
+        QTest::addColumn<QString>("guide");
+        QTest::addColumn<QString>("block");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("format") << u"project-file.md"_s << u"```sh worked-converter\n"_s
+                                << QStringList{u"../src tree/list"_s, u"../src tree/options"_s, u"p.prj"_s, u"demo"_s,
+                                               u"ORVCPP"_s};
+        QTest::newRow("definitions") << u"settings-xml.md"_s << u"```sh\n"_s
+                                     << QStringList{u"../src tree/list"_s, u"p.prj"_s, u"demo"_s,
+                                                    u"ORVCPP"_s,           u"p.out"_s, u"cat"_s};
+    }
+
+    void convertsFromAnyFolder()
+    {
+        QFETCH(const QString, guide);
+        QFETCH(const QString, block);
+        QFETCH(const QStringList, arguments);
+        ConvertedProject place;
+        place.start();
+        QFile file(QStringLiteral(SOURCE_FOLDER "/docs/") + guide);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString script = QString::fromUtf8(file.readAll()).section(block, 1, 1).section(u"```"_s, 0, 0);
+        QVERIFY(script.startsWith("#!/bin/sh\n"_L1));
+        for (const char* name : {"src tree/a.cpp", "src tree/deep/b=c.cpp"}) {
+            place.write(u"work/"_s + QString::fromLatin1(name), "");
+        }
+        place.write(u"work/src tree/list"_s, "a.cpp\ndeep/b=c.cpp\n");
+        place.write(u"work/src tree/options"_s, "-DSIZE=2\n-Iinc\n-I/usr/x\n-UOLD\n-O2\n");
+        place.write(u"work/elsewhere/keep"_s, "");
+        const ProgramResult result =
+            runProgram(u"/bin/sh"_s, QStringList{u"-c"_s, script, u"sh"_s} + arguments, {}, place.work(u"elsewhere"_s));
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
+
+        const Project project(place.work(u"elsewhere/p.prj"_s));
+        QCOMPARE(project.root.existingFileCount(), 2);
+        QCOMPARE(project.root.outputFolder(), place.work(u"elsewhere/p.out"_s));
+        QVERIFY(!project.isCAnalyser());
+        if (guide == "project-file.md"_L1) {
+            QCOMPARE(place.options(project.root.resolvedAnalyserPersonality()),
+                     (QStringList{u"-d SIZE=2"_s, u"-i \"%1/inc\""_s.arg(place.work(u"src tree"_s)), u"-i \"/usr/x\""_s,
+                                  u"*orv undefine=OLD"_s}));
+            QVERIFY2(result.errors.contains("-O2 has no counterpart"_L1), qPrintable(result.errors));
+        }
+    }
+};
+
+KOVRA_TEST(FormatGuideTest)
+#include "FormatGuideTest.moc"
