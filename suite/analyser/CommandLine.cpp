@@ -76,6 +76,7 @@ private:
             return false;
         }
         line.form = *form;
+        line.hasForm = true;
         return true;
     }
 
@@ -193,6 +194,7 @@ QString CommandLine::usage()
     return QStringLiteral(R"(Analyses KOVRA projects with cppcheck and reports what it finds.
 
   orv analyse PROJECT [-j N] [--launcher CMD] [--time-limit SECONDS] [--fail-on SEVERITY] [--incomplete-ok]
+             [FORM of the report that follows, as below] [-o FILE]
   orv report PROJECT [--text | --html | --plain-html | --csv | --sarif] [-o FILE] [--severity LEAST]
              [--fail-on SEVERITY] [--incomplete-ok]
   orv browse PROJECT [-o FOLDER] [--no-browser]

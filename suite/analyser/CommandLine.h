@@ -25,6 +25,8 @@ struct CommandLine
     bool isLauncher = false;
     bool forC = false;
     ReportForm form = ReportForm::Text;
+    /// The form was named, so an analysis is to be followed by the report.
+    bool hasForm = false;
     QString projectFile;
     QString outputFile;
     RunSettings run;

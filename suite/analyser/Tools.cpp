@@ -58,17 +58,6 @@ int statusOf(const CommandLine& line, const AnalysisResults& findings)
     return isAbove ? aboveLimit : good;
 }
 
-int runAnalysis(const CommandLine& line)
-{
-    AnalysisPlan plan = planOf(line);
-    const AnalysisEnd end = analyse(plan, line.run);
-    const bool isIncomplete = end == AnalysisEnd::Incomplete && !line.mayBeIncomplete;
-    if (end == AnalysisEnd::Stopped || end == AnalysisEnd::Nothing || isIncomplete) {
-        return failed;
-    }
-    return statusOf(line, AnalysisResults(plan));
-}
-
 QByteArray report(ReportForm form, const AnalysisPlan& plan, const AnalysisResults& findings)
 {
     switch (form) {
@@ -85,11 +74,8 @@ QByteArray report(ReportForm form, const AnalysisPlan& plan, const AnalysisResul
     }
 }
 
-int runReport(const CommandLine& line)
+void writeReport(const CommandLine& line, const AnalysisPlan& plan, AnalysisResults& findings)
 {
-    const AnalysisPlan plan = planOf(line);
-    AnalysisResults findings(plan);
-    const int status = statusOf(line, findings);
     std::erase_if(findings.findings, [&](const SeenFinding& seen) { return seen.finding.severity < line.least; });
     const QByteArray text = report(line.form, plan, findings);
     if (line.outputFile.isEmpty() || line.outputFile == u"-"_s) {
@@ -97,6 +83,30 @@ int runReport(const CommandLine& line)
     } else {
         ResultFile::write(line.outputFile, text);
     }
+}
+
+int runAnalysis(const CommandLine& line)
+{
+    AnalysisPlan plan = planOf(line);
+    const AnalysisEnd end = analyse(plan, line.run);
+    if (end == AnalysisEnd::Stopped) {
+        return failed;
+    }
+    AnalysisResults findings(plan);
+    const int status = statusOf(line, findings);
+    if (line.hasForm) {
+        writeReport(line, plan, findings);
+    }
+    const bool isIncomplete = end == AnalysisEnd::Incomplete && !line.mayBeIncomplete;
+    return end == AnalysisEnd::Nothing || isIncomplete ? failed : status;
+}
+
+int runReport(const CommandLine& line)
+{
+    const AnalysisPlan plan = planOf(line);
+    AnalysisResults findings(plan);
+    const int status = statusOf(line, findings);
+    writeReport(line, plan, findings);
     return status;
 }
 
@@ -145,7 +155,7 @@ int runAcross(const CommandLine& line)
     return good;
 }
 
-int runStatus(const CommandLine& line)
+int tellStatus(const CommandLine& line)
 {
     const AnalysisPlan plan = planOf(line);
     print(plan.statusText.toUtf8() + '\n');
@@ -154,6 +164,20 @@ int runStatus(const CommandLine& line)
         print(u"   Not analysed: %1: %2\n"_s.arg(source.source, source.reason).toUtf8());
     }
     return good;
+}
+
+// That a project can not be used is a status too, for those who look at it in a window.
+int runStatus(const CommandLine& line)
+{
+    try {
+        return tellStatus(line);
+    } catch (const Failure& failure) {
+        if (!line.isLauncher) {
+            throw;
+        }
+        print(failure.text.toUtf8() + '\n');
+        return good;
+    }
 }
 
 } // namespace
