@@ -18,11 +18,12 @@ set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Qt loads it by name, so no library that is linked tells of it; the help collection can not be read without.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6sql6-sqlite)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "assistant-qt6, cppcheck, qt6-translations-l10n, shared-mime-info, xdg-utils")
+# Qt loads sqlite by name, so no library that is linked tells of it; the help collection can not be read without. The
+# suite's analysers start the other two.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "cppcheck (>= 2.10), libqt6sql6-sqlite, ninja-build")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "assistant-qt6, qt6-translations-l10n, shared-mime-info, xdg-utils")
 # Each is asked by one kind of conversion only, which names what is missing.
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "bear, cmake, ninja-build, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "bear, cmake, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Converts the description of a build, such as a compilation database, to a
 project file for the static analysers Orv C and Orv C++: in a wizard, or

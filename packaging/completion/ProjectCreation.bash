@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# bash completion for ProjectCreation and prjconv
+# bash completion for ProjectCreation, prjconv and orv
 
 # Offers lines, blanks quoted, that begin with what has been typed so far, with or without an opening quote.
 _kovra_offer_lines()
@@ -110,5 +110,36 @@ _prjconv()
     esac
 }
 
+_orv()
+{
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W 'analyse report browse across count status --help --version' -- "$current")
+        return
+    fi
+    case $previous in
+    -o | -via) _kovra_offer_files "$current" '' ;;
+    -j | --time-limit) COMPREPLY=() ;;
+    --launcher) mapfile -t COMPREPLY < <(compgen -c -- "$current") ;;
+    --fail-on | --severity)
+        mapfile -t COMPREPLY < <(compgen -W 'error warning style performance portability information' -- "$current")
+        ;;
+    *)
+        local options='-via'
+        case ${COMP_WORDS[1]} in
+        analyse) options+=' -j --launcher --time-limit --fail-on --incomplete-ok --html --csv --sarif -o' ;;
+        report) options+=' --text --html --plain-html --csv --sarif -o --severity --fail-on --incomplete-ok' ;;
+        browse) options+=' -o --no-browser' ;;
+        esac
+        if [[ $current == -* ]]; then
+            mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
+        else
+            _kovra_offer_files "$current" '*.prj'
+        fi
+        ;;
+    esac
+}
+
 complete -F _ProjectCreation ProjectCreation
+complete -F _orv orv
 complete -F _prjconv prjconv

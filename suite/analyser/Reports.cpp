@@ -1,86 +1,121 @@
 // SPDX-License-Identifier: MIT
 #include "Reports.h"
-#include "OptionFiles.h"
+#include "AnalysisPlan.h"
+#include "AnalysisResults.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QMap>
-#include <QRegularExpression>
-#include <QSaveFile>
+#include <QStringList>
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList messagesOf(const ToolOptions::Source& source)
+/// How many there are of something, in words.
+QString counted(int count, Severity severity)
 {
-    QFile file(source.outputFolder + u'/' + QFileInfo(source.path).fileName() + u".err"_s);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)
-                                          : QStringList();
+    static constexpr std::array one = {
+        "debug message", "information", "portability message", "performance message", "style message",
+        "warning",       "error"};
+    const QString name = QLatin1StringView(one[size_t(severity)]);
+    const bool isMass = severity == Severity::Information;
+    return QString::number(count) + u' ' + name + (count == 1 || isMass ? u""_s : u"s"_s);
+}
+
+QString rulesInForce(const AnalysisPlan& plan, const AnalysisResults& findings)
+{
+    QStringList names = findings.modules;
+    for (const QString& personality : plan.personalities) {
+        names += QFileInfo(personality).fileName();
+    }
+    return names.join(u", "_s);
+}
+
+QByteArray csvField(const QString& text)
+{
+    QByteArray field = text.toUtf8();
+    if (field.contains(',') || field.contains('"') || field.contains('\n') || field.contains('\r')) {
+        field = '"' + field.replace('"', "\"\"") + '"';
+    }
+    return field;
 }
 
 } // namespace
 
-QString htmlReport(const ToolOptions& options)
+QStringList Reports::summary(const AnalysisPlan& plan, const AnalysisResults& findings)
 {
-    QString rows;
-    qsizetype total = 0;
-    for (const ToolOptions::Source& source : options.sources) {
-        const QStringList messages = messagesOf(source);
-        total += messages.size();
-        rows += u"<h3>%1 (%2)</h3>\n<ul>\n"_s.arg(source.path.toHtmlEscaped(), QString::number(messages.size()));
-        for (const QString& message : messages) {
-            rows += u"<li>"_s + message.toHtmlEscaped() + u"</li>\n"_s;
-        }
-        rows += u"</ul>\n"_s;
+    QStringList lines;
+    lines += u"%1 of %2 sources analysed"_s.arg(findings.analysed).arg(plan.units.size());
+    if (!plan.lastAnalysis.isEmpty()) {
+        lines.last() += u" with "_s + plan.lastAnalysis;
     }
-    return u"<html><head><title>Results</title></head><body>\n<h1>Results</h1>\n<p>%1 messages in %2 "
-           u"files</p>\n%3</body>"
-           "</html>\n"_s.arg(total)
-               .arg(options.sources.size())
-               .arg(rows);
+    lines += totals(findings);
+    const QString inForce = rulesInForce(plan, findings);
+    if (!inForce.isEmpty()) {
+        lines += u"In force: "_s + inForce;
+    }
+    if (findings.hidden > 0) {
+        lines += u"%1 messages are not shown, as the message personality says"_s.arg(findings.hidden);
+    }
+    if (!findings.notAnalysed.empty() && findings.analysed > 0) {
+        lines += u"What only sources without an analysis use is told as unused"_s;
+    }
+    return lines;
 }
 
-QString crossModuleReport(const ToolOptions& options)
+QString Reports::totals(const AnalysisResults& findings)
 {
-    static const QRegularExpression identifier(u"\\[(\\w+)\\]$"_s);
-    QMap<QString, int> messages;
-    QMap<QString, QStringList> names;
-    for (const ToolOptions::Source& source : options.sources) {
-        names[QFileInfo(source.path).fileName()] += source.path;
-        const QStringList lines = messagesOf(source);
-        for (const QString& line : lines) {
-            ++messages[identifier.match(line).captured(1)];
+    QStringList parts;
+    for (int severity = int(Severity::Error); severity >= 0; --severity) {
+        const int count = findings.countOf(Severity(severity));
+        if (count > 0) {
+            parts += counted(count, Severity(severity));
         }
     }
-    QString text = u"Messages by kind\n"_s;
-    for (auto message = messages.cbegin(); message != messages.cend(); ++message) {
-        text += u"%1  %2\n"_s.arg(message.value(), 6).arg(message.key());
+    return parts.isEmpty() ? u"no messages"_s : parts.join(u", "_s);
+}
+
+QString Reports::seenFrom(int sources)
+{
+    return sources > 1 ? u"seen from %1 sources"_s.arg(sources) : QString();
+}
+
+QByteArray Reports::text(const AnalysisPlan& plan, const AnalysisResults& findings)
+{
+    QString text = (plan.name.isEmpty() ? u"Results"_s : u"Results of "_s + plan.name) + u'\n';
+    for (const QString& line : summary(plan, findings)) {
+        text += line + u".\n"_s;
     }
-    QString namesakes;
-    for (const QStringList& paths : std::as_const(names)) {
-        if (paths.size() > 1) {
-            namesakes += paths.join(u"  "_s) + u'\n';
+    if (!findings.notAnalysed.empty()) {
+        text += u"\nNot analysed:\n"_s;
+    }
+    for (const NotAnalysed& source : findings.notAnalysed) {
+        text += u"  "_s + source.source + u": "_s + source.reason + u'\n';
+    }
+    QString file;
+    for (const SeenFinding& seen : findings.findings) {
+        if (seen.finding.file != file) {
+            file = seen.finding.file;
+            text += u'\n' + plan.shownName(file) + u'\n';
         }
+        const QString seenBy = seenFrom(seen.sources);
+        text += seen.finding.toLine() + (seenBy.isEmpty() ? u"\n"_s : u" ("_s + seenBy + u")\n"_s);
     }
-    text += u"\nSources with the same name\n"_s + (namesakes.isEmpty() ? u"none\n"_s : namesakes);
-    if (options.crossModuleFile.isEmpty()) {
-        return text;
+    return text.toUtf8();
+}
+
+QByteArray Reports::csv(const AnalysisPlan&, const AnalysisResults& findings)
+{
+    QByteArray text("file,line,column,severity,id,message,sources\r\n");
+    for (const NotAnalysed& source : findings.notAnalysed) {
+        text += csvField(source.source) + ",,,not analysed,," + csvField(source.reason) + ",1\r\n";
     }
-    QDir().mkpath(QFileInfo(options.crossModuleFile).absolutePath());
-    QSaveFile file(options.crossModuleFile);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0 || !file.commit()) {
-        throw QString(options.crossModuleFile + u": "_s + file.errorString());
+    for (const SeenFinding& seen : findings.findings) {
+        const Finding& finding = seen.finding;
+        text += csvField(finding.file) + ',' + QByteArray::number(finding.line) + ',' +
+                QByteArray::number(finding.column) + ',' + severityName(finding.severity) + ',' + csvField(finding.id) +
+                ',' + csvField(finding.text) + ',' + QByteArray::number(seen.sources) + "\r\n";
     }
     return text;
-}
-
-QString messageCount(const ToolOptions& options)
-{
-    qsizetype total = 0;
-    for (const ToolOptions::Source& source : options.sources) {
-        total += messagesOf(source).size();
-    }
-    return u"%1 messages in %2 analysed files"_s.arg(total).arg(options.sources.size());
 }

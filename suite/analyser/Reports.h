@@ -1,16 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
-struct ToolOptions;
+struct AnalysisPlan;
+class AnalysisResults;
 
-/// The messages of all analysed sources as an HTML page.
-QString htmlReport(const ToolOptions& options);
+/// The results of an analysis in different forms, UTF-8. All tell the sources that were not analysed first, then each
+/// message once.
+namespace Reports {
 
-/// What concerns several sources at once: how often each message occurs, and sources that share a name. Also written to
-/// the cross-module analysis file; throws a QString when that can not be written.
-QString crossModuleReport(const ToolOptions& options);
+/// Lines that a terminal or an editor takes places from.
+QByteArray text(const AnalysisPlan& plan, const AnalysisResults& findings);
+/// As RFC 4180 has it.
+QByteArray csv(const AnalysisPlan& plan, const AnalysisResults& findings);
 
-/// One line: how many messages there are.
-QString messageCount(const ToolOptions& options);
+/// "148 of 151 sources analysed" and what else is worth one line each.
+QStringList summary(const AnalysisPlan& plan, const AnalysisResults& findings);
+/// "3 errors, 1 warning"; "no messages" when there are none.
+QString totals(const AnalysisResults& findings);
+/// "seen from 3 sources"; empty for one.
+QString seenFrom(int sources);
+
+} // namespace Reports

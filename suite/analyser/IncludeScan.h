@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+/// Finds the headers that cppcheck reads for a source: every #include that it can open, whatever conditions stand
+/// around it, beside the including file first and then in the folders. A compiler's list would name the system's
+/// headers too, which cppcheck does not read, and takes longer to make than a small source takes to analyse.
+class IncludeScan
+{
+public:
+    explicit IncludeScan(QStringList searchedFolders);
+
+    /// The file itself and all that it includes, directly or not; absolute.
+    QStringList filesOf(const QStringList& files);
+
+private:
+    QString find(const QString& name, bool isQuoted, const QString& includer);
+    bool isFile(const QString& path);
+
+    QStringList folders;
+    QHash<QString, bool> knownFiles;
+};
+
+/// "target: files" as make and Ninja read it.
+QByteArray dependencyRule(const QString& target, const QStringList& files);

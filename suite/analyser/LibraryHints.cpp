@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "LibraryHints.h"
+#include "AnalysisOptions.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A library is used where one of these matches a whole macro name, or a whole folder name of an include path.
+struct Hint
+{
+    const char* library;
+    const char* macros;
+    const char* folders;
+};
+
+constexpr std::array hints = {
+    Hint{"posix", "__unix__|__linux__|__APPLE__|_POSIX_C_SOURCE|_POSIX_SOURCE|_XOPEN_SOURCE", ""},
+    Hint{"gnu", "_GNU_SOURCE|__GLIBC__", ""},
+    Hint{"bsd", "__FreeBSD__|__OpenBSD__|__NetBSD__|_BSD_SOURCE", ""},
+    Hint{"windows", "_WIN32|WIN32|_WIN64|_WINDOWS", ""},
+    Hint{"mfc", "_AFXDLL", ""},
+    Hint{"qt", "QT_[A-Z]+_LIB|QT_VERSION|QT_DLL", "qt[456]?|Qt(Core|Gui|Widgets)?(\\.framework)?"},
+    Hint{"boost", "BOOST_[A-Z0-9_]+", "boost.*"},
+    Hint{"gtk", "G_LOG_DOMAIN|GDK_[A-Z_]+|GTK_[A-Z_]+|GLIB_[A-Z_]+", "gtk-[234]\\.0|glib-2\\.0"},
+    Hint{"wxwidgets", "__WX[A-Z]+__|wxUSE_GUI", "wx-?[0-9.]+"},
+    Hint{"kde", "KCOREADDONS_LIB|K[A-Z]+_LIB", "KF[56]"},
+    Hint{"sdl", "", "SDL[23]?"},
+    Hint{"opencv2", "", "opencv[0-9]*"},
+    Hint{"opengl", "", "GL|GLES[0-9]?"},
+    Hint{"python", "", "python[23][0-9.]*"},
+    Hint{"lua", "", "lua[0-9.]*"},
+    Hint{"openssl", "OPENSSL_[A-Z_]+", "openssl.*"},
+    Hint{"libcurl", "CURL_STATICLIB", "curl"},
+    Hint{"sqlite3", "SQLITE_[A-Z_]+", "sqlite3?"},
+    Hint{"googletest", "GTEST_[A-Z_]+", "gtest|googletest.*"},
+    Hint{"cairo", "", "cairo"},
+    Hint{"icu", "U_[A-Z]+_IMPLEMENTATION", "icu"},
+    Hint{"libsigc++", "", "sigc\\+\\+-[0-9.]+"},
+    Hint{"dpdk", "RTE_[A-Z_]+", "dpdk"},
+    Hint{"openmp", "_OPENMP", ""},
+};
+
+QString nameOf(const QString& define)
+{
+    return define.left(define.indexOf(u'=')).section(u'(', 0, 0);
+}
+
+QSet<QString> macroNames(const AnalysisOptions& options)
+{
+    QSet<QString> names;
+    for (const QString& define : options.defines) {
+        names += nameOf(define);
+    }
+    return names;
+}
+
+QSet<QString> folderNames(const AnalysisOptions& options)
+{
+    QSet<QString> names;
+    for (const IncludeFolder& folder : options.folders) {
+        const QStringList parts = QString(folder.path).replace(u'\\', u'/').split(u'/', Qt::SkipEmptyParts);
+        // A folder further up is where the project lies, not what it uses.
+        for (const QString& part : parts.last(std::min<qsizetype>(parts.size(), 2))) {
+            names += part;
+        }
+    }
+    return names;
+}
+
+bool matches(const QSet<QString>& names, const char* pattern)
+{
+    const QRegularExpression expression(QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)));
+    return *pattern &&
+           std::ranges::any_of(names, [&](const QString& name) { return expression.match(name).hasMatch(); });
+}
+
+bool hasTarget(const AnalysisOptions& options, QLatin1StringView flag)
+{
+    return options.target.contains(flag);
+}
+
+QString windowsPlatform(const AnalysisOptions& options, const QSet<QString>& macros)
+{
+    const QString compiler = options.compiler.toLower();
+    const bool is64 = macros.contains(u"_WIN64"_s) || compiler.contains("x86_64-w64-mingw"_L1);
+    if (is64 && !hasTarget(options, "-m32"_L1)) {
+        return u"win64"_s;
+    }
+    return macros.contains(u"UNICODE"_s) || macros.contains(u"_UNICODE"_s) ? u"win32W"_s : u"win32A"_s;
+}
+
+bool isForWindows(const AnalysisOptions& options, const QSet<QString>& macros)
+{
+    return macros.contains(u"_WIN32"_s) || macros.contains(u"_WIN64"_s) ||
+           options.compiler.contains("mingw32"_L1, Qt::CaseInsensitive);
+}
+
+bool has32BitPointers(const AnalysisOptions& options)
+{
+    return options.defines.contains(u"__SIZEOF_POINTER__=4"_s) || hasTarget(options, "-m32"_L1) ||
+           hasTarget(options, "-mx32"_L1);
+}
+
+} // namespace
+
+QStringList LibraryHints::libraries(const AnalysisOptions& options)
+{
+    QStringList result = options.libraries;
+    const QSet<QString> macros = macroNames(options);
+    const QSet<QString> folders = folderNames(options);
+    for (const Hint& hint : hints) {
+        const QString library = QString::fromLatin1(hint.library);
+        if (!result.contains(library) && (matches(macros, hint.macros) || matches(folders, hint.folders))) {
+            result += library;
+        }
+    }
+    return result;
+}
+
+QString LibraryHints::platform(const AnalysisOptions& options)
+{
+    if (!options.platform.isEmpty()) {
+        return options.platform;
+    }
+    const QSet<QString> macros = macroNames(options);
+    if (isForWindows(options, macros)) {
+        return windowsPlatform(options, macros);
+    }
+    if (macros.contains(u"__AVR__"_s)) {
+        return u"avr8"_s;
+    }
+    const QString unsignedChar = macros.contains(u"__CHAR_UNSIGNED__"_s) || hasTarget(options, "-funsigned-char"_L1)
+                                     ? u"-unsigned"_s
+                                     : QString();
+    if (has32BitPointers(options)) {
+        return macros.contains(u"__mips__"_s) ? u"mips32"_s : u"unix32"_s + unsignedChar;
+    }
+    const bool is64 = options.defines.contains(u"__SIZEOF_POINTER__=8"_s) || macros.contains(u"__LP64__"_s) ||
+                      hasTarget(options, "-m64"_L1) || !unsignedChar.isEmpty();
+    return is64 ? u"unix64"_s + unsignedChar : QString();
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+struct AnalysisOptions;
+
+/// What one set of options comes to for cppcheck: the words on its command line, and the compiler command that its
+/// compilation database gets. Kept as a JSON file that the jobs read.
+class OptionSet
+{
+public:
+    OptionSet() = default;
+    /// version is the analyser's; another one may find something else in the same source.
+    OptionSet(const AnalysisOptions& options, const QString& version);
+
+    /// The language of sources whose names tell none: "c" or "c++".
+    void setLanguage(const QString& language) { arguments += QStringLiteral("--language=") + language; }
+    /// Defines that can not be told in a command, as the text of a header; empty when there are none.
+    const QByteArray& header() const { return headerText; }
+    /// The file that header() was written to.
+    void setHeader(const QString& path) { arguments += QStringLiteral("--include=") + path; }
+
+    QByteArray toJson() const;
+    /// Throws a Failure when the file is none of ours.
+    static OptionSet fromFile(const QString& path);
+
+    QStringList arguments;
+    QString command;
+    /// The folders that cppcheck searches for headers, and the files that it includes first.
+    QStringList folders;
+    QStringList forced;
+    /// The metrics name the analyser that a project is for.
+    bool forC = false;
+
+private:
+    void addDefines(const QStringList& defines);
+    void addFolders(const AnalysisOptions& options);
+
+    QByteArray headerText;
+    QString analyserVersion;
+};

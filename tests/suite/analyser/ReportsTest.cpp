@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "CodeBase.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Results of three sources that share a header, of one that the analyser gave up on, and of one without any.
+class Results : public CodeBase
+{
+public:
+    explicit Results(const QByteArray& messages = {}, const QString& options = {})
+    {
+        QStringList files;
+        for (const auto& name : {u"a.cpp"_s, u"b <&> ü.cpp"_s, u"c.cpp"_s, u"bad.cpp"_s, u"new.cpp"_s}) {
+            files += name;
+            write(u"one/"_s + name, "int x;\nint y;\nint z;\n");
+        }
+        project({{.folder = u"one"_s, .files = files, .options = options}}, messages);
+        const QByteArray header = path(u"one/h.h"_s).toUtf8() + ":2:5: style: In a header [headerStyle]\n";
+        write(u"one/h.h"_s, "int h;\nint i;\n");
+        result(u"a.cpp"_s, header + place(u"a.cpp"_s) + "3:7: error: Broken \"a, b\" <b>bold</b> [broken]\n");
+        result(u"b <&> ü.cpp"_s, header + place(u"b <&> ü.cpp"_s) + "1:1: warning: Odd [odd]\n");
+        result(u"c.cpp"_s, header + "nofile:0:0: information: Elsewhere [elsewhere]\n");
+        write(u"out/one/bad.cpp.err"_s, place(u"bad.cpp"_s) + "7:1: error: No code [syntaxError]\n");
+    }
+
+    ProgramResult report(const QString& arguments) const { return run(u"report p.prj --incomplete-ok "_s + arguments); }
+
+private:
+    QByteArray place(const QString& name) const { return path(u"one/"_s + name).toUtf8() + ':'; }
+
+    void result(const QString& name, const QByteArray& messages)
+    {
+        write(u"out/one/"_s + name + u".err"_s, messages);
+        write(u"out/one/"_s + name + u".met"_s, "<S>STWMC 1\n");
+    }
+};
+
+QString shownIds(const QString& text)
+{
+    QStringList ids;
+    const QStringList lines = text.split(u'\n');
+    for (const QString& line : lines) {
+        if (line.contains(u": "_s) && !line.startsWith(u' ') && line.contains(u'[')) {
+            ids += line.section(u": "_s, 1, 1) + u' ' + line.section(u'[', -1).section(u']', 0, 0);
+        }
+    }
+    ids.sort();
+    return ids.join(u", "_s);
+}
+
+} // namespace
+
+class ReportsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textTellsEachMessageOnce()
+    {
+        const Results results;
+        const QString text = results.report(u"--text"_s).output;
+        for (const QString& part :
+             {u"3 of 5 sources analysed"_s, u"2 errors, 1 warning, 1 style message, 1 information.\n"_s,
+              u"In force: messages.p_s"_s, results.path(u"one/bad.cpp"_s) + u": line 7: No code [syntaxError]\n"_s,
+              results.path(u"one/new.cpp"_s) + u": it has not been analysed yet\n"_s,
+              u"h.h:2:5: style: In a header [headerStyle] (seen from 3 sources)\n"_s}) {
+            QVERIFY2(text.contains(part), qPrintable(text));
+        }
+        QCOMPARE(text.count(u"[headerStyle]"_s), 1);
+        QVERIFY(text.indexOf("Not analysed:"_L1) < text.indexOf("[headerStyle]"_L1));
+        QCOMPARE(results.run(u"count p.prj"_s).output,
+                 u"5 messages in 3 analysed files: 2 errors, 1 warning, 1 style message, 1 information\n"_s);
+    }
+
+    void messagePersonalitiesSelect_data()
+    {
+        const TestRows<QByteArray, QString> row("messages", "shown");
+        const QString gaveUp = u"error syntaxError"_s;
+        row("nothing said", {},
+            u"error broken, error syntaxError, information elsewhere, style headerStyle, warning odd"_s);
+        row("only", "-only odd,broken\n", u"error broken, error syntaxError, warning odd"_s);
+        row("only adds up", "-only odd\n-only brok*\n", u"error broken, error syntaxError, warning odd"_s);
+        row("a severity", "-only warning\n", u"error syntaxError, warning odd"_s);
+        row("only is forgotten", "-only odd\n-forgetall only\n-nomsg information,odd\n",
+            u"error broken, error syntaxError, style headerStyle"_s);
+        row("hidden ones are forgotten", "-nomsg odd\n-forgetall nomsg\n-threshold 3\n",
+            u"error broken, error syntaxError, warning odd"_s);
+        row("threshold 2", "-threshold 2\n", u"error broken, error syntaxError, style headerStyle, warning odd"_s);
+        row("threshold 4", "-threshold 4\n", u"error broken, error syntaxError"_s);
+        row("shown as errors", "*orv errors=headerStyle\n-threshold 4\n",
+            u"error broken, error headerStyle, error syntaxError"_s);
+        row("why a source was not analysed stays", "-nomsg error,warning,style,information\n", gaveUp);
+    }
+
+    void messagePersonalitiesSelect()
+    {
+        QFETCH(const QByteArray, messages);
+        QFETCH(const QString, shown);
+        const Results results(messages);
+        QCOMPARE(shownIds(results.report(u"--text"_s).output), shown);
+    }
+
+    void codingStandardsComeOnTop()
+    {
+        const Results results("-only odd\n");
+        const QString options =
+            results.write(u"project.via"_s, "-via \"" + results.path(u"messages.p_s"_s).toUtf8() + "\"\n-via \"" +
+                                                results.path(u"house.p_s"_s).toUtf8() + "\"\n");
+        results.write(u"house.p_s"_s, "*orv module=House\n*orv errors=odd\n");
+        const QString text = results.report(u"--text -via \"%1\""_s.arg(options)).output;
+        QCOMPARE(shownIds(text), u"error odd, error syntaxError"_s);
+        QVERIFY2(text.contains("In force: House"_L1), qPrintable(text));
+    }
+
+    void statusesTellTheLimit_data()
+    {
+        const TestRows<QString, int> row("arguments", "status");
+        row("no limit", u"--incomplete-ok"_s, 0);
+        row("incomplete", {}, 2);
+        row("error", u"--incomplete-ok --fail-on error"_s, 1);
+        row("hidden from the report, but there", u"--incomplete-ok --fail-on style --severity error"_s, 1);
+    }
+
+    void statusesTellTheLimit()
+    {
+        QFETCH(const QString, arguments);
+        QFETCH(const int, status);
+        QCOMPARE(Results().run(u"report p.prj --csv "_s + arguments).status, status);
+    }
+
+    void nothingAboveTheLimit()
+    {
+        const Results results;
+        for (const auto& name : {u"a.cpp"_s, u"bad.cpp"_s}) {
+            results.write(u"out/one/%1.err"_s.arg(name), "");
+            results.write(u"out/one/%1.met"_s.arg(name), "");
+        }
+        QCOMPARE(results.report(u"--fail-on error"_s).status, 0);
+        QCOMPARE(results.report(u"--fail-on warning"_s).status, 1);
+    }
+
+    void csvQuotesItsFields()
+    {
+        const Results results;
+        QCOMPARE(results.report(u"--csv -o results.csv"_s).output, QString());
+        const QStringList lines = QString::fromUtf8(results.read(u"results.csv"_s)).split(u"\r\n"_s);
+        QCOMPARE(lines[0], u"file,line,column,severity,id,message,sources"_s);
+        QCOMPARE(lines[1], results.path(u"one/bad.cpp"_s) + u",,,not analysed,,line 7: No code [syntaxError],1"_s);
+        QVERIFY2(
+            lines.contains(results.path(u"one/a.cpp"_s) + u",3,7,error,broken,\"Broken \"\"a, b\"\" <b>bold</b>\",1"_s),
+            qPrintable(lines.join(u'\n')));
+        QVERIFY(lines.contains(results.path(u"one/h.h"_s) + u",2,5,style,headerStyle,In a header,3"_s));
+        QCOMPARE(lines.size(), 9);
+    }
+
+    void htmlShowsTextsAsTheyAre_data()
+    {
+        const TestRows<QString, QString> row("form", "filter");
+        row("for a browser", u"--html"_s, u"<input type=\"checkbox\" id=\"show-warning\" checked>"_s);
+        row("for a window", u"--plain-html"_s, u"<a href=\"#warning\">warning (1)</a>"_s);
+    }
+
+    void htmlShowsTextsAsTheyAre()
+    {
+        QFETCH(const QString, form);
+        QFETCH(const QString, filter);
+        const Results results;
+        const QString page = results.report(form).output;
+        const QString name = u"b%20%3C&amp;%3E%20%C3%BC.cpp"_s;
+        for (const QString& part :
+             {filter, u"Not analysed (2)"_s, u"&lt;b&gt;bold&lt;/b&gt;"_s, u"seen from 3 sources"_s,
+              u"href=\"file://"_s + results.path(u"one/"_s + name) + u"#L1\""_s, u"b &lt;&amp;&gt; ü.cpp</a>"_s}) {
+            QVERIFY2(page.contains(part), qPrintable(page));
+        }
+        QCOMPARE(page.count(u"[headerStyle]"_s), 1);
+        QVERIFY(page.indexOf("Not analysed"_L1) < page.indexOf("[headerStyle]"_L1));
+    }
+
+    void aWindowGetsTheWeightiestOfMany()
+    {
+        const Results results;
+        QByteArray many;
+        for (int i = 1; i <= 3000; ++i) {
+            many += "/x.cpp:" + QByteArray::number(i) + ":1: style: S [manyStyle]\n";
+        }
+        results.write(u"out/one/c.cpp.err"_s, many);
+        const QString page = results.report(u"--plain-html"_s).output;
+        QVERIFY(page.contains("[broken]"_L1));
+        QVERIFY2(page.contains("The 1000 weightiest of 3004 messages"_L1), qPrintable(page.right(300)));
+        QVERIFY(page.size() < 300000);
+    }
+
+    void sarifHoldsToItsSchema()
+    {
+        if (QStandardPaths::findExecutable(u"jsonschema"_s).isEmpty()) {
+            QSKIP("needs the package python3-jsonschema");
+        }
+        const Results results;
+        QCOMPARE(results.report(u"--sarif -o results.sarif"_s).errors, QString());
+        const ProgramResult check =
+            runProgram(u"jsonschema"_s, {u"-i"_s, results.path(u"results.sarif"_s), QStringLiteral(SARIF_SCHEMA)});
+        QVERIFY2(check.status == 0, qPrintable(check.output + check.errors));
+        const QJsonObject run = QJsonDocument::fromJson(results.read(u"results.sarif"_s))[u"runs"_s][0].toObject();
+        const QJsonArray found = run[u"results"_s].toArray();
+        QCOMPARE(found.size(), 5);
+        const QJsonArray rules = run[u"tool"_s][u"driver"_s][u"rules"_s].toArray();
+        for (const QJsonValue& each : found) {
+            QCOMPARE(rules[each[u"ruleIndex"_s].toInt()][u"id"_s], each[u"ruleId"_s]);
+        }
+        const QJsonValue place = found[0][u"locations"_s][0][u"physicalLocation"_s];
+        QCOMPARE(place[u"artifactLocation"_s][u"uri"_s].toString(), u"one/a.cpp"_s);
+        QCOMPARE(place[u"region"_s][u"startLine"_s].toInt(), 3);
+        QCOMPARE(found[0][u"message"_s][u"text"_s].toString(), u"Broken \"a, b\" <b>bold</b>"_s);
+        QCOMPARE(run[u"invocations"_s][0][u"executionSuccessful"_s], QJsonValue(false));
+        QCOMPARE(run[u"invocations"_s][0][u"toolExecutionNotifications"_s].toArray().size(), 2);
+    }
+
+    void theBrowserReportShowsSources()
+    {
+        if (QStandardPaths::findExecutable(u"cppcheck-htmlreport"_s).isEmpty()) {
+            QSKIP("needs cppcheck-htmlreport");
+        }
+        const Results results;
+        const ProgramResult result = results.run(u"browse p.prj --no-browser"_s);
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
+        const QString index = QString::fromUtf8(results.read(result.output.trimmed()));
+        QVERIFY2(index.contains("#line-3\">3</a>"_L1), qPrintable(index));
+        const QString page = index.section(u"#line-3"_s, 0, 0).section(u'"', -1);
+        const QString source = QString::fromUtf8(results.read(u"out/./.orv/browser/"_s + page));
+        QVERIFY2(source.contains("Broken"_L1), qPrintable(source));
+    }
+};
+
+KOVRA_TEST(ReportsTest)
+#include "ReportsTest.moc"
