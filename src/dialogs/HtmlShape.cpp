@@ -19,7 +19,7 @@ constexpr std::array emptyTags = {"br"_L1, "hr"_L1, "img"_L1, "meta"_L1, "link"_
 
 // Microseconds of a middling machine, measured with benchmarks/HtmlShapes.cpp; what grows with the square is what makes
 // a window freeze.
-constexpr double budget = 15'000;
+constexpr double budget = 30'000;
 constexpr double perCharacter = 0.4;
 constexpr double perCell = 45;
 constexpr double perBlock = 10;
