@@ -1096,7 +1096,7 @@ Möchten Sie diese Anwendung schließen?</translation>
     <name>RunIndicator</name>
     <message>
         <source>Stop</source>
-        <translation>Anhalten</translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>Stop %1</source>
