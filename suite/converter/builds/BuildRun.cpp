@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "BuildRun.h"
 #include "../Failure.h"
-#include "process/StopSignals.h"
 #include "process/ChildProcess.h"
+#include "process/StopSignals.h"
 #include "process/StrayProcesses.h"
 
 #include <QCoreApplication>
@@ -37,13 +37,8 @@ void BuildRun::require(const QString& program, const QString& package)
     }
 }
 
-bool BuildRun::run()
+void BuildRun::prepare(QProcess& process)
 {
-    StrayProcesses::adopt();
-    ChildProcess process;
-    StopSignals signalWatch;
-    QEventLoop loop;
-    bool isStopped = false;
     process.setProcessChannelMode(outputFile.isEmpty() ? QProcess::MergedChannels : QProcess::SeparateChannels);
     process.setStandardInputFile(QProcess::nullDevice());
     if (!outputFile.isEmpty()) {
@@ -51,17 +46,35 @@ bool BuildRun::run()
     }
     process.setWorkingDirectory(folder);
     process.setProcessEnvironment(environment);
-    QObject::connect(&process, &QProcess::readyReadStandardOutput, &loop,
+    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
                      [&] { pass(process.readAllStandardOutput()); });
-    QObject::connect(&process, &QProcess::readyReadStandardError, &loop, [&] { pass(process.readAllStandardError()); });
+    QObject::connect(&process, &QProcess::readyReadStandardError, &process,
+                     [&] { pass(process.readAllStandardError()); });
+}
+
+bool BuildRun::run()
+{
+    StrayProcesses::adopt();
+    ChildProcess process;
+    StopSignals signalWatch;
+    QEventLoop loop;
+    bool isStopped = false;
+    prepare(process);
     QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
-    QObject::connect(&process, &QProcess::errorOccurred, &loop, &QEventLoop::quit);
+    // What crashes or is read badly ends all the same; what never started does not.
+    QObject::connect(&process, &QProcess::errorOccurred, &loop, [&](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) {
+            loop.quit();
+        }
+    });
     QObject::connect(&signalWatch, &StopSignals::received, &loop, [&] {
         isStopped = true;
         loop.quit();
     });
     process.start(program, arguments);
-    loop.exec();
+    if (process.state() != QProcess::NotRunning) {
+        loop.exec();
+    }
     if (process.error() == QProcess::FailedToStart) {
         throw Failure{u"%1: can not be started (%2)."_s.arg(program, process.errorString())};
     }

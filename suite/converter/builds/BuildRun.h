@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+class QProcess;
+
 /// A build tool that runs to its end, with all that it starts. Its output goes on at once to ours, unless it goes to a
 /// file. SIGTERM, SIGINT and SIGHUP stop it with all its children.
 class BuildRun
@@ -33,6 +35,7 @@ public:
     QString problem() const;
 
 private:
+    void prepare(QProcess& process);
     void pass(const QByteArray& text);
 
     QString program;
