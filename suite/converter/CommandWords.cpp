@@ -49,12 +49,21 @@ void CommandWords::add(QByteArrayView word)
 void CommandWords::end()
 {
     spans.emplace_back(start, buffer.size() - start);
+    // Else two words could look like one to who compares pieces of the buffer.
+    buffer.append('\0');
 }
 
 QByteArrayView CommandWords::operator[](qsizetype i) const
 {
     const auto& [first, length] = spans[size_t(i)];
     return QByteArrayView(buffer).sliced(first, length);
+}
+
+QByteArrayView CommandWords::piece(qsizetype first, qsizetype last) const
+{
+    const qsizetype begin = first < size() ? spans[size_t(first)].first : buffer.size();
+    const qsizetype end = last < size() ? spans[size_t(last)].first : buffer.size();
+    return QByteArrayView(buffer).sliced(begin, end - begin);
 }
 
 QStringList CommandWords::texts() const

@@ -26,6 +26,8 @@ public:
 
     qsizetype size() const { return qsizetype(spans.size()); }
     QByteArrayView operator[](qsizetype i) const;
+    /// The words from the first to before the last with what separates them.
+    QByteArrayView piece(qsizetype first, qsizetype last) const;
     QStringList texts() const;
 
 private:

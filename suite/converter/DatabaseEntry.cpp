@@ -81,15 +81,21 @@ bool DatabaseEntry::isFile(qsizetype i) const
 size_t DatabaseEntry::key() const
 {
     size_t hash = qHashBits(directory.constData(), size_t(directory.size()), QHashSeed::globalSeed());
+    qsizetype first = 0;
+    const auto hashUpTo = [&](qsizetype last) {
+        const QByteArrayView piece = arguments.piece(first, last);
+        hash = qHashBits(piece.data(), size_t(piece.size()), hash);
+    };
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QByteArrayView word = arguments[i];
-        if (namesOutput(word)) {
-            ++i;
-        } else if (!holdsOutput(word)) {
-            const bool own = isFile(i);
-            hash = qHashBits(word.data(), own ? 0 : size_t(word.size()), hash + (own ? 1 : 2));
+        const bool takesNext = namesOutput(word);
+        if (takesNext || holdsOutput(word) || isFile(i)) {
+            hashUpTo(i);
+            i += takesNext ? 1 : 0;
+            first = i + 1;
         }
     }
+    hashUpTo(arguments.size());
     return hash;
 }
 

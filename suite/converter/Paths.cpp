@@ -22,9 +22,14 @@ bool isSeparator(QChar character)
     return character == u'/' || character == u'\\';
 }
 
-bool needsCleaning(const QString& path)
+bool needsCleaning(QStringView path)
 {
-    return path.contains("//"_L1) || path.contains("/."_L1) || path.endsWith(u'/');
+    for (qsizetype i = 0; i + 1 < path.size(); ++i) {
+        if (path[i] == u'/' && (path[i + 1] == u'/' || path[i + 1] == u'.')) {
+            return true;
+        }
+    }
+    return path.endsWith(u'/');
 }
 
 QString cleaned(const QString& path)
@@ -58,7 +63,7 @@ QString windowsAbsolute(const QString& folder, QString path)
 
 bool Paths::isWindows(QStringView path)
 {
-    if (path.startsWith("\\\\"_L1) || path.startsWith("//"_L1)) {
+    if (path.size() >= 2 && isSeparator(path[0]) && path[0] == path[1]) {
         return true;
     }
     return path.size() >= 3 && startsWithDrive(path) && isSeparator(path[2]);

@@ -28,6 +28,7 @@ struct PartKey
         return std::tie(left.target, left.folder) <=> std::tie(right.target, right.folder);
     }
     friend bool operator==(const PartKey&, const PartKey&) = default;
+    friend size_t qHash(const PartKey& key, size_t seed = 0) { return qHashMulti(seed, key.target, key.folder); }
 };
 
 struct Variant
@@ -108,12 +109,12 @@ private:
     {
         // Spellings of one folder that differ in case are one; the first is kept.
         const PartKey folded{key.target, Paths::key(key.folder)};
-        if (!numbers.contains(folded)) {
-            numbers.insert(folded, groups.size());
-            order.insert(key, groups.size());
+        const qsizetype number = numbers.value(folded, groups.size());
+        if (number == groups.size()) {
+            numbers.insert(folded, number);
+            order.insert(key, number);
             groups += QList<Group>();
         }
-        const qsizetype number = numbers[folded];
         QList<Group>& ofFolder = groups[number];
         QList<qsizetype>& candidates = groupNumbers[{number, {variant.options, variant.compiler}}];
         // Within one folder names differ by themselves.
@@ -210,7 +211,7 @@ private:
     bool hasOneCompiler = true;
     bool hasTargets = false;
     QMap<PartKey, qsizetype> order;
-    QMap<PartKey, qsizetype> numbers;
+    QHash<PartKey, qsizetype> numbers;
     QList<QList<Group>> groups;
     QHash<std::pair<qsizetype, std::pair<int, int>>, QList<qsizetype>> groupNumbers;
     QSet<QString> outputs;
