@@ -17,9 +17,9 @@ namespace {
 
 constexpr int sources = 150;
 constexpr int functions = 20;
-constexpr int inlineFunctions = 100;
+constexpr int inlineFunctions = 150;
 constexpr int messages = 100000;
-constexpr int rounds = 3;
+constexpr int rounds = 2;
 
 void write(const QString& name, const QByteArray& contents)
 {

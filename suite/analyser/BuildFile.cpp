@@ -22,9 +22,14 @@ QString hashOf(const QByteArray& text)
     return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().first(16));
 }
 
+/// Ninja gives its commands to a shell, but where there is none to the system as they are.
 QString shellQuoted(QString word)
 {
+#ifdef Q_OS_UNIX
     return u'\'' + word.replace(u'\'', u"'\\''"_s) + u'\'';
+#else
+    return u'"' + word + u'"';
+#endif
 }
 
 /// For the value of a variable.

@@ -56,7 +56,12 @@ public:
     {
         rest = arguments;
         while (!rest.isEmpty()) {
-            const QString word = rest.takeFirst();
+            QString word = rest.takeFirst();
+            // As compilers' friends write it: -j4.
+            if (word.startsWith("-j"_L1) && word.size() > 2) {
+                rest.prepend(word.sliced(2));
+                word = u"-j"_s;
+            }
             if (!takeForm(word) && !takeSetting(word)) {
                 takeOther(word);
             }

@@ -83,7 +83,7 @@ bool Finding::fromLine(const QString& text_)
 
 bool Finding::isGivingUp() const
 {
-    return severity == Severity::Error && contains(givingUpIds, id);
+    return contains(givingUpIds, id);
 }
 
 bool Finding::isFailedRun() const

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include "CodeBase.h"
+#include "TestMain.h"
+#include "TestRows.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char overrun[] = "int f() { int v[2] = {0, 0}; return v[SIZE]; }\n";
+
+} // namespace
+
+/// What a run does again, what it does about obstacles, and how it is stopped.
+class RunsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void analysesAgainWhatAChangeConcerns()
+    {
+        const CodeBase code;
+        code.write(u"inc/both.h"_s, "#include \"deep.h\"\n");
+        code.write(u"inc/deep.h"_s, "int deep();\n");
+        code.write(u"one/a b.cpp"_s, "#include \"both.h\"\nint a() { return deep(); }\n");
+        code.write(u"one/c.cpp"_s, "int c() { return 1; }\n");
+        code.write(u"two/d.cpp"_s, "#if 0\n#  include \"both.h\"\n#endif\nint d() { return 1; }\n");
+        QList<CodePart> parts{{.folder = u"one"_s, .files = {u"a b.cpp"_s, u"c.cpp"_s}, .includeFolders = {u"inc"_s}},
+                              {.folder = u"two"_s, .files = {u"d.cpp"_s}, .includeFolders = {u"inc"_s}}};
+        code.project(parts);
+        const QStringList all{u"one/a b.cpp"_s, u"one/c.cpp"_s, u"two/d.cpp"_s};
+        const auto analysed = [&code](const QString& more = {}) {
+            return CodeBase::analysedIn(code.run(u"analyse p.prj "_s + more));
+        };
+        QCOMPARE(analysed(), all);
+        QCOMPARE(analysed(u"-j1 --launcher env --time-limit 60"_s), QStringList());
+        code.touch(u"inc/deep.h"_s);
+        QCOMPARE(analysed(), QStringList({u"one/a b.cpp"_s, u"two/d.cpp"_s}));
+        code.touch(u"one/c.cpp"_s);
+        QCOMPARE(analysed(), QStringList(u"one/c.cpp"_s));
+        code.touch(u"options/1.p_a"_s);
+        QCOMPARE(analysed(), QStringList(u"two/d.cpp"_s));
+        QFile::remove(code.path(u"out/one/c.cpp.met"_s));
+        QCOMPARE(analysed(), QStringList(u"one/c.cpp"_s));
+        QFile::remove(code.path(u"out/two/d.cpp.err"_s));
+        QCOMPARE(analysed(), QStringList(u"two/d.cpp"_s));
+        QFile::remove(code.path(u"inc/deep.h"_s));
+        QCOMPARE(analysed(), QStringList({u"one/a b.cpp"_s, u"two/d.cpp"_s}));
+        parts[0].defines = {u"NEW"_s};
+        code.project(parts, "-threshold 3\n");
+        QCOMPARE(analysed(), QStringList({u"one/a b.cpp"_s, u"one/c.cpp"_s, u"two/d.cpp"_s}));
+        code.project(parts, "-threshold 2\n");
+        code.write(u"messages.p_s"_s, "-threshold 1\n");
+        QCOMPARE(code.run(u"-prj p.prj"_s, u"orvstatus"_s).output.section(u'\n', 0, 0),
+                 u"Analysis of this project is out of date"_s);
+    }
+
+    void toolsThatFailAreTold_data()
+    {
+        const TestRows<QByteArray, QString, int> row("analyser", "says", "analysed");
+        const QByteArray normal = "case \"$*\" in *--version*) echo Cppcheck 2.10; exit;; esac\n";
+        const QByteArray forA =
+            "case \"$*\" in *--project=units/*) grep -q a.cpp ${5#--project=} || exit 0;; *) exit 0;; esac\n";
+        row("too old", "echo Cppcheck 1.90\n", u"is too old: version 2.10"_s, 0);
+        row("crashes", normal + forA + "kill -SEGV $$\n", u"the analyser ended with signal 11"_s, 1);
+        row("fails", normal + forA + "echo bad luck; exit 3\n", u"status 3: bad luck"_s, 1);
+        row("hangs", normal + forA + "exec sleep 1000\n", u"was stopped after 1 seconds"_s, 1);
+    }
+
+    void toolsThatFailAreTold()
+    {
+        QFETCH(const QByteArray, analyser);
+        QFETCH(const QString, says);
+        QFETCH(const int, analysed);
+        const CodeBase code;
+        code.write(u"one/a.cpp"_s, overrun);
+        code.write(u"one/b.cpp"_s, "int g() { return 1; }\n");
+        code.project({{.folder = u"one"_s, .files = {u"a.cpp"_s, u"b.cpp"_s}, .defines = {u"SIZE=3"_s}}});
+        code.replaceProgram(u"cppcheck"_s, analyser);
+        const ProgramResult result = code.run(u"analyse p.prj --time-limit 1"_s);
+        QCOMPARE(result.status, 2);
+        QVERIFY2((result.output + result.errors).contains(says), qPrintable(result.output + result.errors));
+        QCOMPARE(QFile::exists(code.path(u"out/one/b.cpp.met"_s)), analysed == 1);
+        QVERIFY(!QFile::exists(code.path(u"out/one/a.cpp.met"_s)));
+        if (analysed == 1) {
+            const QString report = code.run(u"report p.prj --text"_s).output;
+            QVERIFY2(report.contains(says), qPrintable(report));
+        }
+        // Once the analyser works again the next run mends what failed.
+        QFile::remove(code.path(u"bin/cppcheck"_s));
+        QVERIFY(CodeBase::analysedIn(code.run(u"analyse p.prj"_s)).contains(u"one/a.cpp"_s));
+        QVERIFY(code.read(u"out/one/a.cpp.err"_s).contains("accessed at index 3"));
+    }
+
+    void obstaclesAreTold_data()
+    {
+        const TestRows<QString, QString> row("obstacle", "says");
+        row("unwritable", u"unwritable"_s, u"can not be"_s);
+        row("a file in place of the folder", u"file"_s, u"can not be made"_s);
+        row("no ninja", u"ninja"_s, u"Install the package ninja-build"_s);
+        row("missing option file", u"option"_s, u"gone.p_a can not be read"_s);
+        row("namesakes", u"namesake"_s, u"would overwrite those of"_s);
+        row("source is gone", u"gone"_s, u"the file does not exist"_s);
+    }
+
+    void obstaclesAreTold()
+    {
+        QFETCH(const QString, obstacle);
+        QFETCH(const QString, says);
+        const CodeBase code;
+        code.write(u"one/a.cpp"_s, overrun);
+        code.write(u"one/in/a.cpp"_s, overrun);
+        CodePart part{.folder = u"one"_s, .files = {u"a.cpp"_s}, .defines = {u"SIZE=3"_s}};
+        Variables more;
+        if (obstacle == "unwritable"_L1) {
+            // A full disk answers the same to everybody, also to root.
+            QDir(code.path()).mkpath(u"out/one"_s);
+            QFile::link(u"/dev/full/x"_s, code.path(u"out/one/a.cpp.err"_s));
+        } else if (obstacle == "file"_L1) {
+            code.write(u"out"_s, "");
+        } else if (obstacle == "ninja"_L1) {
+            for (const auto& name : {u"cppcheck"_s, u"sh"_s}) {
+                QFile::link(QStandardPaths::findExecutable(name), code.path(u"bin/"_s + name));
+            }
+            more = {{u"PATH"_s, code.path(u"bin"_s)}};
+        } else if (obstacle == "option"_L1) {
+            part.options = u"-via gone.p_a\n"_s;
+        } else {
+            part.files += obstacle == "gone"_L1 ? u"gone.cpp"_s : u"in/a.cpp"_s;
+        }
+        code.project({part});
+        const ProgramResult result = code.run(u"analyse p.prj"_s, u"orv"_s, more);
+        QCOMPARE(result.status, 2);
+        QVERIFY2((result.output + result.errors).contains(says), qPrintable(result.output + result.errors));
+    }
+
+    void aStopLeavesWholeResultsAndGoesOnLater()
+    {
+        const CodeBase code;
+        QStringList files;
+        for (int i = 0; i < 6; ++i) {
+            files += u"s%1.cpp"_s.arg(i);
+            code.write(u"one/"_s + files.last(), overrun);
+        }
+        code.project({{.folder = u"one"_s, .files = files, .defines = {u"SIZE=3"_s}}});
+        // The third source waits for a file that never comes.
+        const QByteArray real = QStandardPaths::findExecutable(u"cppcheck"_s).toUtf8();
+        code.replaceProgram(u"cppcheck"_s,
+                            "case \"$*\" in *--project=units/*) grep -q s3.cpp ${5#--project=} && { echo $$ > " +
+                                code.path(u"pid"_s).toUtf8() + "; exec sleep 1000; };; esac\nexec " + real +
+                                " \"$@\"\n");
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"PATH"_s, code.path(u"bin"_s) + u':' + environment.value(u"PATH"_s));
+        program.setProcessEnvironment(environment);
+        program.start(code.path(u"bin/orv"_s), {u"analyse"_s, code.path(u"p.prj"_s), u"-j"_s, u"1"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(!code.read(u"pid"_s).trimmed().isEmpty(), 20000);
+        ::kill(pid_t(program.processId()), SIGTERM);
+        QVERIFY(program.waitForFinished(10000));
+        QCOMPARE(program.exitCode(), 2);
+        QVERIFY(program.readAllStandardOutput().contains("Stopped"));
+        QTRY_VERIFY(!Installation::isAlive(code.read(u"pid"_s)));
+        QCOMPARE(QDir(code.path(u"out/one"_s)).entryList(QDir::Files).size(), 6);
+        QVERIFY(code.run(u"report p.prj --text"_s).output.contains("3 of 6 sources analysed"_L1));
+        QFile::remove(code.path(u"bin/cppcheck"_s));
+        QCOMPARE(CodeBase::analysedIn(code.run(u"analyse p.prj"_s)),
+                 QStringList({u"one/s3.cpp"_s, u"one/s4.cpp"_s, u"one/s5.cpp"_s}));
+    }
+
+    void aLauncherStandsBeforeEveryJob()
+    {
+        const CodeBase code;
+        code.write(u"one/a.cpp"_s, overrun);
+        code.write(u"one/b.cpp"_s, overrun);
+        code.project({{.folder = u"one"_s, .files = {u"a.cpp"_s, u"b.cpp"_s}, .defines = {u"SIZE=3"_s}}});
+        code.replaceProgram(u"node"_s,
+                            "echo \"$1\" >> " + code.path(u"launched"_s).toUtf8() + "\nshift\nexec \"$@\"\n");
+        QCOMPARE(code.run(u"analyse p.prj --launcher \"node here\""_s).status, 0);
+        QCOMPARE(code.read(u"launched"_s), QByteArray("here\nhere\n"));
+        QCOMPARE(code.messages().filter(u"index 3"_s).size(), 2);
+    }
+
+    void aListIsEnough()
+    {
+        const CodeBase code;
+        code.write(u"one/a%2.cpp"_s, "int f() { int v[2]; return v[7]; }\n");
+        const QByteArray out = code.path(u"out"_s).toUtf8();
+        code.write(u"s.lst"_s, "* a comment\n-outputpath \"" + out + "\"\n\"" + code.path(u"one/a%2.cpp"_s).toUtf8() +
+                                   "\"\n-cmaf \"" + out + "/p\"\n");
+        code.write(u"odd.via"_s, "\"\n-d\n");
+        QCOMPARE(code.run(u"-via odd.via -list s.lst"_s, u"orvcpp"_s).status, 0);
+        QVERIFY(code.read(u"out/a%2.cpp.err"_s).contains("[arrayIndexOutOfBounds]"));
+        QVERIFY(code.read(u"out/a%2.cpp.met"_s).startsWith("<S>STWMC "));
+        QVERIFY(code.run(u"-list s.lst"_s, u"orvcount"_s).output.contains("in 1 analysed files"_L1));
+        QVERIFY(code.run(u"-list s.lst"_s, u"orvcma"_s).output.contains("[unusedFunction]"_L1));
+        QVERIFY(!code.read(u"out/p"_s).isEmpty());
+    }
+
+    void wrongUseIsRefused_data()
+    {
+        const TestRows<QString, QString> row("command", "says");
+        row("no command", {}, u"orv analyse PROJECT"_s);
+        row("unknown command", u"frobnicate"_s, u"no command \"frobnicate\""_s);
+        row("unknown option", u"analyse p.prj --fast"_s, u"no option \"--fast\""_s);
+        row("no project", u"analyse"_s, u"Name a project file"_s);
+        row("two projects", u"analyse p.prj q.prj"_s, u"\"q.prj\" is too much"_s);
+        row("jobs", u"analyse p.prj -j none"_s, u"-j wants a number above 0, not \"none\""_s);
+        row("severity", u"report p.prj --fail-on bad"_s, u"not \"bad\""_s);
+        row("no file", u"report p.prj -o"_s, u"-o wants a value"_s);
+        row("missing project", u"report gone.prj"_s, u"This project file does not exist"_s);
+    }
+
+    void wrongUseIsRefused()
+    {
+        QFETCH(const QString, command);
+        QFETCH(const QString, says);
+        const CodeBase code;
+        const ProgramResult result = code.run(command);
+        QCOMPARE(result.status, command.isEmpty() ? 0 : 2);
+        QVERIFY2((result.output + result.errors).contains(says), qPrintable(result.output + result.errors));
+    }
+};
+
+KOVRA_TEST(RunsTest)
+#include "RunsTest.moc"
