@@ -10,6 +10,9 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#include <memory>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -14,6 +14,8 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {

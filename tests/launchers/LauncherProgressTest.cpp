@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QProgressBar>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
