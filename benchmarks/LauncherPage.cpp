@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

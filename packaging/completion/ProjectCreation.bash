@@ -21,6 +21,7 @@ _kovra_offer_files()
     local line pattern=$2
     COMPREPLY=()
     while IFS= read -r line; do
+        # shellcheck disable=SC2053 # the pattern is one
         [[ -d $line || -z $pattern || $line == $pattern ]] && COMPREPLY+=("$line")
     done < <(compgen -f -- "$1")
     compopt -o filenames 2>/dev/null

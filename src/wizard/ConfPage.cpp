@@ -162,7 +162,7 @@ void ConfPage::MPersonalityChanged(const QString& fileName)
     accept(messageField, window->messagePersonality, fileName);
 }
 
-void ConfPage::accept(SelectFileWidgets& field, QString& stateField, const QString& fileName)
+void ConfPage::accept(const SelectFileWidgets& field, QString& stateField, const QString& fileName)
 {
     // What comes back after a refusal is not judged again: it may be wrong itself, and one box is enough.
     if (restoring || !FileScans::isForOtherAnalyser(fileName, window->isORVC)) {

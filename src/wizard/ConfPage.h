@@ -40,7 +40,7 @@ private:
     QLayout* createFileFields();
     void fillComplianceModules();
     void apply(SelectFileWidgets& field, const QString& moduleFile);
-    void accept(SelectFileWidgets& field, QString& stateField, const QString& fileName);
+    void accept(const SelectFileWidgets& field, QString& stateField, const QString& fileName);
     void updateHint();
     const QLabel* firstMissing() const;
 

@@ -36,15 +36,15 @@ struct Find : Installation
                                  u"deep/deeper/ü\nz.c"_s, u".hidden/no.c"_s}) {
             write(u"work/"_s + name, "");
         }
-        QFile::link(u".."_s, folder + u"/deep/loop"_s);
-        QFile::link(u"a.c"_s, folder + u"/link.c"_s);
+        QFile::link(u".."_s, searched + u"/deep/loop"_s);
+        QFile::link(u"a.c"_s, searched + u"/link.c"_s);
         // A folder that may not be read holds nothing. Root may read all, so for root it is empty.
         QDir().mkpath(closed);
         if (::geteuid() != 0) {
             write(u"work/closed/no.c"_s, "");
         }
         QFile::setPermissions(closed, {});
-        dialog = std::make_unique<FindDialog>(folder);
+        dialog = std::make_unique<FindDialog>(searched);
         dialog->show();
     }
     ~Find() { QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner); }
@@ -55,7 +55,7 @@ struct Find : Installation
         button(u"&Search"_s).click();
         QStringList names;
         for (int i = 0; i < list().count(); ++i) {
-            names += list().item(i)->text().mid(folder.size() + 1);
+            names += list().item(i)->text().mid(searched.size() + 1);
         }
         names.sort();
         return names;
@@ -64,8 +64,8 @@ struct Find : Installation
     QListWidget& list() const { return *dialog->findChild<QListWidget*>(); }
     QPushButton& button(const QString& name) const { return controlCalled<QPushButton>(*dialog, name); }
 
-    const QString folder = path(u"work"_s);
-    const QString closed = folder + u"/closed"_s;
+    const QString searched = path(u"work"_s);
+    const QString closed = searched + u"/closed"_s;
     std::unique_ptr<FindDialog> dialog;
 };
 
@@ -173,7 +173,7 @@ private Q_SLOTS:
         find.list().setCurrentRow(0);
         find.list().setFocus();
         QTest::keyClick(&find.list(), Qt::Key_Return);
-        QCOMPARE(dialog.SelectedFile(), find.folder + u"/a.c"_s);
+        QCOMPARE(dialog.SelectedFile(), find.searched + u"/a.c"_s);
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         // Escape keeps the earlier choice, Cancel forgets it.
         dialog.show();
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         dialog.show();
         dialog.reject();
-        QCOMPARE(dialog.SelectedFile(), find.folder + u"/a.c"_s);
+        QCOMPARE(dialog.SelectedFile(), find.searched + u"/a.c"_s);
         dialog.show();
         find.button(u"&Cancel"_s).click();
         QVERIFY(dialog.SelectedFile().isEmpty());
@@ -195,7 +195,7 @@ private Q_SLOTS:
         QPushButton& searchButton = find.button(u"&Search"_s);
         find.location().setText(u"/nowhere"_s);
         searchButton.click();
-        find.location().setText(find.folder + u"/xy"_s);
+        find.location().setText(find.searched + u"/xy"_s);
         searchButton.click();
         QCOMPARE(boxes.texts,
                  (QStringList{u"Unable to search for files|The specified search location does not exist"_s,
@@ -209,7 +209,7 @@ private Q_SLOTS:
         const Find find;
         find.location().clear();
         // Below the last search folder nothing changes; elsewhere the folder of the file is proposed.
-        find.dialog->SetSearchStart(find.folder + u"/deep/h.h"_s);
+        find.dialog->SetSearchStart(find.searched + u"/deep/h.h"_s);
         find.dialog->SetSearchStart(u"/nowhere"_s);
         QCOMPARE(find.location().text(), QString());
         find.dialog->SetSearchStart(find.write(u"other/b.c"_s, ""));

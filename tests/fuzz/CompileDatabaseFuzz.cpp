@@ -39,8 +39,7 @@ void convert(const QString& database, bool forC, bool subProjects)
         SourceCollector collector(arguments);
         CompileDatabase::read(database, collector);
         const Sources sources = collector.take();
-        const ProjectTree tree =
-            ProjectTree::build(sources, ProjectSources::choose(sources, arguments), arguments);
+        const ProjectTree tree = ProjectTree::build(sources, ProjectSources::choose(sources, arguments), arguments);
         writeProject(tree, sources, {}, arguments);
         Project project;
         Sandbox::require(project.load(arguments.output), "what was written is no project");

@@ -7,10 +7,19 @@
 
 using namespace Qt::StringLiterals;
 
-StoreFolder::StoreFolder(const QMap<QString, QByteArray>& stores)
+namespace {
+
+QString newName()
 {
     static qint64 number = 0;
-    name = u"stores%1"_s.arg(++number);
+    return u"stores%1"_s.arg(++number);
+}
+
+} // namespace
+
+StoreFolder::StoreFolder(const QMap<QString, QByteArray>& stores)
+    : name(newName())
+{
     for (auto store = stores.cbegin(); store != stores.cend(); ++store) {
         Sandbox::write(u"%1/user/KOVRA/%2.conf"_s.arg(name, store.key()), store.value());
     }

@@ -16,5 +16,5 @@ public:
     StoreFolder& operator=(const StoreFolder&) = delete;
 
 private:
-    QString name;
+    const QString name;
 };

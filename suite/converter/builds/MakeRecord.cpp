@@ -54,7 +54,7 @@ qsizetype entriesIn(const QString& fileName)
 class HalfRecord
 {
 public:
-    HalfRecord(const OwnFolder& ownFolder)
+    explicit HalfRecord(const OwnFolder& ownFolder)
         : folder(ownFolder)
         , file(ownFolder.file(u"recording.json"_s))
     {
