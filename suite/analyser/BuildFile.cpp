@@ -23,10 +23,10 @@ QString hashOf(const QByteArray& text)
 }
 
 /// Ninja gives its commands to a shell, but where there is none to the system as they are.
-QString shellQuoted(QString word)
+QString shellQuoted(const QString& word)
 {
 #ifdef Q_OS_UNIX
-    return u'\'' + word.replace(u'\'', u"'\\''"_s) + u'\'';
+    return u'\'' + QString(word).replace(u'\'', u"'\\''"_s) + u'\'';
 #else
     return u'"' + word + u'"';
 #endif
