@@ -68,9 +68,11 @@ private Q_SLOTS:
         QVERIFY(!wizard.canGoOn());
         wizard.edit(u"Compilation database"_s).setText(database);
         wizard.edit(u"More defines"_s).setText(u"DEMO=<1>;SECOND"_s);
-        QVERIFY(wizard.has(u"Only C++ sources"_s) && !wizard.has(u"Only C sources"_s));
+        QVERIFY(wizard.has(u"Only C++ sources"_s));
+        QVERIFY(!wizard.has(u"Only C sources"_s));
         wizard.press(QWizard::NextButton);
-        QVERIFY(wizard.window.currentId() == ConfPageId && wizard.canGoOn());
+        QCOMPARE(wizard.window.currentId(), int(ConfPageId));
+        QVERIFY(wizard.canGoOn());
         wizard.press(QWizard::NextButton);
         QTRY_COMPARE_WITH_TIMEOUT(wizard.window.currentId(), int(DisplayOptionsPageId), 30000);
 
@@ -96,18 +98,20 @@ private Q_SLOTS:
         results.click();
         QTRY_COMPARE(registry.openDialogs.size(), 1);
         const QString report = registry.openDialogs[0]->findChild<QTextBrowser*>()->toPlainText();
-        QVERIFY2(report.contains(u"größe a.cpp"_s) && report.contains("[arrayIndexOutOfBounds]"_L1),
-                 qPrintable(report));
+        QVERIFY2(report.contains(u"größe a.cpp"_s), qPrintable(report));
+        QVERIFY2(report.contains("[arrayIndexOutOfBounds]"_L1), qPrintable(report));
         for (const auto& [button, says] : {std::pair{u"Project status"_s, u"Analysis of this project is complete"_s},
                                            std::pair{u"Cross-module analysis"_s, u"[unusedFunction]"_s}}) {
             wizard.button(button).click();
             QTRY_VERIFY(wizard.window.isEnabled());
             const auto* view = registry.openDialogs.last()->findChild<QPlainTextEdit*>();
-            QVERIFY2(view && view->toPlainText().contains(says), qPrintable(boxes.texts.join(u' ')));
+            QVERIFY2(view, qPrintable(boxes.texts.join(u' ')));
+            QVERIFY2(view->toPlainText().contains(says), qPrintable(view->toPlainText()));
         }
         // Open windows count: Finish asks, and closes them when the user agrees.
         wizard.press(QWizard::FinishButton);
-        QVERIFY(wizard.window.isVisible() && registry.openDialogs.size() == 3);
+        QVERIFY(wizard.window.isVisible());
+        QCOMPARE(registry.openDialogs.size(), 3);
         wizard.press(QWizard::FinishButton);
         QVERIFY(!wizard.window.isVisible());
         QCOMPARE(boxes.texts.size(), 3);
@@ -122,7 +126,8 @@ private Q_SLOTS:
             project, databaseType, QStringLiteral(BUILD_FOLDER "/compile_commands.json"));
         ProgramResult result =
             suite.run(wanted + u"-input \"Options/Keep files that do not exist=1\" -input Absolute=yes"_s);
-        QVERIFY2(result.status == 0 && result.errors.isEmpty(), qPrintable(result.errors));
+        QCOMPARE(result.errors, QString());
+        QCOMPARE(result.status, 0);
         QVERIFY(result.output.endsWith(u"New project file: "_s + project + u'\n'));
         const QByteArray text = suite.read(u"work/batch/p.prj"_s);
         QVERIFY(text.contains("\n" SOURCE_FOLDER "/src/program/Startup.cpp\n"));
@@ -143,7 +148,8 @@ private Q_SLOTS:
                 databaseType, isC ? u"-c"_s : u"-cpp -input \"Only C++ sources=1\""_s));
             QVERIFY2(result.status == 0, qPrintable(result.errors));
             const QByteArray written = suite.read(u"work/p.prj"_s);
-            QVERIFY2(written.contains("\na.c\n") == isC && written.contains("\nb.cpp\n") != isC, written);
+            QVERIFY2(written.contains("\na.c\n") == isC, written);
+            QVERIFY2(written.contains("\nb.cpp\n") != isC, written);
         }
     }
 
@@ -196,8 +202,8 @@ private Q_SLOTS:
               u"orvcpp/personalities/runtime/runtime.p_a"_s}) {
             const QString file = suite.path(name);
             const bool isC = name.startsWith("orvc/"_L1);
-            QVERIFY2(FileScans::isForOtherAnalyser(file, !isC) && !FileScans::isForOtherAnalyser(file, isC),
-                     qPrintable(file));
+            QVERIFY2(FileScans::isForOtherAnalyser(file, !isC), qPrintable(file));
+            QVERIFY2(!FileScans::isForOtherAnalyser(file, isC), qPrintable(file));
         }
         const QString home = QDir::currentPath();
         QVERIFY(QDir::setCurrent(QStringLiteral(SOURCE_FOLDER "/tests/suite/projects")));
@@ -207,7 +213,8 @@ private Q_SLOTS:
         QCOMPARE(versioned.statusText,
                  u"This project has not been analysed yet\n   Files in project: 2    Analysed files: 0"_s);
         QCOMPARE(unversioned.statusText, versioned.statusText);
-        QVERIFY(!versioned.isCAnalyser() && unversioned.isCAnalyser());
+        QVERIFY(!versioned.isCAnalyser());
+        QVERIFY(unversioned.isCAnalyser());
     }
 
     void stopsOnASignal()
@@ -222,12 +229,14 @@ private Q_SLOTS:
                       {u"-batch"_s, u"-prj"_s, u"s.prj"_s, u"-type"_s, u"Slow"_s, u"-c"_s});
         QTRY_COMPARE(suite.read(u"work/s.prj"_s), QByteArray("half\n"));
         ::kill(pid_t(program.processId()), SIGTERM);
-        QVERIFY(program.waitForFinished() && program.exitStatus() == QProcess::NormalExit);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);
         QVERIFY(!QFile::exists(suite.path(u"work/s.prj"_s)));
         // The type serves C only.
         program.start(suite.path(u"create-project"_s), u"-batch -prj s.prj -type Slow -cpp"_s.split(u' '));
-        QVERIFY(program.waitForFinished() && program.exitCode() == 2);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitCode(), 2);
         const QByteArray child = suite.read(u"slow.pid"_s);
         QVERIFY(!child.isEmpty());
         QTRY_VERIFY(!Installation::isAlive(child));
