@@ -20,7 +20,7 @@ bool isEscapable(char character)
 
 bool holds(QByteArrayView text, char character)
 {
-    return std::memchr(text.data(), character, size_t(text.size())) != nullptr;
+    return !text.isEmpty() && std::memchr(text.data(), character, size_t(text.size())) != nullptr;
 }
 
 // Nothing but words and the blanks between them, as most commands are.

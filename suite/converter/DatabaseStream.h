@@ -80,7 +80,12 @@ private:
 
     void countLines()
     {
-        while (const void* found = std::memchr(counted, '\n', size_t(at - counted))) {
+        // Before the first block there is nothing, not even an address.
+        while (counted != at) {
+            const void* found = std::memchr(counted, '\n', size_t(at - counted));
+            if (!found) {
+                break;
+            }
             counted = static_cast<const char*>(found) + 1;
             ++lines;
         }

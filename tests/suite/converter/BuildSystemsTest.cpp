@@ -271,7 +271,5 @@ private Q_SLOTS:
     }
 };
 
-Q_DECLARE_METATYPE(BuildInputs)
-
 KOVRA_TEST(BuildSystemsTest)
 #include "BuildSystemsTest.moc"
