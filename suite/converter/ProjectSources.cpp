@@ -48,6 +48,7 @@ public:
 
     ProjectSources choose()
     {
+        seen.reserve(sources.units.size());
         for (qsizetype i = 0; i < sources.units.size(); ++i) {
             if (isWanted(sources.units[i])) {
                 chosen.units += i;
