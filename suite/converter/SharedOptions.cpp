@@ -41,8 +41,8 @@ OptionPool::Set sequence(const OptionPool& pool, const OptionPool::Set& set, int
 
 void keepCommonStart(OptionPool::Set& common, const OptionPool::Set& other)
 {
-    const auto end = std::mismatch(common.begin(), common.end(), other.begin(), other.end()).first;
-    common.erase(end, common.end());
+    const auto end = std::mismatch(common.cbegin(), common.cend(), other.cbegin(), other.cend()).first;
+    common.erase(end, common.cend());
 }
 
 } // namespace

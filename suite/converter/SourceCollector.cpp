@@ -49,7 +49,7 @@ int SourceCollector::settingsOf(const BuildCommand& command, QString* output)
 
 void SourceCollector::add(const QString& path, int settings, int target)
 {
-    sources.units += {.path = path, .settings = settings, .target = target};
+    sources.units += SourceUnit{path, settings, target};
     for (const int problem : std::as_const(sources.settings[settings].problems)) {
         sources.log.count(problem, path);
     }

@@ -67,7 +67,7 @@ private Q_SLOTS:
         const ProgramResult result = project.convertDatabase({u"--compiler-macros"_s, u"1"_s});
         QVERIFY2(result.status == 0, qPrintable(result.errors));
         QCOMPARE(project.read(u"tools/gcc.log"_s), QByteArray("asked\n"));
-        QCOMPARE(project.options(project.partOf(u"3.c"_s).compiler).last(),
+        QCOMPARE(project.options(project.partOf(u"3.c"_s).compiler).constLast(),
                  u"-d ASKED_WITH=-E -dM -v -x c -std=c99 -m32 -arch x -"_s);
     }
 

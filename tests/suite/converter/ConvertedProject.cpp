@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 void ConvertedProject::writeDatabase(const QByteArray& entries) const
 {
-    for (const QJsonValue& value : QJsonDocument::fromJson(entries).array()) {
+    const QJsonArray values = QJsonDocument::fromJson(entries).array();
+    for (const auto& value : values) {
         const QString directory = value["directory"_L1].toString();
         const QString file = value["file"_L1].toString();
         const bool isHere = !file.startsWith(u'/') && !file.contains(u'\\') && !file.contains(u':');

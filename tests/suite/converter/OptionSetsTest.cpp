@@ -117,7 +117,7 @@ EndOfProjectFile
         QVERIFY2(result.output.contains("1 files are listed more than once"_L1), qPrintable(result.output));
         QStringList told;
         for (const ConvertedProject::Part& part : project.parts()) {
-            told += part.name + u": "_s + part.files.join(u' ') + u' ' + project.options(part.analyser).last();
+            told += part.name + u": "_s + part.files.join(u' ') + u' ' + project.options(part.analyser).constLast();
         }
         told.sort();
         QCOMPARE(told, (QStringList{u"four.so/s: b.c -d SHARED"_s, u"one/s: a.c -d STATIC"_s, u"p: c.c -d SHARED"_s,

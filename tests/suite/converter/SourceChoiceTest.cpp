@@ -51,7 +51,7 @@ private Q_SLOTS:
         const ProgramResult result =
             project.convertDatabase({u"--exclude"_s, patterns, u"--options"_s, u""_s, u"--paths"_s, u"absolute"_s});
         QVERIFY2(result.status == 0, qPrintable(result.errors));
-        QStringList files = project.parts().first().files;
+        QStringList files = project.parts().constFirst().files;
         QCOMPARE(files.replaceInStrings(project.path(u"work/"_s), u""_s).join(u' '), left);
     }
 
@@ -80,7 +80,7 @@ private Q_SLOTS:
              {std::pair{u"ORVC"_s, u"a.c"_s}, {u"ORVCPP"_s, u"B.C c.CPP d.ixx e.c++"_s}}) {
             result = project.convertDatabase(
                 {u"--options"_s, u""_s, u"--own-language"_s, u"1"_s, u"--analyser"_s, analyser});
-            QCOMPARE(project.parts().first().files.join(u' '), expected);
+            QCOMPARE(project.parts().constFirst().files.join(u' '), expected);
         }
     }
 
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QFile::link(project.work(u"src"_s), project.work(u"src/loop"_s));
         const auto files = [&](const QStringList& arguments) {
             const ProgramResult result = project.convert(QStringList{u"--source-folder"_s, u"src"_s} + arguments);
-            return result.status == 0 ? project.parts().first().files.join(u' ') : result.errors;
+            return result.status == 0 ? project.parts().constFirst().files.join(u' ') : result.errors;
         };
         QCOMPARE(files({u"--analyser"_s, u"ORVC"_s, u"--exclude"_s, u"build*;.*"_s}), u"a.c lib/c.c"_s);
         QCOMPARE(files({u"--exclude"_s, u"build*;.*;lib/deep"_s}), u"A.CPP a.c b.C lib/c.c m.cppm"_s);
@@ -110,13 +110,13 @@ private Q_SLOTS:
         project.write(u"work/list.txt"_s,
                       "\xEF\xBB\xBF# sources\nsrc/a.c\r\n\n  src/b.cpp\nsrc/a.c\nsrc/\xC3\xA4.cpp\n");
         QCOMPARE(project.convert({u"--file-list"_s, u"list.txt"_s}).status, 0);
-        QCOMPARE(project.parts().first().files.join(u' '), u"a.c b.cpp ä.cpp"_s);
+        QCOMPARE(project.parts().constFirst().files.join(u' '), u"a.c b.cpp ä.cpp"_s);
         QCOMPARE(project
                      .convert({u"--file-list"_s, u"list.txt"_s, u"--own-language"_s, u"1"_s, u"--analyser"_s, u"ORVC"_s,
                                u"--paths"_s, u"absolute"_s})
                      .status,
                  0);
-        QCOMPARE(project.parts().first().files, QStringList{project.work(u"src/a.c"_s)});
+        QCOMPARE(project.parts().constFirst().files, QStringList{project.work(u"src/a.c"_s)});
     }
 
     void findsTheDatabaseOfAFolder()
