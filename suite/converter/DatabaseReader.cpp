@@ -57,7 +57,7 @@ bool DatabaseReader::scalar(bool isValue)
         ++index;
         badEntry(u"is not an object"_s);
     }
-    if (isValue && field != Field::Other && (inEntry() || (depth == 3 && field == Field::Arguments))) {
+    if (isValue && field != Field::Other && (inEntry() || isArgument())) {
         badEntry(u"has a \"%1\" of the wrong type"_s.arg(fieldName(int(field))));
     }
     return true;
@@ -69,7 +69,7 @@ bool DatabaseReader::String(const char* text, size_t length, bool)
     if (depth < 2) {
         return scalar(true);
     }
-    if (depth == 3 && field == Field::Arguments) {
+    if (isArgument()) {
         entry.arguments.add(value);
     }
     if (!inEntry()) {
@@ -98,7 +98,7 @@ bool DatabaseReader::String(const char* text, size_t length, bool)
 
 bool DatabaseReader::StartObject()
 {
-    if (depth == 0 || (inEntry() && field != Field::Other)) {
+    if (depth == 0 || (inEntry() && field != Field::Other) || isArgument()) {
         return scalar(true);
     }
     if (depth == 1) {
@@ -146,7 +146,7 @@ bool DatabaseReader::EndObject(size_t)
 
 bool DatabaseReader::StartArray()
 {
-    if (depth == 1) {
+    if (depth == 1 || isArgument()) {
         return scalar(true);
     }
     if (inEntry() && field == Field::Arguments) {

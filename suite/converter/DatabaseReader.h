@@ -38,6 +38,7 @@ private:
     bool scalar(bool isValue);
     void enter();
     bool inEntry() const { return depth == 2; }
+    bool isArgument() const { return depth == 3 && field == Field::Arguments; }
     void badEntry(const QString& reason) const;
     void finishEntry();
     int settings(bool windows);

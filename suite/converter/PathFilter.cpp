@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "PathFilter.h"
+#include "Failure.h"
 #include "Paths.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +44,31 @@ QString expression(const QString& pattern)
     return result;
 }
 
+// Some patterns together; all of a long list would be too large for one expression.
+QList<QRegularExpression> expressions(const QString& begin, const QStringList& patterns)
+{
+    constexpr qsizetype mostTogether = 100;
+    QList<QRegularExpression> result;
+    for (qsizetype i = 0; i < patterns.size(); i += mostTogether) {
+        const QRegularExpression expression(begin + u'(' + patterns.mid(i, mostTogether).join(u'|') + u")(/|$)"_s,
+                                            QRegularExpression::CaseInsensitiveOption |
+                                                QRegularExpression::DontCaptureOption |
+                                                QRegularExpression::DotMatchesEverythingOption);
+        if (!expression.isValid()) {
+            throw Failure{u"the patterns of what to leave out can not be used: %1. Shorten the one near \"%2\"."_s.arg(
+                expression.errorString(), patterns[i].left(60))};
+        }
+        result += expression;
+    }
+    return result;
+}
+
+bool matchesOne(const QList<QRegularExpression>& expressions, const QString& text)
+{
+    return std::ranges::any_of(expressions,
+                               [&](const QRegularExpression& expression) { return expression.match(text).hasMatch(); });
+}
+
 } // namespace
 
 PathFilter::PathFilter(const QStringList& patterns)
@@ -59,24 +87,18 @@ PathFilter::PathFilter(const QStringList& patterns)
             (isAbsolute ? absoluteOnes : relativeOnes) += expression(pattern);
         }
     }
-    const auto options = QRegularExpression::CaseInsensitiveOption | QRegularExpression::DontCaptureOption |
-                         QRegularExpression::DotMatchesEverythingOption;
-    if (!relativeOnes.isEmpty()) {
-        everywhere = QRegularExpression(u"(^|/)("_s + relativeOnes.join(u'|') + u")(/|$)"_s, options);
-    }
-    if (!absoluteOnes.isEmpty()) {
-        absolute = QRegularExpression(u"^("_s + absoluteOnes.join(u'|') + u")(/|$)"_s, options);
-    }
+    everywhere = expressions(u"(^|/)"_s, relativeOnes);
+    absolute = expressions(u"^"_s, absoluteOnes);
 }
 
 bool PathFilter::matches(const QString& path, const QString& base) const
 {
-    if (!absolute.pattern().isEmpty() && absolute.match(path).hasMatch()) {
+    if (matchesOne(absolute, path)) {
         return true;
     }
-    if (everywhere.pattern().isEmpty() || path.size() <= base.size()) {
+    if (everywhere.isEmpty() || path.size() <= base.size()) {
         return false;
     }
     const qsizetype start = base.endsWith(u'/') ? base.size() : base.size() + 1;
-    return everywhere.match(QStringView(path).sliced(start).toString()).hasMatch();
+    return matchesOne(everywhere, path.sliced(start));
 }

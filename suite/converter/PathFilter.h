@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -12,11 +13,11 @@ class PathFilter
 public:
     explicit PathFilter(const QStringList& patterns);
 
-    bool isEmpty() const { return everywhere.pattern().isEmpty() && absolute.pattern().isEmpty(); }
+    bool isEmpty() const { return everywhere.isEmpty() && absolute.isEmpty(); }
     /// The path is absolute; only what lies below the base is looked at, except by absolute patterns.
     bool matches(const QString& path, const QString& base) const;
 
 private:
-    QRegularExpression everywhere;
-    QRegularExpression absolute;
+    QList<QRegularExpression> everywhere;
+    QList<QRegularExpression> absolute;
 };

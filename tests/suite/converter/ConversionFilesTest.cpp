@@ -64,6 +64,8 @@ private Q_SLOTS:
             u"\"arguments\" of the wrong type"_s);
         row("argument that is no text", R"([{"file": "a.c", "arguments": ["cc", 1]}])",
             u"\"arguments\" of the wrong"_s);
+        row("argument that is a list", R"([{"file": "a.c", "arguments": ["cc", ["-c"]]}])",
+            u"\"arguments\" of the wrong"_s);
         row("file that is an object", R"([{"file": {"a": "c"}}])", u"\"file\" of the wrong type"_s);
         row("directory that is a list", R"([{"directory": ["a"], "file": "a.c"}])",
             u"\"directory\" of the wrong type"_s);
