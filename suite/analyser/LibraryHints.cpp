@@ -123,6 +123,18 @@ QStringList LibraryHints::libraries(const AnalysisOptions& options)
     return result;
 }
 
+QStringList LibraryHints::defines(const AnalysisOptions& options)
+{
+    const QSet<QString> folders = folderNames(options);
+    if (macroNames(options).contains(u"Q_MOC_OUTPUT_REVISION"_s)) {
+        return {};
+    }
+    if (folders.contains(u"qt6"_s)) {
+        return {u"Q_MOC_OUTPUT_REVISION=68"_s};
+    }
+    return folders.contains(u"qt5"_s) ? QStringList{u"Q_MOC_OUTPUT_REVISION=67"_s} : QStringList{};
+}
+
 QString LibraryHints::platform(const AnalysisOptions& options)
 {
     if (!options.platform.isEmpty()) {

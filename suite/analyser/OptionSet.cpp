@@ -70,7 +70,7 @@ OptionSet::OptionSet(const AnalysisOptions& options, const QString& version)
     for (const QString& file : std::as_const(forced)) {
         arguments += u"--include="_s + file;
     }
-    addDefines(options.defines);
+    addDefines(options.defines + LibraryHints::defines(options));
     for (const QString& name : options.undefines) {
         command += u" -U"_s + name;
     }

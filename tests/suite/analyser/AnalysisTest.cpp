@@ -96,6 +96,8 @@ private Q_SLOTS:
         row("language", u"*orv language=c\n"_s, "int g() { int *new = 0; return *new; }\n", u"dereference: new"_s);
         row("library by define", u"-d QT_CORE_LIB\n"_s, "void f(const QString& s) { s.startsWith(\"x\"); }\n",
             u"[ignoredReturnValue]"_s);
+        row("revision of moc", u"*orv folder=system\n-i \"/usr/include/qt6/QtCore\"\n-d SIZE=5\n"_s,
+            QByteArray("#if Q_MOC_OUTPUT_REVISION != 68\n#error revision\n#endif\n") + overrun, u"index 5"_s);
         row("platform by target", u"*orv target=-m32\n"_s, "int f() { int v[8] = {0}; return v[sizeof(long) + 4]; }\n",
             u"index 8"_s);
         row("addon", u"*orv addon=y2038\n"_s, "#include <time.h>\nlong f() { return (long)time(nullptr); }\n",
