@@ -76,7 +76,12 @@ QString Paths::absolute(const QString& folder, const QString& path, bool windows
     }
     // A leading colon is a name like any other here, not one of Qt's own resources.
     const QString joined = path.startsWith(u'/') ? path : folder + u'/' + path;
-    return needsCleaning(joined) ? QDir::cleanPath(joined) : joined;
+    QString clean = needsCleaning(joined) ? QDir::cleanPath(joined) : joined;
+    // Two slashes at the beginning name a network only on Windows.
+    while (clean.startsWith("//"_L1)) {
+        clean.remove(0, 1);
+    }
+    return clean;
 }
 
 QString Paths::folderOf(const QString& path)
