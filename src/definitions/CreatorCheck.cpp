@@ -66,6 +66,9 @@ void checkPlaceholders(DefinitionsReader& xml, const ProjectCreatorData& creator
 
 void checkCreator(DefinitionsReader& xml, const ProjectCreatorData& creator, qint64 argumentsLine)
 {
+    if (!xml.isChecked()) {
+        return;
+    }
     if (creator.name.isEmpty()) {
         xml.remarkAt(creator.line, Text::tr("<projectCreator> has no <name> and can not be chosen"));
     }

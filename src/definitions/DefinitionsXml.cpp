@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -47,12 +48,15 @@ void DefinitionsReader::passedOver(QStringView parent)
     }
 }
 
-QString DefinitionsReader::choice(QLatin1StringView attribute, const QStringList& values)
+QString DefinitionsReader::choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values)
 {
-    QString value = attributes().value(attribute).toString();
-    if (remarkFunction && attributes().hasAttribute(attribute) && !values.contains(value)) {
+    const QXmlStreamAttributes given = attributes();
+    QString value = given.value(attribute).toString();
+    if (isChecked() && given.hasAttribute(attribute) && std::ranges::find(values, value) == values.end()) {
+        QStringList known;
+        std::ranges::copy(values, std::back_inserter(known));
         remark(
-            Text::tr("%1=\"%2\" counts as absent; known are %3").arg(QString(attribute), value, values.join(u", "_s)));
+            Text::tr("%1=\"%2\" counts as absent; known are %3").arg(QString(attribute), value, known.join(u", "_s)));
     }
     return value;
 }

@@ -5,6 +5,7 @@
 #include <QXmlStreamReader>
 
 #include <functional>
+#include <initializer_list>
 #include <type_traits>
 
 /// Told of what a reader passes over, or takes for something else than its author can have meant.
@@ -16,12 +17,14 @@ class DefinitionsReader : public QXmlStreamReader
 public:
     explicit DefinitionsReader(const QByteArray& document, RemarkFunction function = {});
 
+    /// Whether anybody hears remarks; without, what only looks for them can be left out.
+    bool isChecked() const { return bool(remarkFunction); }
     void remark(const QString& text) { remarkAt(lineNumber(), text); }
     void remarkAt(qint64 line, const QString& text);
     /// The element at which the reader stands is passed over.
     void passedOver(QStringView parent);
     /// An attribute that has one of these values, where it is given.
-    QString choice(QLatin1StringView attribute, const QStringList& values);
+    QString choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values);
     /// The element's text as a number; 0 where it is none.
     int readNumber();
 

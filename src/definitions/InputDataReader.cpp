@@ -36,7 +36,7 @@ void readInputType(DefinitionsReader& xml, ArgumentDefinition& definition)
     definition.separator = attributes.value("SEP"_L1).toString();
     definition.columns = attributes.value("COLUMNS"_L1).toInt();
     definition.outputString = attributes.value("OUT_STR"_L1).toString();
-    const QString analyser = xml.choice("TYPE"_L1, {u"C_ONLY"_s, u"CPP_ONLY"_s});
+    const QString analyser = xml.choice("TYPE"_L1, {"C_ONLY"_L1, "CPP_ONLY"_L1});
     definition.cOnly = analyser == "C_ONLY"_L1;
     definition.cppOnly = analyser == "CPP_ONLY"_L1;
     const QString text = xml.readElementText();
@@ -50,7 +50,7 @@ void readInputType(DefinitionsReader& xml, ArgumentDefinition& definition)
 
 void readDefault(DefinitionsReader& xml, ArgumentDefinition& definition, const TextExpander& expand)
 {
-    const QString analyser = xml.choice("TYPE"_L1, {u"C"_s, u"CPP"_s});
+    const QString analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
     const QString text = expand(xml.readElementText());
     if (analyser != "CPP"_L1) {
         definition.cDefaultValue = text;

@@ -40,7 +40,7 @@ void readPersonality(DefinitionsReader& xml, const TextExpander& expand, Project
                      const ConfigurationFacts& kind)
 {
     creator.*kind.asked = true;
-    const QString analyser = xml.choice("TYPE"_L1, {u"C"_s, u"CPP"_s});
+    const QString analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
     const QString path = expand(xml.readElementText());
     if (analyser == "C"_L1) {
         creator.*kind.cPreset = path;
