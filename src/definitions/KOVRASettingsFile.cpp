@@ -223,14 +223,17 @@ QStringList KOVRASettingsFile::standardFiles() const
 
 void KOVRASettingsFile::readDocument(const QByteArray& document, const Context& context)
 {
-    const QStringList environment = QProcess::systemEnvironment();
-    const TextExpander expand = [&](const QString& text) {
-        return ExpandPlaceholders(text, context.places, environment);
-    };
     if (const auto [line, reason] = XmlBounds::check(document); !reason.isEmpty()) {
         lastError = {line, 1, reason};
         return;
     }
+    const QStringList environment = QProcess::systemEnvironment();
+    readElements(document, context,
+                 [&](const QString& text) { return ExpandPlaceholders(text, context.places, environment); });
+}
+
+void KOVRASettingsFile::readElements(const QByteArray& document, const Context& context, const TextExpander& expand)
+{
     DefinitionsReader xml(document, context.remark);
     bool isRoot = true;
     const auto readPage = [&](std::vector<std::shared_ptr<PageData>>& pages) {

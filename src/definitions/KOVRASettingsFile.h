@@ -66,4 +66,7 @@ public:
     std::vector<std::unique_ptr<ComplianceModule>> complianceModules;
     QFile file;
     ReadError lastError;
+
+private:
+    void readElements(const QByteArray& document, const Context& context, const TextExpander& expand);
 };
