@@ -18,7 +18,7 @@ namespace {
 constexpr int entryCount = 500000;
 constexpr int folderCount = 500;
 constexpr int includesPerEntry = 40;
-constexpr long mostKilobytes = 1024 * 1024;
+constexpr long mostKilobytes = 1024L * 1024;
 
 QByteArray folderName(const QByteArray& base, int number)
 {

@@ -31,7 +31,7 @@ int report(AppRegistry& registry, const char* name, const QString& text)
     qint64 longest = 0;
     QTimer pulse;
     const auto& document = *dialog.findChild<QPlainTextEdit*>()->document();
-    QObject::connect(&pulse, &QTimer::timeout, [&] {
+    QObject::connect(&pulse, &QTimer::timeout, &pulse, [&] {
         longest = std::max(longest, clock.elapsed() - last);
         last = clock.elapsed();
         if (document.characterCount() > text.size() || document.lastBlock().text().contains("only its beginning"_L1)) {

@@ -59,7 +59,7 @@ int main(int argc, char** argv)
     qint64 last = 0;
     qint64 longest = 0;
     QTimer pulse;
-    QObject::connect(&pulse, &QTimer::timeout, [&] {
+    QObject::connect(&pulse, &QTimer::timeout, &pulse, [&] {
         const qint64 now = clock.elapsed();
         longest = std::max(longest, now - last);
         last = now;
@@ -70,7 +70,7 @@ int main(int argc, char** argv)
     clock.start();
     pulse.start(1);
     auto* page = qobject_cast<ActionPage*>(window.page(ActionPageId));
-    QObject::connect(page, &QWizardPage::completeChanged, &application, [&] {
+    QObject::connect(page, &QWizardPage::completeChanged, &application, [page, &application] {
         if (page->isComplete()) {
             QTimer::singleShot(200, &application, &QCoreApplication::quit);
         }

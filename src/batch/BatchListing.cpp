@@ -188,7 +188,7 @@ QString BatchListing::inputs(const ProjectCreatorData& creator, bool json)
     }
     QJsonArray array = toJson(creator.inputData);
     const QJsonArray configurations = configurationsToJson(creator);
-    for (const QJsonValue& configuration : configurations) {
+    for (const auto configuration : configurations) {
         array.append(configuration);
     }
     return print(array);

@@ -104,4 +104,5 @@ void MessageBox::warnTogether(QWidget* parent, const QString& title, const QStri
     shared.joined.clear();
     shared.box = &box;
     box.exec();
+    shared.box = nullptr;
 }

@@ -193,7 +193,7 @@ Result<bool> ProjectPlace::rename()
 // Somebody removed the file, or its folder, but we still hold its contents.
 Result<bool> ProjectPlace::rewrite()
 {
-    const Result<bool> lost = {
+    Result<bool> lost = {
         false, Text::tr("The old project file is lost: the conversion program removed it from where it waited.")};
     if (!old.isOpen() || !QDir().mkpath(QFileInfo(projectFile).absolutePath())) {
         return lost;

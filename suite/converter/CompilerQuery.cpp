@@ -79,7 +79,7 @@ QString CompilerQuery::runnable(const CompilerSetup& setup, QString& reason) con
         reason = u"it is named by a relative path"_s;
         return {};
     }
-    const QString found = QStandardPaths::findExecutable(setup.program);
+    QString found = QStandardPaths::findExecutable(setup.program);
     if (found.isEmpty()) {
         reason = u"it is not on this system"_s;
         return {};

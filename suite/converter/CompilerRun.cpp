@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto longestAnswer = 5s;
-constexpr qsizetype mostBytes = 4 * 1024 * 1024;
+constexpr qsizetype mostBytes = 4LL * 1024 * 1024;
 
 // What every compiler says in its own words, and what the analyser sets by itself.
 bool isOfLanguage(const QString& name)

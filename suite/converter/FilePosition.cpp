@@ -24,7 +24,7 @@ Position positionOf(const QString& fileName, size_t offset)
     }
     qint64 left = qint64(offset);
     while (left > 0) {
-        const QByteArray block = file.read(std::min<qint64>(left, 1024 * 1024));
+        const QByteArray block = file.read(std::min<qint64>(left, 1024LL * 1024));
         if (block.isEmpty()) {
             break;
         }

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // What one command may bring along; a build that needs more than this does not exist.
-constexpr qsizetype bytesOfOneCommand = 64 * 1024 * 1024;
+constexpr qsizetype bytesOfOneCommand = 64LL * 1024 * 1024;
 constexpr qsizetype deepest = 50;
 
 } // namespace
