@@ -38,6 +38,7 @@ BatchConversion::BatchConversion(BatchArguments given)
     : batch(std::move(given))
     , run(&appRegistry->childProcesses)
 {
+    run.setEmptyFile(ConversionRun::EmptyFile::Refused);
     connect(&run, &ConversionRun::commandStarted, this, [](const QString& command) { appRegistry->Trace(command); });
 }
 

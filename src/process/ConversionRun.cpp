@@ -42,6 +42,7 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
     stopping = false;
     code = -1;
     detailText.clear();
+    keptText.clear();
     earlierStrays = StrayProcesses::present();
     if (const Result<void> cleared = place.clear(projectFile); !cleared.ok()) {
         finish(Outcome::NotStarted, cleared.problem);
@@ -99,9 +100,11 @@ QString ConversionRun::endText(Outcome outcome, const QString& projectFile)
 
 QString ConversionRun::warning() const
 {
-    return result == Outcome::Created && code != 0
-               ? tr("The conversion program ended with exit code %1. The project may be incomplete.").arg(code)
-               : QString();
+    if (result != Outcome::Created || code == 0) {
+        return {};
+    }
+    const QString text = tr("The conversion program ended with exit code %1. The project may be incomplete.").arg(code);
+    return keptText.isEmpty() ? text : text + u' ' + keptText;
 }
 
 void ConversionRun::processFinished()
@@ -126,13 +129,24 @@ void ConversionRun::judge()
     code = process.exitCode();
     QString problem;
     bool isCreated = place.hasProject(problem);
-    // What a full disk leaves.
-    if (isCreated && code != 0 && QFileInfo(projectFileName).size() == 0) {
-        isCreated = false;
+    const bool isEmpty = isCreated && code != 0 && QFileInfo(projectFileName).size() == 0;
+    if (isEmpty) {
+        isCreated = emptyFile == EmptyFile::Counts;
         problem = tr("The project file that it left is empty.");
     }
     addDetail(code == 0 ? QString() : tr("The conversion program ended with exit code %1.").arg(code));
+    if (isEmpty && isCreated) {
+        keepOld();
+    }
     finish(isCreated ? Outcome::Created : Outcome::NotCreated, problem);
+}
+
+// The empty file is the result, as given, but must not cost the user the last project that was whole.
+void ConversionRun::keepOld()
+{
+    const QString name = place.acceptKeepingOld();
+    keptText = name.isEmpty() ? QString() : tr("The project file that was there before is kept as %1.").arg(name);
+    addDetail(keptText);
 }
 
 // Only a program that did not start ends without finished().

@@ -27,6 +27,9 @@ public:
     };
     Q_ENUM(Outcome)
 
+    /// Whether an empty file beside an exit code other than 0 is a result: what a full disk leaves.
+    enum class EmptyFile { Counts, Refused };
+
     /// The program enters the list of children, if any.
     explicit ConversionRun(ChildList* siblings = nullptr, QObject* parent = nullptr);
     ~ConversionRun() override;
@@ -36,6 +39,7 @@ public:
     bool start(const QString& program, const QStringList& arguments, const QString& projectFile);
     /// Stops the program with all that it started and removes a half-made project file.
     void stop();
+    void setEmptyFile(EmptyFile rule) { emptyFile = rule; }
     bool isRunning() const { return running; }
     /// What the program printed since the last call, both channels merged, characters never cut in two.
     QString takeOutput();
@@ -61,6 +65,7 @@ private:
     void processFinished();
     void processFailed(QProcess::ProcessError error);
     void judge();
+    void keepOld();
     void finish(Outcome outcome, const QString& detail);
     void addDetail(const QString& sentence);
 
@@ -69,9 +74,12 @@ private:
     ProjectPlace place;
     QString projectFileName;
     QString detailText;
+    /// What became of the old file when the new one is empty.
+    QString keptText;
     /// What somebody else left before the run.
     std::vector<long long> earlierStrays;
     Outcome result = Outcome::NotStarted;
+    EmptyFile emptyFile = EmptyFile::Counts;
     int code = -1;
     bool running = false;
     bool stopping = false;

@@ -155,6 +155,21 @@ void ProjectPlace::accept()
     release();
 }
 
+QString ProjectPlace::acceptKeepingOld()
+{
+    QString kept;
+    if (std::exchange(hasOld, false)) {
+        old.close();
+        kept = projectFile + u".old"_s;
+        for (int number = 2; isThere(kept); ++number) {
+            kept = projectFile + u".old"_s + QString::number(number);
+        }
+        kept = move(aside, kept) ? aside : kept;
+    }
+    release();
+    return QDir::toNativeSeparators(kept);
+}
+
 Result<bool> ProjectPlace::bringBack()
 {
     if (!lockFile) {

@@ -29,6 +29,9 @@ public:
     bool hasProject(QString& problem) const;
     /// The new file is the result; the old one is removed.
     void accept();
+    /// The new file is the result, but nothing to rely on: the old one stays beside it. Gives its name; empty when
+    /// there is no old one.
+    QString acceptKeepingOld();
     /// Removes what was made and brings the old file, if any, back with its contents and time. True when one is back.
     Result<bool> bringBack();
 

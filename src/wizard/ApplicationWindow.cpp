@@ -130,7 +130,10 @@ void ApplicationWindow::showConversionOutput()
 {
     const QString log = actionPage->logFileName();
     if (log.isEmpty() || !DisplayDialog::showFile(*appRegistry, tr("Output of the conversion"), log)) {
-        MessageBox::warn(this, tr("Output of the conversion"), tr("The output could not be kept."));
+        MessageBox::warn(this, tr("Output of the conversion"),
+                         tr("The output could not be kept: the temporary folder %1 is full or can not be written. "
+                            "Make room there and convert again.")
+                             .arg(QDir::toNativeSeparators(QDir::tempPath())));
     }
 }
 

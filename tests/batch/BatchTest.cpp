@@ -29,7 +29,7 @@ QByteArray confusingType()
     return "<s><projectCreator>" + input("Both", "<defaultValue>both</defaultValue>") +
            input("Only", R"(<inputType TYPE="C_ONLY">EDIT</inputType><defaultValue>c</defaultValue>)") +
            input("Only", R"(<inputType TYPE="CPP_ONLY">EDIT</inputType>)") + input("Name") + input("A=B pairs") +
-           input("Group", R"(<inputType SEP="+">GROUP</inputType>)" + choice) +
+           input("A") + input("Group", R"(<inputType SEP="+">GROUP</inputType>)" + choice) +
            input("Group", "<inputType>GROUP</inputType>" + texts +
                               input("Hidden", R"(<inputType TYPE="CPP_ONLY">CHECK</inputType>)")) +
            "</projectCreator></s>";
@@ -68,15 +68,17 @@ class BatchTest : public QObject
 private Q_SLOTS:
     void findsTheInputThatIsMeant_data()
     {
-        const QString presets = u"both|c||||-2|"_s;
+        const QString presets = u"both|c|||||-2|"_s;
         const TestRows<QString, QString, QString> row("given", "values", "problem");
         row("for both analysers", u"Both=both"_s, presets, {});
-        row("namesake of the other analyser", u"Only=x"_s, u"both|x||||-2|"_s, {});
-        row("namesake in a group", u"Name=x"_s, u"both|c||x||-2|"_s, {});
-        row("in a group", u"Group/Name=x"_s, u"both|c||||-2|x"_s, {});
-        row("equals sign in the name", u"A=B pairs=C=D"_s, u"both|c|||C=D|-2|"_s, {});
-        row("equals sign in the value", u"Both=A=B"_s, u"A=B|c||||-2|"_s, {});
-        row("choice", u"One=yes"_s, u"both|c||||-1|"_s, {});
+        row("namesake of the other analyser", u"Only=x"_s, u"both|x|||||-2|"_s, {});
+        row("namesake in a group", u"Name=x"_s, u"both|c||x|||-2|"_s, {});
+        row("in a group", u"Group/Name=x"_s, u"both|c|||||-2|x"_s, {});
+        row("equals sign in the name", u"A=B pairs=C=D"_s, u"both|c|||C=D||-2|"_s, {});
+        row("beside a shorter name", u"A=B pairs="_s, presets, {});
+        row("the shorter name", u"A=B=C"_s, u"both|c||||B=C|-2|"_s, {});
+        row("equals sign in the value", u"Both=A=B"_s, u"A=B|c|||||-2|"_s, {});
+        row("choice", u"One=yes"_s, u"both|c|||||-1|"_s, {});
         row("choice taken back", u"Two=0"_s, presets, u"one of a choice"_s);
         row("hidden", u"Hidden=1"_s, presets, u"for the other analyser"_s);
         row("unknown", u"what=1=2"_s, presets, u"no input \"what\""_s);

@@ -251,10 +251,11 @@ private Q_SLOTS:
         QCOMPARE(noProject.status, 2);
     }
 
-    // One wins; the others say so and take nothing away.
+    // While one converts, no other does: the others say so and take nothing away. One that comes after its end may win
+    // in turn.
     void oneOfManyWins()
     {
-        const BatchSuite suite("sleep 1; echo $$ > \"$1\"\n");
+        const BatchSuite suite("echo begin >> \"$0.log\"; sleep 1; echo $$ > \"$1\"; echo end >> \"$0.log\"\n");
         suite.write(u"work/p.prj"_s, "old");
         std::vector<std::unique_ptr<QProcess>> runs;
         for (int i = 0; i < 20; ++i) {
@@ -272,6 +273,7 @@ private Q_SLOTS:
         }
         QVERIFY(winners >= 1);
         QVERIFY(suite.read(suite.project()).toInt() > 0);
+        QCOMPARE(suite.read(u"convert.log"_s), QByteArray("begin\nend\n").repeated(winners));
         QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"p.prj"_s});
     }
 };

@@ -70,8 +70,6 @@ private Q_SLOTS:
         row("exit code 255", "exit 255", NotCreated, Act::Wait, u"exit code 255"_s);
         row("crash", "echo half > \"$P\"; kill -SEGV $$", Failed, Act::Wait, u"crashed"_s);
         row("killed", "echo half > \"$P\"; kill -KILL $$", Failed, Act::Wait, u"crashed"_s);
-        row("full disk, error", "trap '' XFSZ; ulimit -f 0; echo x > \"$P\"; exit 1", NotCreated, Act::Wait,
-            u"empty"_s);
         row("full disk, killed", "ulimit -c 0; ulimit -f 0; exec sh -c 'echo x > \"$0\"; echo y >> \"$0\"' \"$P\"",
             Failed, Act::Wait, u"crashed"_s);
         row("folder as result", "mkdir -p \"$P/sub\"; echo x > \"$P/sub/x\"", NotCreated, Act::Wait, u"a folder"_s);
@@ -181,6 +179,35 @@ private Q_SLOTS:
         QCOMPARE(suite.read(project), QByteArray("new\n"));
         QCOMPARE(survivors(suite), QList<QByteArray>());
         QCOMPARE(hiddenFiles(suite.path(u"work"_s)), QStringList());
+    }
+
+    // An empty file counts where it is given that a file does; the old project is never the price.
+    void keepsTheOldProjectOnAFullDisk_data()
+    {
+        using enum ConversionRun::EmptyFile;
+        const TestRows<ConversionRun::EmptyFile, Outcome, QString> row("rule", "outcome", "old");
+        row("counts", Counts, Outcome::Created, u"work/p.prj.old2"_s);
+        row("refused", Refused, Outcome::NotCreated, u"work/p.prj"_s);
+    }
+
+    void keepsTheOldProjectOnAFullDisk()
+    {
+        QFETCH(const QString, old);
+        QFETCH(const ConversionRun::EmptyFile, rule);
+        const Installation suite;
+        const QString project = suite.write(u"work/p.prj"_s, "old", oldTime);
+        suite.write(u"work/p.prj.old"_s, "the user's");
+        ConversionRun run;
+        run.setEmptyFile(rule);
+        QSignalSpy ends(&run, &ConversionRun::ended);
+        QVERIFY(run.start(suite.writeScript(u"c"_s, "trap '' XFSZ; ulimit -f 0; echo x > \"$1\"; exit 1"), {project},
+                          project));
+        QTRY_COMPARE(ends.size(), 1);
+        QTEST(run.outcome(), "outcome");
+        QCOMPARE(run.warning().contains("p.prj.old2"_L1), rule == ConversionRun::EmptyFile::Counts);
+        QCOMPARE(suite.read(old), QByteArray("old"));
+        QCOMPARE(QFileInfo(suite.path(old)).lastModified(), oldTime);
+        QCOMPARE(suite.read(u"work/p.prj.old"_s), QByteArray("the user's"));
     }
 
     void sparesWhatWasThereBefore()

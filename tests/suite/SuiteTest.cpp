@@ -26,7 +26,12 @@ class InstalledSuite : public Installation
 public:
     InstalledSuite()
     {
-        const QStringList arguments{path(u"."_s), u"--build-dir"_s, QStringLiteral(BUILD_FOLDER)};
+        // As in a build folder whose parts lie elsewhere.
+        QDir().mkpath(path(u"build"_s));
+        for (const auto& part : {u"/bin"_s, u"/help"_s}) {
+            QFile::link(QStringLiteral(BUILD_FOLDER) + part, path(u"build"_s) + part);
+        }
+        const QStringList arguments{path(u"."_s), u"--build-dir"_s, path(u"build"_s)};
         if (runProgram(QStringLiteral(INSTALL_SUITE), arguments).status != 0) {
             qFatal("the suite can not be installed");
         }

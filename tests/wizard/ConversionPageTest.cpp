@@ -8,7 +8,9 @@
 #include <QFile>
 #include <QTextBlock>
 
+#include <csignal>
 #include <memory>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -181,6 +183,29 @@ private Q_SLOTS:
         QVERIFY(!wizard.window.conversionDone);
         QCOMPARE(suite.read(u"work/p.prj"_s), QByteArray("old"));
         QTEST(int(boxes.texts.size()), "boxes");
+    }
+
+    void saysThatTheOutputCouldNotBeKept()
+    {
+        Installation suite;
+        startSuite(suite, "echo running; while [ ! -e \"$0.go\" ]; do sleep 0.02; done; echo x > \"$1\"\n",
+                   "<applicationPage/>");
+        WizardDriver wizard;
+        convert(wizard, suite);
+        QTRY_VERIFY(wizard.output().contains("running"_L1));
+        // As on a full disk, what was opened can not be written.
+        rlimit old = {};
+        ::getrlimit(RLIMIT_FSIZE, &old);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit none = {0, old.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &none);
+        suite.write(u"convert.go"_s, {});
+        QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
+        ::setrlimit(RLIMIT_FSIZE, &old);
+        const BoxAnswers boxes({QMessageBox::Ok});
+        wizard.button(u"Show the &conversion's output..."_s).click();
+        QCOMPARE(boxes.texts.size(), 1);
+        QVERIFY2(boxes.texts[0].contains(QDir::tempPath()), qPrintable(boxes.texts[0]));
     }
 
     void movesOnToTheFollowUpPage()

@@ -111,8 +111,8 @@ Möchten Sie den Assistenten schließen?</translation>
         <translation>Ausgabe der Konvertierung</translation>
     </message>
     <message>
-        <source>The output could not be kept.</source>
-        <translation>Die Ausgabe konnte nicht aufbewahrt werden.</translation>
+        <source>The output could not be kept: the temporary folder %1 is full or can not be written. Make room there and convert again.</source>
+        <translation>Die Ausgabe konnte nicht aufbewahrt werden: Der temporäre Ordner %1 ist voll oder nicht beschreibbar. Schaffen Sie dort Platz und konvertieren Sie noch einmal.</translation>
     </message>
     <message>
         <source>-tools: the name of a project file must follow.</source>
@@ -597,6 +597,10 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
     <message>
         <source>The project file that was there before is kept.</source>
         <translation>Die Projektdatei, die vorher da war, bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>The project file that was there before is kept as %1.</source>
+        <translation>Die Projektdatei, die vorher da war, bleibt als %1 erhalten.</translation>
     </message>
 </context>
 <context>
