@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/TemporaryFiles.h"
+#include "process/Guardian.h"
 
 #include <QDir>
 #include <QFile>
@@ -65,7 +66,7 @@ QString TemporaryFiles::create(const QString& suffix)
     return file.fileName();
 }
 
-// For the next run, if this one is killed.
+// For the helper that cleans up when this run is killed, and for the next run if that is killed as well.
 void TemporaryFiles::enlist(const QString& name)
 {
     if (!list) {
@@ -74,6 +75,7 @@ void TemporaryFiles::enlist(const QString& name)
         if (!list->open() || list->fileName().isEmpty() || !lock(*list)) {
             return;
         }
+        Guardian::listsTemporaryFiles(list->fileName());
     }
     if (list->isOpen()) {
         list->write(QFile::encodeName(name) + '\n');

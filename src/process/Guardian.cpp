@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <sys/prctl.h>
@@ -35,7 +36,7 @@ constexpr auto patience = 5s;
 // Three paths and their ends.
 constexpr std::size_t longestMessage = 3 * 4096 + 4;
 
-enum Order : char { Watch = 'w', Forget = 'f', Dismiss = 'd' };
+enum Order : char { Watch = 'w', Forget = 'f', Dismiss = 'd', List = 'l' };
 
 int channel = -1;
 
@@ -127,6 +128,19 @@ void bringBack(const Watched& watched)
     ::unlink(watched.lock.c_str());
 }
 
+// Only what is named as ours: the list lies where others write, too.
+void removeListed(const std::string& list)
+{
+    const std::string folder = list.substr(0, list.rfind('/') + 1) + "KOVRA-";
+    std::istringstream names(list.empty() ? std::string() : contentsOf(list));
+    for (std::string name; std::getline(names, name);) {
+        if (name.starts_with(folder) && name.find('/', folder.size()) == std::string::npos) {
+            ::unlink(name.c_str());
+        }
+    }
+    ::unlink(list.c_str());
+}
+
 Watched parse(std::string_view message)
 {
     Watched watched;
@@ -161,6 +175,7 @@ void detach(int ourEnd)
 {
     detach(ourEnd);
     Watched watched;
+    std::string list;
     std::array<char, longestMessage> message;
     while (true) {
         const ssize_t size = ::recv(ourEnd, message.data(), message.size(), 0);
@@ -170,10 +185,15 @@ void detach(int ourEnd)
         if (message[0] == Dismiss) {
             ::_exit(0);
         }
+        if (message[0] == List) {
+            list.assign(message.data() + 1, std::size_t(size - 1));
+            continue;
+        }
         watched = message[0] == Watch ? parse({message.data() + 1, std::size_t(size - 1)}) : Watched();
     }
     killMarked(entry);
     bringBack(watched);
+    removeListed(list);
     ::_exit(0);
 }
 
@@ -227,6 +247,11 @@ void Guardian::forget()
     send(QByteArray(1, Forget));
 }
 
+void Guardian::listsTemporaryFiles(const QString& list)
+{
+    send(char(List) + QFile::encodeName(list));
+}
+
 void Guardian::dismiss()
 {
     send(QByteArray(1, Dismiss));
@@ -238,6 +263,7 @@ void Guardian::start() {}
 void Guardian::mark(QProcessEnvironment&) {}
 void Guardian::watch(const QString&, const QString&, const QString&) {}
 void Guardian::forget() {}
+void Guardian::listsTemporaryFiles(const QString&) {}
 void Guardian::dismiss() {}
 
 #endif

@@ -6,8 +6,8 @@
 class QProcessEnvironment;
 
 /// A small process beside this one that cleans up when this one is killed and can not do so itself: it kills what
-/// carries our mark in its environment, and brings an old project file back. Linux only; elsewhere all of it does
-/// nothing. It does not reach a process that detached itself and cleared its environment.
+/// carries our mark in its environment, brings an old project file back, and removes the temporary files. Linux only;
+/// elsewhere all of it does nothing. It does not reach a process that detached itself and cleared its environment.
 namespace Guardian {
 
 /// Starts it. Once, before the program has threads and children.
@@ -22,6 +22,9 @@ void watch(const QString& projectFile, const QString& aside, const QString& lock
 
 /// No project file is in the making any more.
 void forget();
+
+/// The file that names the temporary files, one a line.
+void listsTemporaryFiles(const QString& list);
 
 /// Lets it go without a deed. A program that ends before was killed.
 void dismiss();

@@ -30,47 +30,60 @@ class EndingTest : public QObject
 private Q_SLOTS:
     void leavesNothing_data()
     {
-        const TestRows<int> row("signal");
-        row("TERM", SIGTERM);
-        row("HUP", SIGHUP);
-        row("INT", SIGINT);
-        row("QUIT", SIGQUIT);
-        row("SEGV", SIGSEGV);
-        row("KILL", SIGKILL);
+        const TestRows<int, bool> row("signal", "launches");
+        for (const bool launches : {false, true}) {
+            const QByteArray what = launches ? ", a launcher" : ", a conversion";
+            row(QByteArray("TERM" + what).constData(), SIGTERM, launches);
+            row(QByteArray("HUP" + what).constData(), SIGHUP, launches);
+            row(QByteArray("INT" + what).constData(), SIGINT, launches);
+            row(QByteArray("QUIT" + what).constData(), SIGQUIT, launches);
+            row(QByteArray("SEGV" + what).constData(), SIGSEGV, launches);
+            row(QByteArray("KILL" + what).constData(), SIGKILL, launches);
+        }
     }
 
     void leavesNothing()
     {
         QFETCH(const int, signal);
+        QFETCH(const bool, launches);
         const Installation suite;
         const QByteArray pids = suite.path(u"pids"_s).toUtf8();
-        suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" +
-                     suite
-                         .writeScript(u"convert"_s, "M=" + pids + R"(
+        const QByteArray script = suite
+                                      .writeScript(u"convert"_s, "M=" + pids + R"(
 echo $$ >> $M
 sleep 1000 & echo $! >> $M
 setsid sh -c "echo \$\$ >> $M; trap '' TERM HUP; sleep 1000; :" &
 (setsid sh -c "echo \$\$ >> $M; sleep 1000; :" &)
 while [ $(wc -l < $M) -lt 4 ]; do sleep 0.02; done
-echo half > "$1"
+echo up > "$M.up"
+case $1 in *p.prj) echo half > "$1" ;; esac
 wait
 )")
-                         .toUtf8() +
-                     "</exe><exeargs>%PF</exeargs></projectCreator>");
-        const QString project = suite.write(u"work/p.prj"_s, "old", QDateTime::fromSecsSinceEpoch(1'000'000'000));
+                                      .toUtf8();
+        suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + script +
+                     "</exe><exeargs>%PF</exeargs></projectCreator><applicationPage><application name='T'><exe>" +
+                     script + "</exe><exeargs>%P+</exeargs></application></applicationPage>");
+        const QByteArray old = "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n*project=ORVC\n"
+                               "a.c\nEndContainedFilesMarker\nEndOfProjectFile\n";
+        const QString project = suite.write(u"work/p.prj"_s, old, QDateTime::fromSecsSinceEpoch(1'000'000'000));
+        const auto temporaryFiles = [] { return QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}).size(); };
         QFile::link(QStringLiteral(PROGRAM), suite.path(u"bin/ProjectCreation"_s));
         QProcess program;
+        const QString task = launches ? u"-run T -c"_s : u"-type T -overwrite"_s;
         program.start(suite.path(u"bin/ProjectCreation"_s),
-                      {u"-batch"_s, u"-prj"_s, project, u"-type"_s, u"T"_s, u"-overwrite"_s});
-        QTRY_COMPARE(suite.read(project), QByteArray("half\n"));
+                      u"-batch -prj"_s.split(u' ') + QStringList{project} + task.split(u' '));
+        QTRY_COMPARE(suite.read(project), launches ? old : QByteArray("half\n"));
+        QTRY_VERIFY(!suite.read(u"pids.up"_s).isEmpty());
+        QCOMPARE(temporaryFiles() > 0, launches);
         QCOMPARE(survivors(suite).size(), 4);
         ::kill(pid_t(program.processId()), signal);
         QVERIFY(program.waitForFinished());
         // One that is killed has a helper that cleans up, and may take a moment longer.
-        QTRY_COMPARE(suite.read(project), QByteArray("old"));
+        QTRY_COMPARE(suite.read(project), old);
         QTRY_COMPARE(survivors(suite), QList<QByteArray>());
         QCOMPARE(QFileInfo(project).lastModified(), QDateTime::fromSecsSinceEpoch(1'000'000'000));
         QTRY_COMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"p.prj"_s});
+        QTRY_COMPARE(temporaryFiles(), 0);
     }
 };
 
