@@ -129,7 +129,9 @@ Result<void> ApplicationWindow::openTools(const QString& projectFile)
 void ApplicationWindow::showConversionOutput()
 {
     const QString log = actionPage->logFileName();
-    if (log.isEmpty() || !DisplayDialog::showFile(*appRegistry, tr("Output of the conversion"), log)) {
+    if (!log.isEmpty() && QFileInfo(log).size() == 0) {
+        MessageBox::warn(this, tr("Output of the conversion"), tr("The conversion program printed nothing."));
+    } else if (log.isEmpty() || !DisplayDialog::showFile(*appRegistry, tr("Output of the conversion"), log)) {
         MessageBox::warn(this, tr("Output of the conversion"),
                          tr("The output could not be kept: the temporary folder %1 is full or can not be written. "
                             "Make room there and convert again.")

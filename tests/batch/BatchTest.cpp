@@ -41,7 +41,7 @@ struct SlowSuite : Installation
     SlowSuite()
     {
         const QString script =
-            writeScript(u"slow"_s, "echo $$ > \"$0.pid\"; echo half > \"$1\"\n"
+            writeScript(u"slow"_s, "echo half > \"$1\"\n"
                                    "while [ -e \"$0\" ] && [ ! -e \"$0.go\" ]; do sleep 0.02; done\n");
         define("<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" + script.toUtf8() +
                "</exe><exeargs>%PF</exeargs></projectCreator>");
@@ -121,19 +121,6 @@ private Q_SLOTS:
         QCOMPARE(result.errors, u"ProjectCreation: "_s + option + u": the configuration file "_s + foreign +
                                     u" is for the other analyser\n"_s);
         QCOMPARE(result.status, 2);
-    }
-
-    void takesItsConverterAlongWhenItIsKilled()
-    {
-        const SlowSuite suite;
-        QProcess program;
-        program.start(QStringLiteral(PROGRAM), suite.arguments());
-        QTRY_VERIFY(suite.isHalfWay());
-        const QByteArray converter = suite.read(u"slow.pid"_s);
-        QVERIFY(Installation::isAlive(converter));
-        program.kill();
-        QVERIFY(program.waitForFinished());
-        QTRY_VERIFY(!Installation::isAlive(converter));
     }
 
     void outlivesItsTerminalUnderNohup()

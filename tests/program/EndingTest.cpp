@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Installation.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
+#include <QTest>
 
 #include <csignal>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -30,15 +31,13 @@ class EndingTest : public QObject
 private Q_SLOTS:
     void leavesNothing_data()
     {
-        const TestRows<int, bool> row("signal", "launches");
-        for (const bool launches : {false, true}) {
-            const QByteArray what = launches ? ", a launcher" : ", a conversion";
-            row(QByteArray("TERM" + what).constData(), SIGTERM, launches);
-            row(QByteArray("HUP" + what).constData(), SIGHUP, launches);
-            row(QByteArray("INT" + what).constData(), SIGINT, launches);
-            row(QByteArray("QUIT" + what).constData(), SIGQUIT, launches);
-            row(QByteArray("SEGV" + what).constData(), SIGSEGV, launches);
-            row(QByteArray("KILL" + what).constData(), SIGKILL, launches);
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<bool>("launches");
+        for (const auto& [name, signal] :
+             {std::pair{"TERM", SIGTERM}, std::pair{"HUP", SIGHUP}, std::pair{"INT", SIGINT},
+              std::pair{"QUIT", SIGQUIT}, std::pair{"SEGV", SIGSEGV}, std::pair{"KILL", SIGKILL}}) {
+            QTest::addRow("%s, a conversion", name) << signal << false;
+            QTest::addRow("%s, a launcher", name) << signal << true;
         }
     }
 

@@ -185,6 +185,18 @@ private Q_SLOTS:
         QTEST(int(boxes.texts.size()), "boxes");
     }
 
+    void opensNoWindowWithoutOutput()
+    {
+        Installation suite;
+        startSuite(suite, "echo x > \"$1\"\n", "<applicationPage/>");
+        WizardDriver wizard;
+        convert(wizard, suite);
+        QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
+        const BoxAnswers boxes({QMessageBox::Ok});
+        wizard.button(u"Show the &conversion's output..."_s).click();
+        QCOMPARE(boxes.texts, QStringList{u"Output of the conversion|The conversion program printed nothing."_s});
+    }
+
     void saysThatTheOutputCouldNotBeKept()
     {
         Installation suite;

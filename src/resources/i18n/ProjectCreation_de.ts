@@ -111,6 +111,10 @@ Möchten Sie den Assistenten schließen?</translation>
         <translation>Ausgabe der Konvertierung</translation>
     </message>
     <message>
+        <source>The conversion program printed nothing.</source>
+        <translation>Das Konvertierungsprogramm hat nichts ausgegeben.</translation>
+    </message>
+    <message>
         <source>The output could not be kept: the temporary folder %1 is full or can not be written. Make room there and convert again.</source>
         <translation>Die Ausgabe konnte nicht aufbewahrt werden: Der temporäre Ordner %1 ist voll oder nicht beschreibbar. Schaffen Sie dort Platz und konvertieren Sie noch einmal.</translation>
     </message>
