@@ -68,6 +68,7 @@ private Q_SLOTS:
                                                                           "says");
         row("created", "echo new > \"$1\"", u"created"_s, 0, "new\n", {});
         row("failed beside a file", "echo half > \"$1\"; exit 3", u"createdButFailed"_s, 1, "half\n", u"exit code 3"_s);
+        row("failed beside an empty file", ": > \"$1\"; exit 1", u"notCreated"_s, 1, "old", u"is empty"_s);
         row("not created", "echo why >&2; exit 4", u"notCreated"_s, 1, "old", u"exit code 4"_s);
         row("crashed", "echo half > \"$1\"; kill -SEGV $$", u"crashed"_s, 1, "old", u"crashed"_s);
         row("takes too long", "echo half > \"$1\"; sleep 1000", u"timedOut"_s, 1, "old", u"longer than"_s);
