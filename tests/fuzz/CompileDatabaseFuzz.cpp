@@ -55,7 +55,7 @@ void convert(const QString& database, bool forC, bool subProjects)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QString database = Sandbox::write(u"build/compile_commands.json"_s, Sandbox::bytes(data, size));
-    static const QString outputs = Sandbox::write(u"converted/.keep"_s, {});
+    Sandbox::write(u"converted/.keep"_s, {});
     convert(database, true, false);
     convert(database, false, true);
     return 0;

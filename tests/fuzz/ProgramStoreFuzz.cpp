@@ -35,9 +35,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         use(*store, creators);
         store->endGroup();
     };
-    QObject::connect(&registry, &AppRegistry::ReadRegistryValues,
+    QObject::connect(&registry, &AppRegistry::ReadRegistryValues, &registry,
                      [&](QSettings* store) { inGroup(store, InputValues::read); });
-    QObject::connect(&registry, &AppRegistry::WriteRegistryValues,
+    QObject::connect(&registry, &AppRegistry::WriteRegistryValues, &registry,
                      [&](QSettings* store) { inGroup(store, InputValues::write); });
 
     registry.InitWindowSettings(u"ProjectCreation"_s, 600, 400);

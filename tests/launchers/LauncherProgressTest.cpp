@@ -46,7 +46,10 @@ struct LauncherPage : Installation
 };
 
 // Goes on when the test has seen it.
-const QByteArray awaitGo = "while [ ! -e \"$0.go\" ]; do sleep 0.02; done\n";
+QByteArray awaitGo()
+{
+    return "while [ ! -e \"$0.go\" ]; do sleep 0.02; done\n";
+}
 
 } // namespace
 
@@ -57,7 +60,7 @@ class LauncherProgressTest : public QObject
 private Q_SLOTS:
     void showsItOnTheButton()
     {
-        const LauncherPage page({"echo '[34/151] a.c'\n" + awaitGo + "printf '\\r[151/151] b.c' >&2\n" + awaitGo +
+        const LauncherPage page({"echo '[34/151] a.c'\n" + awaitGo() + "printf '\\r[151/151] b.c' >&2\n" + awaitGo() +
                                  "while [ ! -e \"$0.end\" ]; do sleep 0.02; done"});
         RunAppData& tool = page.tool(1);
         const auto* bar = page.window.findChild<QProgressBar*>();
@@ -99,8 +102,9 @@ private Q_SLOTS:
 
     void showsItInTheBusyWindow()
     {
-        const LauncherPage page({"echo '[1/3] first.c' >&2\n" + awaitGo + "echo '[2/3] second.c' >&2; exec sleep 1000"},
-                                "<displayoutput>text</displayoutput>");
+        const LauncherPage page(
+            {"echo '[1/3] first.c' >&2\n" + awaitGo() + "echo '[2/3] second.c' >&2; exec sleep 1000"},
+            "<displayoutput>text</displayoutput>");
         RunAppData& tool = page.tool(1);
         tool.button->click();
         const auto busy = [] { return qobject_cast<BusyDialog*>(QApplication::activeWindow()); };
@@ -123,7 +127,7 @@ private Q_SLOTS:
 
     void tellsManyFailuresInOneBox()
     {
-        const LauncherPage page(QByteArrayList(14, awaitGo + "echo reason of $0 >&2; exit 7"));
+        const LauncherPage page(QByteArrayList(14, awaitGo() + "echo reason of $0 >&2; exit 7"));
         for (int number = 1; number <= 14; ++number) {
             page.tool(number).button->click();
             page.write(u"tool%1.go"_s.arg(number), "");

@@ -30,7 +30,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A child that says who it is and does not listen.
-const QByteArray deaf = "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\n";
+QByteArray deaf()
+{
+    return "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\n";
+}
 
 /// A launcher page with buttons, on a project that does not exist.
 struct Launchers : Installation
@@ -249,7 +252,7 @@ private Q_SLOTS:
     {
         Launchers suite;
         const PageData& page = suite.define(
-            suite.application(1, "trap '' TERM\n" + deaf + "wait\n", "<condition name='G' action='finish'/>") +
+            suite.application(1, "trap '' TERM\n" + deaf() + "wait\n", "<condition name='G' action='finish'/>") +
             suite.application(2, "echo hello",
                               "<displayoutput>message</displayoutput><condition name='G' action='disable'/>"));
         RunAppData& tool = *page.applications[0];
@@ -276,7 +279,7 @@ private Q_SLOTS:
     void endsWhatItLeftBehind_data()
     {
         const TestRows<QByteArray, bool> row("script", "counts");
-        row("detached", "setsid " + deaf, false);
+        row("detached", "setsid " + deaf(), false);
         row("in the background", "sleep 1000 & echo $! > \"$0.pid\"", true);
     }
 

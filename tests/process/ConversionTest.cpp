@@ -155,7 +155,7 @@ private Q_SLOTS:
         buffer.append(QString(QString(1 << 20, u'x') + u"\nend\n"_s));
         last = buffer.take(100);
         QCOMPARE(last.last(), u"end"_s);
-        QVERIFY(last.first().size() <= 16 * 1024);
+        QVERIFY(last.first().size() <= 16LL * 1024);
         buffer.append(QString(10, u'x') + u"\n1\n2\n"_s);
         QCOMPARE(buffer.take(100, 5).size(), 1);
         QCOMPARE(buffer.take(100, 5).size(), 2);

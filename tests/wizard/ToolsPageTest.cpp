@@ -17,13 +17,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray projectText = "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n"
-                               "messagePersonality=default string\nanalyserPersonality=default string\n"
-                               "compilerPersonality=default string\n*project=";
+QByteArray projectText()
+{
+    return "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n"
+           "messagePersonality=default string\nanalyserPersonality=default string\n"
+           "compilerPersonality=default string\n*project=";
+}
 
 QByteArray project(const QByteArray& analyser)
 {
-    return projectText + analyser + "\nmain.c\nEndContainedFilesMarker\nEndOfProjectFile\n";
+    return projectText() + analyser + "\nmain.c\nEndContainedFilesMarker\nEndOfProjectFile\n";
 }
 
 /// A suite with a conversion that runs a script, and one tool that says on what it was started.

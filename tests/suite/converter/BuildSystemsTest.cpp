@@ -34,7 +34,8 @@ struct Answer
             const QJsonArray entries = QJsonDocument::fromJson(place.read(answer.database)).array();
             for (const auto& entry : entries) {
                 QStringList words = entry["command"_L1].toString().split(u' ');
-                for (const auto& word : entry["arguments"_L1].toArray()) {
+                const QJsonArray arguments = entry["arguments"_L1].toArray();
+                for (const auto& word : arguments) {
                     words += word.toString();
                 }
                 commands += entry["file"_L1].toString().section(u'/', -1) + u": "_s +
