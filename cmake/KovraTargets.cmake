@@ -47,6 +47,9 @@ endfunction()
 function(kovra_test name)
     add_executable(test_${name} ${ARGN})
     target_link_libraries(test_${name} PRIVATE kovra_core kovra_test_support Qt6::Test)
+    if(WIN32 AND TARGET Qt6::QOffscreenIntegrationPlugin)
+        qt_import_plugins(test_${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
+    endif()
     # The crash handler would start a debugger on a failed precondition, over and over.
     add_test(NAME ${name} COMMAND test_${name} -nocrashhandler)
     set_tests_properties(${name} PROPERTIES

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/Installations.h"
+#include "app/InstallerRecords.h"
 #include "app/SettingsStore.h"
 #include "definitions/EnvironmentValue.h"
 
@@ -24,6 +25,9 @@ QString FindInstallation(const QString& product, const QString& variable)
         if (!path.isEmpty() && QFile::exists(path)) {
             return path;
         }
+    }
+    if (QString path = InstallerRecords::otherView(product); !path.isEmpty() && QFile::exists(path)) {
+        return path;
     }
     return EnvironmentValue(variable, false);
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/HelpCollection.h"
+#include "dialogs/HelpEngine.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QHelpEngineCore>
 
 using namespace Qt::StringLiterals;
 
@@ -21,13 +21,8 @@ bool isDatabase(const QString& profile)
 HelpCollection::HelpCollection(const QString& profile)
     : folder(QFileInfo(profile).absolutePath())
 {
-    if (!QFileInfo(profile).isFile() || !isDatabase(profile)) {
-        return;
-    }
-    engine = std::make_unique<QHelpEngineCore>(profile);
-    engine->setReadOnly(true);
-    if (!engine->setupData()) {
-        engine.reset();
+    if (QFileInfo(profile).isFile() && isDatabase(profile)) {
+        engine = HelpEngine::open(profile);
     }
 }
 
@@ -38,17 +33,14 @@ QUrl HelpCollection::find(const QString& pagePath) const
     const QString name = folder.relativeFilePath(pagePath);
     const bool isFile = QFileInfo(pagePath).isFile();
     QUrl namesake;
-    const QStringList documents = engine ? engine->registeredDocumentations() : QStringList();
-    for (const QString& document : documents) {
-        const QList<QUrl> pages = engine->files(document, QString());
-        for (const QUrl& page : pages) {
-            // An address is made of the collection's virtual folder and the page's path.
-            if (page.path().section(u'/', 2) == name) {
-                return page;
-            }
-            if (namesake.isEmpty() && page.fileName() == QFileInfo(pagePath).fileName()) {
-                namesake = page;
-            }
+    const QList<QUrl> pages = engine ? engine->pages() : QList<QUrl>();
+    for (const QUrl& page : pages) {
+        // An address is made of the collection's virtual folder and the page's path.
+        if (page.path().section(u'/', 2) == name) {
+            return page;
+        }
+        if (namesake.isEmpty() && page.fileName() == QFileInfo(pagePath).fileName()) {
+            namesake = page;
         }
     }
     // A file elsewhere is meant itself; else the page may lie in a folder of the collection.
@@ -61,5 +53,5 @@ QUrl HelpCollection::find(const QString& pagePath) const
 
 QByteArray HelpCollection::contents(const QUrl& page) const
 {
-    return engine ? engine->fileData(page) : QByteArray();
+    return engine ? engine->contents(page) : QByteArray();
 }

@@ -8,9 +8,9 @@
 
 #include <memory>
 
-class QHelpEngineCore;
+class HelpEngine;
 
-/// The help profile, when it is a Qt help collection, whatever it is called. Another profile holds nothing.
+/// The help profile, when it is a Qt help collection that can be read, whatever it is called. Another holds nothing.
 class HelpCollection
 {
 public:
@@ -25,5 +25,5 @@ public:
 
 private:
     QDir folder;
-    std::unique_ptr<QHelpEngineCore> engine;
+    std::unique_ptr<HelpEngine> engine;
 };

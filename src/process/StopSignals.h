@@ -8,7 +8,7 @@
 class QSocketNotifier;
 
 /// Tells of SIGINT, SIGTERM, SIGHUP and SIGQUIT in the event loop while it lives, instead of their ending the program.
-/// One at a time; on Windows the console's own handling stays.
+/// On Windows of Ctrl+C, Ctrl+Break and the console's end, of logging off and of shutting down. One at a time.
 class StopSignals : public QObject
 {
     Q_OBJECT

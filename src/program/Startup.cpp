@@ -5,6 +5,7 @@
 #include "app/Translations.h"
 #include "batch/BatchArguments.h"
 #include "batch/BatchMode.h"
+#include "console/Console.h"
 #include "dialogs/MessageBox.h"
 #include "launchers/PageReader.h"
 #include "process/Guardian.h"
@@ -51,15 +52,6 @@ bool initialise(AppRegistry& registry, QCoreApplication& application, const Page
     appRegistry = &registry;
     registry.readPage = readPage;
     return registry.Init(&application, QCoreApplication::arguments(), title(), defaultWidth, defaultHeight, usage());
-}
-
-QStringList toTexts(int argc, char** argv)
-{
-    QStringList texts;
-    for (int i = 0; i < argc; ++i) {
-        texts += QString::fromLocal8Bit(argv[i]);
-    }
-    return texts;
 }
 
 // Version, usage and batch conversions need no display, so they must not ask for one.
@@ -144,7 +136,8 @@ int runWithWindow(int argc, char** argv)
 int Startup::run(int argc, char** argv)
 {
     StandardChannels::reserve();
-    const QStringList arguments = toTexts(argc, argv);
+    Console::open();
+    const QStringList arguments = Console::arguments(argc, argv);
     if (const Question asked = question(arguments); asked != Question::None) {
         return answer(asked, argc, argv);
     }

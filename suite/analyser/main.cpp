@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
+#include "console/Console.h"
 #include "Failure.h"
 #include "Tools.h"
 
@@ -9,6 +10,7 @@
 
 int main(int argc, char** argv)
 {
+    Console::open();
     const QCoreApplication application(argc, argv);
     try {
         const CommandLine line = CommandLine::read(QCoreApplication::arguments());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Arguments.h"
+#include "console/Console.h"
 #include "Conversion.h"
 #include "Failure.h"
 #include "Output.h"
@@ -10,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv)
 {
+    Console::open();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"prjconv"_s);
     QCoreApplication::setApplicationVersion(u"1.0"_s);

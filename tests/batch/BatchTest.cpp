@@ -3,12 +3,11 @@
 #include "definitions/KOVRASettingsFile.h"
 #include "definitions/Placeholders.h"
 #include "Installation.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
 #include <QProcess>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 

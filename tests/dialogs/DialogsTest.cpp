@@ -5,6 +5,7 @@
 #include "dialogs/FileSearch.h"
 #include "dialogs/FindDialog.h"
 #include "Installation.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -20,7 +21,6 @@
 #include <QTextBrowser>
 
 #include <memory>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 

@@ -7,6 +7,7 @@
 #include "personality/AnalyserInference.h"
 #include "process/ExecutableLookup.h"
 #include "process/StrayProcesses.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -21,9 +22,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -176,13 +175,10 @@ private Q_SLOTS:
         page.applications[0]->button->click();
         qputenv("TMPDIR", folder);
         // As on a full disk, files can be made but not written.
-        rlimit old = {};
-        ::getrlimit(RLIMIT_FSIZE, &old);
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit none = {0, old.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &none);
-        page.applications[0]->button->click();
-        ::setrlimit(RLIMIT_FSIZE, &old);
+        {
+            const FullDisk none;
+            page.applications[0]->button->click();
+        }
         QCOMPARE(boxes.texts.size(), 2);
         QVERIFY2(boxes.texts[0].contains("A temporary file can not be made in "_L1), qPrintable(boxes.texts[0]));
         QVERIFY2(boxes.texts[1].contains(" can not be written: "_L1), qPrintable(boxes.texts[1]));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Installation.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 
 #include <QDir>
@@ -7,7 +8,6 @@
 #include <QProcess>
 #include <QTest>
 
-#include <csignal>
 #include <utility>
 
 using namespace Qt::StringLiterals;

@@ -3,6 +3,7 @@
 #include "app/TemporaryFiles.h"
 #include "project/OptionSources.h"
 #include "project/ProjectReader.h"
+#include "SystemCalls.h"
 #include "TestFolder.h"
 #include "TestMain.h"
 #include "TestRows.h"
@@ -11,8 +12,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 

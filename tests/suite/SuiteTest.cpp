@@ -3,6 +3,7 @@
 #include "Installation.h"
 #include "personality/FileScans.h"
 #include "project/Project.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "wizard/PageSequence.h"
 #include "WizardDriver.h"
@@ -13,8 +14,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TestMain.h"
+#include "PrivateStores.h"
 
 #include <QApplication>
 #include <QDir>
@@ -66,6 +67,7 @@ int main(int argc, char** argv)
         QDir().mkpath(folder);
         qputenv(variable, folder.toLocal8Bit());
     }
+    const PrivateStores stores(home.path());
     for (const char* name : {"ORVCPATH", "ORVCPPPATH", "ORVCPERSONALITIES", "ORVCPPPERSONALITIES"}) {
         qunsetenv(name);
     }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
 #include "WizardDriver.h"
 
 #include <QClipboard>
-
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 

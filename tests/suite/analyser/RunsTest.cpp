@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CodeBase.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -8,8 +9,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 

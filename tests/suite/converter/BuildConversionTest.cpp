@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "CommandWords.h"
 #include "ConvertedProject.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 

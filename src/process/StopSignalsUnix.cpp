@@ -3,7 +3,6 @@
 
 #include <QSocketNotifier>
 
-#ifdef Q_OS_UNIX
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -66,14 +65,3 @@ StopSignals::~StopSignals()
         end = -1;
     }
 }
-
-#else
-
-StopSignals::StopSignals(QObject* parent)
-    : QObject(parent)
-{
-}
-
-StopSignals::~StopSignals() = default;
-
-#endif

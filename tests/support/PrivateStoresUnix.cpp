@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+#include "PrivateStores.h"
+
+PrivateStores::PrivateStores(const QString&) {}
+
+PrivateStores::~PrivateStores() = default;

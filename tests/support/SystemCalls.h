@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+#include <csignal>
+
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+/// While it lives, files can be made but not written.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        ::getrlimit(RLIMIT_FSIZE, &old);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit none = {0, old.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &old); }
+    Q_DISABLE_COPY_MOVE(FullDisk)
+
+private:
+    rlimit old = {};
+};
+#else
+#include <sys/types.h>
+
+// What tests ask of a Unix system, as far as Windows has it: rights keep nobody out, as with root; a signal ends the
+// process at once; files can always be written; nothing makes a pipe with a name in a folder.
+constexpr int SIGHUP = 1;
+constexpr int SIGQUIT = 3;
+constexpr int SIGKILL = 9;
+
+int geteuid();
+int kill(pid_t process, int signal);
+int mkfifo(const char* name, int mode);
+
+struct FullDisk
+{
+    FullDisk() { qWarning("no limit on the size of files here"); }
+};
+#endif
