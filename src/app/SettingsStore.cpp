@@ -3,7 +3,24 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QSettings::Format& format()
+{
+    static QSettings::Format chosen = QSettings::NativeFormat;
+    return chosen;
+}
+
+} // namespace
+
 namespace SettingsStore {
+
+void keepIn(const QString& folder)
+{
+    format() = QSettings::IniFormat;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+    QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope, folder);
+}
 
 QString organisation()
 {
@@ -13,17 +30,17 @@ QString organisation()
 std::unique_ptr<QSettings> openForReading(const QString& application)
 {
     // A user-scope store falls back to the system's value by itself.
-    return std::make_unique<QSettings>(QSettings::UserScope, organisation(), application);
+    return std::make_unique<QSettings>(format(), QSettings::UserScope, organisation(), application);
 }
 
 bool write(const QString& application, const std::function<void(QSettings&)>& write)
 {
-    QSettings system(QSettings::SystemScope, organisation(), application);
+    QSettings system(format(), QSettings::SystemScope, organisation(), application);
     if (system.isWritable()) {
         write(system);
         system.sync();
         if (system.status() == QSettings::NoError) {
-            QSettings user(QSettings::UserScope, organisation(), application);
+            QSettings user(format(), QSettings::UserScope, organisation(), application);
             user.setFallbacksEnabled(false);
             const QStringList hidden = user.fileName() == system.fileName() ? QStringList() : user.allKeys();
             for (const QString& key : hidden) {
@@ -34,7 +51,7 @@ bool write(const QString& application, const std::function<void(QSettings&)>& wr
             return true;
         }
     }
-    QSettings user(QSettings::UserScope, organisation(), application);
+    QSettings user(format(), QSettings::UserScope, organisation(), application);
     if (!user.isWritable()) {
         return false;
     }

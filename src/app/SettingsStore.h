@@ -14,6 +14,9 @@ namespace SettingsStore {
 /// The organisation all stores of the suite belong to.
 QString organisation();
 
+/// From now on all stores are files in this folder, the system's and the user's being one.
+void keepIn(const QString& folder);
+
 /// A store to read from: the user's value first, then the system's.
 std::unique_ptr<QSettings> openForReading(const QString& application);
 

@@ -2,6 +2,7 @@
 #include "program/Startup.h"
 #include "app/AppRegistry.h"
 #include "app/CommandLine.h"
+#include "app/PortableMode.h"
 #include "app/Translations.h"
 #include "batch/BatchArguments.h"
 #include "batch/BatchMode.h"
@@ -13,6 +14,7 @@
 #include "process/StrayProcesses.h"
 #include "program/DisplayCheck.h"
 #include "program/StandardChannels.h"
+#include "program/SuiteFolder.h"
 #include "wizard/ApplicationWindow.h"
 
 #include <QApplication>
@@ -49,6 +51,8 @@ QString usage()
 // Without a page reader the launchers are read without their buttons.
 bool initialise(AppRegistry& registry, QCoreApplication& application, const PageReader& readPage)
 {
+    PortableMode::enter();
+    SuiteFolder::offerAnalysers();
     appRegistry = &registry;
     registry.readPage = readPage;
     return registry.Init(&application, QCoreApplication::arguments(), title(), defaultWidth, defaultHeight, usage());

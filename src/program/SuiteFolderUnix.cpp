@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "program/SuiteFolder.h"
+
+void SuiteFolder::offerAnalysers() {}
