@@ -17,7 +17,7 @@ namespace {
 
 constexpr int sources = 150;
 constexpr int functions = 20;
-constexpr int inlineFunctions = 150;
+constexpr int inlineFunctions = 20;
 constexpr int messages = 100000;
 constexpr int rounds = 2;
 
@@ -115,6 +115,7 @@ void run(const QString& program, const QStringList& arguments)
 int reportTime(const char* name, double limit, const std::function<void()>& work)
 {
     std::vector<double> times;
+    times.reserve(rounds + 2);
     for (int i = 0; i < rounds + 2; ++i) {
         times.push_back(Ratio::milliseconds(work));
     }
