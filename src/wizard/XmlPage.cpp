@@ -14,18 +14,32 @@
 
 #include <utility>
 
+namespace {
+
+// The records outlive a window and its controls.
+void forgetControls(const ArgumentDefinitions& definitions)
+{
+    for (const auto& definition : definitions) {
+        definition->lineEdit = nullptr;
+        definition->fileWidgets = nullptr;
+        definition->button = nullptr;
+        definition->widgets.clear();
+        forgetControls(definition->children);
+    }
+}
+
+} // namespace
+
 XmlPage::XmlPage(ApplicationWindow* owner)
     : AppPage(owner, XmlPageId)
+    , grid(new QGridLayout(this))
     , hint(new QLabel)
 {
     setTitle(tr("Project Conversion Information"));
     setSubTitle(tr("Specify Information that identifies project to be converted"));
-    auto* grid = new QGridLayout(this);
     for (const auto& creator : appRegistry->definitions.projectCreators) {
-        creator->panel =
-            InputPanel::BuildGroup(creator->inputData, creator->name, 1, owner->isORVC, [this] { valueChanged(); });
-        grid->addWidget(creator->panel, 0, 0);
-        creator->panel->hide();
+        creator->panel = nullptr;
+        forgetControls(creator->inputData);
     }
     hint->setTextFormat(Qt::PlainText);
     hint->setWordWrap(true);
@@ -36,14 +50,26 @@ XmlPage::XmlPage(ApplicationWindow* owner)
 void XmlPage::initializePage()
 {
     for (const auto& creator : appRegistry->definitions.projectCreators) {
-        creator->panel->hide();
+        if (creator->panel) {
+            creator->panel->hide();
+        }
     }
     if (!window->projectCreator) {
         return;
     }
-    window->projectCreator->panel->show();
+    panelOf(*window->projectCreator).show();
     load(window->projectCreator->inputData);
     valueChanged();
+}
+
+QGroupBox& XmlPage::panelOf(ProjectCreatorData& creator)
+{
+    if (!creator.panel) {
+        creator.panel =
+            InputPanel::BuildGroup(creator.inputData, creator.name, 1, window->isORVC, [this] { valueChanged(); });
+        grid->addWidget(creator.panel, 0, 0);
+    }
+    return *creator.panel;
 }
 
 void XmlPage::load(const ArgumentDefinitions& definitions)

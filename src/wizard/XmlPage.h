@@ -4,7 +4,10 @@
 #include "definitions/InputValues.h"
 #include "wizard/AppPage.h"
 
+class QGridLayout;
+class QGroupBox;
 class QLabel;
+struct ProjectCreatorData;
 
 /// The input fields that the chosen conversion type declares.
 class XmlPage : public AppPage
@@ -24,12 +27,15 @@ public:
     QString Value(ArgumentDefinition& definition, bool store) const;
 
 private:
+    /// The fields of a conversion type, built when it is first chosen.
+    QGroupBox& panelOf(ProjectCreatorData& creator);
     void storeValues();
     void load(const ArgumentDefinitions& definitions);
     void valueChanged();
     FieldState fieldState(const ArgumentDefinition& definition) const;
     const ArgumentDefinition* firstIncomplete() const;
 
+    QGridLayout* grid;
     /// Says which field Next is waiting for.
     QLabel* hint;
 };
