@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 #include "console/Console.h"
 #include "Failure.h"
+#include "ToolFolders.h"
 #include "Tools.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
 {
     Console::open();
     const QCoreApplication application(argc, argv);
+    ToolFolders::appendToPath();
     try {
         const CommandLine line = CommandLine::read(QCoreApplication::arguments());
         return line.tool == Tool::Job ? runJob(line) : runTool(line);

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// Where cppcheck and Ninja are found.
+namespace ToolFolders {
+
+/// Windows: appends to this program's PATH the folders that installers choose and do not enter there, and the program's
+/// own. Elsewhere packages install into PATH, and nothing is done.
+void appendToPath();
+
+} // namespace ToolFolders

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "ToolFolders.h"
+
+void ToolFolders::appendToPath() {}
