@@ -35,7 +35,7 @@ struct BatchSuite : Installation
                "</messagepersonality></compliance_module>"
                "<applicationPage><application name=\"Some\\ntool\"><exe>" +
                tool + "</exe><exeargs>-n %Q</exeargs></application></applicationPage>");
-        QFile::link(QStringLiteral(PROGRAM), path(u"bin/ProjectCreation"_s));
+        placeProgram(QStringLiteral(PROGRAM), u"bin/ProjectCreation"_s);
     }
     ProgramResult run(const QStringList& arguments, Variables variables = {}) const
     {

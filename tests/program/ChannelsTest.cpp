@@ -89,7 +89,7 @@ private:
         suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" +
                      suite.writeScript(u"convert"_s, script).toUtf8() +
                      "</exe><exeargs>%PF</exeargs></projectCreator>");
-        QFile::link(QStringLiteral(PROGRAM), suite.path(u"bin/ProjectCreation"_s));
+        suite.placeProgram(QStringLiteral(PROGRAM), u"bin/ProjectCreation"_s);
     }
 };
 

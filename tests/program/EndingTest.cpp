@@ -66,7 +66,7 @@ wait
                                "a.c\nEndContainedFilesMarker\nEndOfProjectFile\n";
         const QString project = suite.write(u"work/p.prj"_s, old, QDateTime::fromSecsSinceEpoch(1'000'000'000));
         const auto temporaryFiles = [] { return QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}).size(); };
-        QFile::link(QStringLiteral(PROGRAM), suite.path(u"bin/ProjectCreation"_s));
+        suite.placeProgram(QStringLiteral(PROGRAM), u"bin/ProjectCreation"_s);
         QProcess program;
         const QString task = launches ? u"-run T -c"_s : u"-type T -overwrite"_s;
         program.start(suite.path(u"bin/ProjectCreation"_s),

@@ -94,6 +94,16 @@ void BoxAnswers::answer()
     }
 }
 
+namespace {
+
+// Windows' line ends are no difference that a test looks for.
+QString textOf(const QByteArray& output)
+{
+    return QString::fromUtf8(output).replace("\r\n"_L1, "\n"_L1);
+}
+
+} // namespace
+
 ProgramResult runProgram(const QString& name, const QStringList& arguments, const Variables& variables,
                          const QString& folder)
 {
@@ -111,6 +121,6 @@ ProgramResult runProgram(const QString& name, const QStringList& arguments, cons
     program.setWorkingDirectory(folder);
     program.start(name, arguments);
     const bool ended = program.waitForFinished() && program.exitStatus() == QProcess::NormalExit;
-    return {ended ? program.exitCode() : -1, QString::fromUtf8(program.readAllStandardOutput()),
-            QString::fromUtf8(program.readAllStandardError())};
+    return {ended ? program.exitCode() : -1, textOf(program.readAllStandardOutput()),
+            textOf(program.readAllStandardError())};
 }

@@ -26,6 +26,15 @@ QString TestFolder::writeScript(const QString& name, const QByteArray& body) con
     return script;
 }
 
+void TestFolder::placeProgram(const QString& program, const QString& name) const
+{
+#ifdef Q_OS_WIN
+    QFile::copy(program, path(name + u".exe"_s));
+#else
+    QFile::link(program, path(name));
+#endif
+}
+
 QByteArray TestFolder::read(const QString& name) const
 {
     QFile file(QDir::isAbsolutePath(name) ? name : path(name));

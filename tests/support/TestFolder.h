@@ -15,6 +15,8 @@ public:
     QString write(const QString& name, const QByteArray& contents, const QDateTime& time = {}) const;
     /// The same for a shell script that can be run.
     QString writeScript(const QString& name, const QByteArray& body) const;
+    /// Puts a program there under that name (on Windows with ".exe"): as a link, or as a copy where links are rare.
+    void placeProgram(const QString& program, const QString& name) const;
     /// Reads a file below the folder, or anywhere by its absolute path; empty when it can not be read.
     QByteArray read(const QString& name) const;
     /// True while the process with this id, as a script wrote it, runs.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
 #include "WizardDriver.h"
@@ -8,9 +9,7 @@
 #include <QFile>
 #include <QTextBlock>
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -206,14 +205,10 @@ private Q_SLOTS:
         convert(wizard, suite);
         QTRY_VERIFY(wizard.output().contains("running"_L1));
         // As on a full disk, what was opened can not be written.
-        rlimit old = {};
-        ::getrlimit(RLIMIT_FSIZE, &old);
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit none = {0, old.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &none);
+        auto disk = std::make_unique<FullDisk>();
         suite.write(u"convert.go"_s, {});
         QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
-        ::setrlimit(RLIMIT_FSIZE, &old);
+        disk.reset();
         const BoxAnswers boxes({QMessageBox::Ok});
         wizard.button(u"Show the &conversion's output..."_s).click();
         QCOMPARE(boxes.texts.size(), 1);
