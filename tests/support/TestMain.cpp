@@ -77,7 +77,10 @@ int runTest(QObject& test, const QStringList& arguments, const QStringList& skip
     qsizetype left = 0;
     for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
         const QString name = QString::fromLatin1(type.method(i).name());
-        if (type.method(i).methodType() != QMetaMethod::Slot || name.endsWith("_data"_L1)) {
+        const QMetaMethod method = type.method(i);
+        static const QStringList frame{u"initTestCase"_s, u"cleanupTestCase"_s, u"init"_s, u"cleanup"_s};
+        if (method.methodType() != QMetaMethod::Slot || method.access() != QMetaMethod::Private ||
+            name.endsWith("_data"_L1) || frame.contains(name)) {
             continue;
         }
         if (skipped.contains(QLatin1StringView(type.className()) + "::"_L1 + name)) {
