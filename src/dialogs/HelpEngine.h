@@ -16,7 +16,8 @@ class HelpEngine
 public:
     HelpEngine() = default;
     virtual ~HelpEngine() = default;
-    Q_DISABLE_COPY_MOVE(HelpEngine)
+    HelpEngine(const HelpEngine&) = delete;
+    HelpEngine& operator=(const HelpEngine&) = delete;
 
     /// Nothing when the file is no collection, or when collections can not be read.
     static std::unique_ptr<HelpEngine> open(const QString& collection);

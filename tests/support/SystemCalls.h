@@ -32,9 +32,9 @@ private:
 
 // What tests ask of a Unix system, as far as Windows has it: rights keep nobody out, as with root; a signal ends the
 // process at once; files can always be written; nothing makes a pipe with a name in a folder.
-constexpr int SIGHUP = 1;
-constexpr int SIGQUIT = 3;
-constexpr int SIGKILL = 9;
+#define SIGHUP 1
+#define SIGQUIT 3
+#define SIGKILL 9
 
 int geteuid();
 int kill(pid_t process, int signal);
