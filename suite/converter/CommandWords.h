@@ -29,6 +29,7 @@ public:
     /// The words from the first to before the last with what separates them.
     QByteArrayView piece(qsizetype first, qsizetype last) const;
     QStringList texts() const;
+    bool isUtf8() const { return QByteArrayView(buffer).isValidUtf8(); }
 
 private:
     void splitPlain(QByteArrayView command);

@@ -33,6 +33,12 @@ bool isShell(const QString& name)
     return name == "sh"_L1 || name == "bash"_L1 || name == "dash"_L1;
 }
 
+// Without a compiler's name these take the usual one.
+bool knowsCompiler(const QString& name)
+{
+    return name == "distcc"_L1 || name == "icecc"_L1;
+}
+
 // Options and settings that belong to a launcher.
 qsizetype afterLauncher(const QStringList& words, qsizetype at)
 {
@@ -62,10 +68,15 @@ qsizetype CompilerName::find(const QStringList& words)
     while (at < words.size()) {
         const QString name = programName(words[at]);
         qsizetype next = at;
+        if (knowsCompiler(name) && words.value(at + 1).startsWith(u'-')) {
+            return at;
+        }
         if (isLauncher(name)) {
             next = afterLauncher(words, at + 1);
         } else if (isShell(name) && isLauncher(programName(words.value(at + 1)))) {
             next = at + 1;
+        } else if (isShell(name) && words.value(at + 1) == "-c"_L1) {
+            next = at + 2;
         } else if (name == "cmake"_L1 && words.value(at + 1) == "-E"_L1) {
             next = afterCMake(words, at);
         } else if (name == "cmd"_L1 && words.value(at + 1).compare("/c"_L1, Qt::CaseInsensitive) == 0) {

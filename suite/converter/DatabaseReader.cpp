@@ -189,7 +189,13 @@ void DatabaseReader::finishEntry()
         }
     }
     const QString path = Paths::absolute(directoryPath(windows), QString::fromUtf8(entry.file), windows);
+    const qsizetype before = knownSettings.size();
     const int number = settings(windows);
+    const bool isNew = knownSettings.size() != before;
+    if (path.contains(QChar::ReplacementCharacter) || (isNew && !entry.arguments.isUtf8())) {
+        collector.complain(u"an entry is not UTF-8, and some letters are lost"_s,
+                           u"%1: entry %2, %3"_s.arg(place()).arg(index + 1).arg(path));
+    }
     const int target = collector.targetNumber(targetOfOutput(QString::fromUtf8(entry.objectFile())));
     collector.add(path, number, target);
 }

@@ -2,6 +2,8 @@
 #include "OptionWords.h"
 #include "ResponseFiles.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -13,24 +15,53 @@ CommandWords::Rules fileRules(CompilerName::Family family, bool windows)
     return isWindowsProgram ? CommandWords::Rules::Windows : CommandWords::Rules::ResponseFile;
 }
 
-// cmd.exe gets its command in one piece.
-QStringList programWords(const BuildCommand& command)
+bool isOperator(const QString& word)
 {
-    const qsizetype at = CompilerName::find(command.arguments);
-    if (at > 0 && at + 1 == command.arguments.size() && command.arguments[at].contains(u' ') && command.windows) {
-        CommandWords words;
-        words.split(command.arguments[at].toUtf8(), CommandWords::Rules::Windows);
-        const QStringList inner = words.texts();
+    return word == "&&"_L1 || word == "||"_L1 || word == ";"_L1 || word == "|"_L1;
+}
+
+// Of several commands in a row the one that compiles.
+QStringList compilation(const QStringList& words, QStringList& problems)
+{
+    auto begin = words.cbegin();
+    while (begin != words.cend()) {
+        const auto end = std::find_if(begin, words.cend(), isOperator);
+        const QStringList one(begin, end);
+        if (one.size() == words.size()) {
+            break;
+        }
+        if (CompilerName::family(one.value(CompilerName::find(one))) != CompilerName::Family::Other) {
+            return one;
+        }
+        if (one.value(0) == "cd"_L1) {
+            problems += one.join(u' ') + u" (that the command changes its folder)"_s;
+        }
+        begin = end == words.cend() ? end : end + 1;
+    }
+    return words;
+}
+
+// A shell gets its command in one piece, and so does cmd.exe.
+QStringList programWords(const BuildCommand& command, QStringList& problems)
+{
+    const QStringList words = compilation(command.arguments, problems);
+    const qsizetype at = CompilerName::find(words);
+    const bool isOneText = at > 0 && at < words.size() && words[at].contains(u' ');
+    const bool inShell = isOneText && words[at - 1] == "-c"_L1;
+    if (inShell || (isOneText && at + 1 == words.size() && command.windows)) {
+        CommandWords text;
+        text.split(words[at].toUtf8(), inShell ? CommandWords::Rules::Shell : CommandWords::Rules::Windows);
+        const QStringList inner = compilation(text.texts(), problems);
         return inner.mid(CompilerName::find(inner));
     }
-    return command.arguments.mid(at);
+    return words.mid(at);
 }
 
 } // namespace
 
 OptionWords::OptionWords(const BuildCommand& command)
 {
-    QStringList rest = programWords(command);
+    QStringList rest = programWords(command, problems);
     if (!rest.isEmpty() && !rest.first().startsWith(u'-')) {
         compiler = rest.takeFirst();
         family = CompilerName::family(compiler);
@@ -40,7 +71,7 @@ OptionWords::OptionWords(const BuildCommand& command)
     }
     ResponseFiles files(command.directory, fileRules(family, command.windows), command.windows);
     unwrap(files.expand(rest));
-    problems = files.problems();
+    problems += files.problems();
 }
 
 void OptionWords::unwrap(const QStringList& wrapped)

@@ -57,6 +57,7 @@ private Q_SLOTS:
         row("response file that is a folder", u"cc @. -c a.c"_s, u": it is not a file"_s);
         row("response file in itself", u"cc @self.rsp -c a.c"_s, u"@self.rsp: the file leads back to itself"_s);
         row("open quote in a response file", u"cc @open.rsp -c a.c"_s, u"@open.rsp: a quote is not closed"_s);
+        row("other folder", u"cd sub && cc -c a.c"_s, u"cd sub (that the command changes its folder)"_s);
         row("open quote", u"cc -DX='a -c a.c"_s, u"has a quote that is not closed, in 1 places, the first is"_s);
     }
 
@@ -141,6 +142,9 @@ private:
         row("cross compiler", u"/opt/x/aarch64-linux-gnu-gcc-12 -std=c11 -DA -c a.c"_s, c11);
         row("CMake's launcher", u"cmake -E __run_co_compile --tidy=t;-DT --source=a.c -- cc -std=c11 -DA -c a.c"_s,
             c11);
+        row("launcher that knows the compiler", u"distcc -DA -std=c11 -c a.c"_s, c11);
+        row("shell", u"/bin/sh -c 'gcc -DA -std=c11 -c a.c'"_s, c11);
+        row("commands in a row", u"rm -f x && gcc -DA -std=c11 -c a.c && echo -DB || cp -DC"_s, c11);
         row("MSVC behind a launcher", u"sccache cl.exe /DA /Ii -c a.c"_s, u"-d A | -i \"~/i\""_s);
         row("clang-cl with a version", u"clang-cl-17 /DA -c a.c"_s, u"-d A"_s);
     }

@@ -140,6 +140,17 @@ private Q_SLOTS:
         }
     }
 
+    void tellsWhatIsNoText()
+    {
+        const ConvertedProject project;
+        project.write(u"work/a.c"_s, "");
+        project.write(u"work/db.json"_s,
+                      "[{\"file\": \"\xE4.c\"}, {\"file\": \"a.c\", \"command\": \"cc -DA=\xE4 a.c\"}]");
+        const ProgramResult result = project.convertDatabase({u"--options"_s, u"keep-missing"_s});
+        QVERIFY2(result.output.contains("is not UTF-8, and some letters are lost, in 2 places"_L1),
+                 qPrintable(result.output));
+    }
+
     void refusesANameThatNoValueCanHold()
     {
         const ConvertedProject project;
