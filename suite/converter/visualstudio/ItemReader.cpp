@@ -173,7 +173,11 @@ QStringList ItemReader::pathsOf(const XmlElement& element, const QString& attrib
         if (part.startsWith("@("_L1)) {
             context.notices.leaveOut(file, element.line, u"\"%1\""_s.arg(part), u"it is made by the build itself"_s);
         } else if (Wildcards::isIn(part)) {
-            paths += Wildcards::find(context.projectFolder, part, context.paths);
+            const QStringList found = Wildcards::find(context.projectFolder, part, context.paths);
+            if (found.isEmpty() && attribute == "Include"_L1) {
+                context.notices.leaveOut(file, element.line, u"\"%1\""_s.arg(part), u"no file matches"_s);
+            }
+            paths += found;
         } else {
             paths += context.paths.find(context.projectFolder, part);
         }

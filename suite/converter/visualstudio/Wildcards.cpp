@@ -6,8 +6,6 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -43,7 +41,7 @@ QStringList Wildcards::find(const QString& folder, const QString& pattern, PathF
     QString wanted = pattern;
     wanted.replace(u'\\', u'/');
     const qsizetype fixedEnd = wanted.lastIndexOf(u'/', wanted.indexOf(wild));
-    const QString top = paths.find(folder, wanted.first(std::max(fixedEnd, qsizetype(0))) + u'/');
+    const QString top = paths.find(folder, fixedEnd < 0 ? u"."_s : wanted.first(fixedEnd) + u'/');
     if (QDir(top).isRoot()) {
         return {};
     }

@@ -162,7 +162,7 @@ EndGlobal
 </ItemGroup>)xml"));
     place.write(u"work/Lib/lib.vcxproj"_s,
                 project(R"xml(<PropertyGroup><ProjectName>TheLib</ProjectName><CharacterSet>MultiByte</CharacterSet>
-<PlatformToolset>ClangCL</PlatformToolset></PropertyGroup><ItemGroup><ClCompile Include="lib.cpp">
+<PlatformToolset>ClangCL</PlatformToolset></PropertyGroup><ItemGroup><ClCompile Include="**\*.cpp">
 <CompileAs>CompileAsC</CompileAs><ExceptionHandling>false</ExceptionHandling><RuntimeTypeInfo>false</RuntimeTypeInfo>
 <PreprocessorDefinitions>$(ConfigurationName);$(OutDir)$(TargetName);%(PreprocessorDefinitions)</PreprocessorDefinitions>
 </ClCompile></ItemGroup>)xml"));
@@ -399,7 +399,7 @@ private Q_SLOTS:
         row("list of the build", u"p.vcxproj"_s, project("<ItemGroup><ClCompile Include=\"@(Made)\"/></ItemGroup>"),
             u"~/p.vcxproj:3: \"@(Made)\" is left out"_s);
         row("whole disk", u"p.vcxproj"_s, project("<ItemGroup><ClCompile Include=\"\\**\\*.cpp\"/></ItemGroup>"),
-            u"p: 0 sources"_s);
+            u"~/p.vcxproj:3: \"\\**\\*.cpp\" is left out: no file matches"_s);
         const QByteArray head = "Microsoft Visual Studio Solution File, Format Version 12.00\n";
         row("no solution", u"s.sln"_s, "\n\nProject\n", u"~/s.sln:3: not a solution"_s, true);
         row("empty solution", u"s.sln"_s, "", u"~/s.sln:1: not a solution"_s, true);
