@@ -66,6 +66,10 @@ QString describeNinja(const QString& folder, const QString& projectFile)
 {
     const QString place = QFileInfo(folder).absoluteFilePath();
     if (!isNinjaFolder(place)) {
+        if (QFileInfo(place + u"/CMakeCache.txt"_s).isFile()) {
+            throw Failure{u"%1: cmake has not written down the commands of the build here. Run "
+                          "\"cmake -DCMAKE_EXPORT_COMPILE_COMMANDS=ON %1\" and convert again."_s.arg(place)};
+        }
         throw Failure{
             u"%1: has neither a compile_commands.json nor a build.ninja. Name the build folder of CMake, Meson "
             "or Ninja."_s.arg(place)};

@@ -258,6 +258,9 @@ private Q_SLOTS:
         const Answer other(place, {.buildFolder = place.path(u"work/out"_s)});
         QVERIFY2(other.error.startsWith("~/out: has neither a compile_commands.json nor a build.ninja"_L1),
                  qPrintable(other.error));
+        place.write(u"work/out/CMakeCache.txt"_s, "");
+        const QString configured = Answer(place, {.buildFolder = place.path(u"work/out"_s)}).error;
+        QVERIFY2(configured.contains("-DCMAKE_EXPORT_COMPILE_COMMANDS=ON ~/out"_L1), qPrintable(configured));
     }
 
     void touchesNoForeignFolder()
