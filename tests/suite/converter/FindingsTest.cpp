@@ -4,12 +4,15 @@
 #include "TestRows.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -31,13 +34,55 @@ QStringList shortened(const QString& messages, const QString& folder)
 }
 
 // As for a build description: what a build does not define is not tried out.
-QStringList findings(const QStringList& arguments, const QString& source, const QString& folder)
+QStringList findings(const QStringList& arguments, const QString& folder)
 {
     const QStringList all = QStringList{u"--quiet"_s, u"--max-configs=1"_s, u"--suppress=toomanyconfigs"_s,
                                         u"--enable=warning,style,performance,portability"_s,
                                         u"--template={file}:{line}:{column}: {severity}: {message} [{id}]"_s} +
                             arguments;
-    return shortened(runProgram(u"cppcheck"_s, all + QStringList{source}, {}, folder).errors, folder);
+    return shortened(runProgram(u"cppcheck"_s, all, {}, folder).errors, folder);
+}
+
+void writeFiles(const ConvertedProject& project, const Files& files)
+{
+    for (auto file = files.cbegin(); file != files.cend(); ++file) {
+        project.write(u"work/"_s + file.key(), file.value());
+    }
+}
+
+// The suite's analyser is told by its name which one it is.
+ProgramResult analyse(const ConvertedProject& project)
+{
+    const QString program = project.path(u"bin/orvcpp"_s);
+    return QFile::link(QStringLiteral(ANALYSER), program)
+               ? runProgram(program, {u"-prj"_s, project.work(u"p.prj"_s)}, {}, project.path(u"work"_s))
+               : ProgramResult{.status = -1, .output = {}, .errors = program + u": can not be linked"_s};
+}
+
+QStringList foundIn(const ConvertedProject& project, const QString& source)
+{
+    const QString output = project.partOf(source).outputDir + u'/' + QFileInfo(source).fileName() + u".err"_s;
+    return shortened(QString::fromUtf8(project.read(output)), project.path(u"work"_s));
+}
+
+// A project of Visual Studio whose two configurations define SIZE otherwise.
+QByteArray visualStudioProject(const QByteArray& sources, const QByteArray& debugSize)
+{
+    QByteArray text = "<Project><ItemGroup Label=\"ProjectConfigurations\">";
+    QByteArray settings;
+    for (const auto& [name, size] : {std::pair<QByteArray, QByteArray>("Debug", debugSize), {"Release", "0"}}) {
+        text += "<ProjectConfiguration Include=\"" + name + "|x64\"><Configuration>" + name +
+                "</Configuration><Platform>x64</Platform></ProjectConfiguration>";
+        settings += "<ItemDefinitionGroup Condition=\"'$(Configuration)|$(Platform)'=='" + name +
+                    "|x64'\"><ClCompile><PreprocessorDefinitions>SIZE=" + size +
+                    ";%(PreprocessorDefinitions)</PreprocessorDefinitions><AdditionalIncludeDirectories>..\\inc"
+                    "</AdditionalIncludeDirectories></ClCompile></ItemDefinitionGroup>";
+    }
+    text += "</ItemGroup>" + settings + "<ItemGroup>";
+    for (const QByteArray& source : sources.split(' ')) {
+        text += "<ClCompile Include=\"" + source + "\" />";
+    }
+    return text + "</ItemGroup></Project>\n";
 }
 
 } // namespace
@@ -93,9 +138,7 @@ private Q_SLOTS:
         QFETCH(const QStringList, commands);
         QFETCH(const QStringList, perFile);
         const ConvertedProject project;
-        for (auto file = files.cbegin(); file != files.cend(); ++file) {
-            project.write(u"work/"_s + file.key(), file.value());
-        }
+        writeFiles(project, files);
         QJsonArray entries;
         for (const QString& command : commands) {
             entries.append(QJsonObject{{u"directory"_s, project.path(u"work"_s)},
@@ -105,21 +148,60 @@ private Q_SLOTS:
         project.writeDatabase(QJsonDocument(entries).toJson());
         const ProgramResult result = project.convertDatabase();
         QVERIFY2(result.status == 0, qPrintable(result.errors));
-        // The suite's analyser is told by its name which one it is.
-        QVERIFY(QFile::link(QStringLiteral(ANALYSER), project.path(u"bin/orvcpp"_s)));
-        const ProgramResult analysis = runProgram(project.path(u"bin/orvcpp"_s), {u"-prj"_s, project.work(u"p.prj"_s)},
-                                                  {}, project.path(u"work"_s));
+        const ProgramResult analysis = analyse(project);
         QVERIFY2(analysis.status == 0, qPrintable(analysis.errors));
         qsizetype found = 0;
         for (qsizetype i = 0; i < commands.size(); ++i) {
             const QString source = commands[i].section(u' ', -1);
-            const QString output = project.partOf(source).outputDir + u'/' + source + u".err"_s;
             const QStringList expected =
-                findings(perFile[i].split(u' ', Qt::SkipEmptyParts), source, project.path(u"work"_s));
-            QCOMPARE(shortened(QString::fromUtf8(project.read(output)), project.path(u"work"_s)), expected);
+                findings(perFile[i].split(u' ', Qt::SkipEmptyParts) + QStringList{source}, project.path(u"work"_s));
+            QCOMPARE(foundIn(project, source), expected);
             found += expected.size();
         }
         QVERIFY(found > 0);
+    }
+
+    void findsTheSameInVisualStudio_data()
+    {
+        const TestRows<QString, QString, qsizetype> row("description", "configuration", "count");
+        row("solution", u"All.sln"_s, u"Debug"_s, 9);
+        row("project in its other configuration", u"app/app.vcxproj"_s, u"Release"_s, 5);
+    }
+
+    void findsTheSameInVisualStudio()
+    {
+        QFETCH(const QString, description);
+        QFETCH(const QString, configuration);
+        const ConvertedProject project;
+        const QByteArray usesSize = "#include \"n.h\"\nint f() { int v[2] = {0, 1}; return v[SIZE]; }\n";
+        writeFiles(project,
+                   {{u"app/a.cpp"_s, usesSize + "#ifdef _WIN32\nint w() { int v[1] = {0}; return v[N]; }\n#endif\n"},
+                    {u"app/b.c"_s, "int k(void) { int class = 1, v[1] = {0}; return v[class]; }\n"},
+                    {u"lib/l.cpp"_s, usesSize + "int g() { int v[3] = {0, 1, 2}; return v[N]; }\n"},
+                    {u"inc/n.h"_s, "#define N 2\n"},
+                    {u"app/app.vcxproj"_s, visualStudioProject("a.cpp b.c", "2")},
+                    {u"lib/lib.vcxproj"_s, visualStudioProject("l.cpp", "3")},
+                    {u"All.sln"_s,
+                     "\nMicrosoft Visual Studio Solution File, Format Version 12.00\n"
+                     "Project(\"{1}\") = \"app\", \"app\\app.vcxproj\", \"{2}\"\nEndProject\n"
+                     "Project(\"{1}\") = \"lib\", \"lib\\lib.vcxproj\", \"{3}\"\nEndProject\nGlobal\nEndGlobal\n"}});
+        const ProgramResult result = project.convert(
+            {u"--visual-studio"_s, project.work(description), u"--configuration"_s, configuration, u"--platform"_s,
+             u"x64"_s, u"--compiler-macros"_s, u"1"_s, u"--options"_s, u"sub-projects"_s});
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
+        const ProgramResult analysis = analyse(project);
+        QVERIFY2(analysis.status == 0, qPrintable(analysis.errors));
+        QStringList found;
+        for (const ConvertedProject::Part& part : project.parts()) {
+            for (const QString& file : part.files) {
+                found += foundIn(project, file);
+            }
+        }
+        found.sort();
+        QCOMPARE(found, findings({u"--project="_s + project.work(description),
+                                  u"--project-configuration=%1|x64"_s.arg(configuration)},
+                                 project.path(u"work"_s)));
+        QTEST(found.size(), "count");
     }
 };
 
