@@ -43,6 +43,10 @@ void CompileDatabase::read(const QString& fileName, SourceCollector& collector)
     if (file.error() != QFileDevice::NoError) {
         throw Failure{u"%1: can not be read (%2)."_s.arg(fileName, file.errorString())};
     }
+    // A project or a list of files, say, named by mistake: generating it again would not help.
+    if (result.Code() == rapidjson::kParseErrorValueInvalid && !handler.inArray()) {
+        handler.refuse();
+    }
     if (result.IsError()) {
         throw Failure{u"%1: %2 Generate the compilation database again."_s.arg(
             FilePosition::columnOf(fileName, result.Offset()),

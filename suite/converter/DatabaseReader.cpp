@@ -40,6 +40,11 @@ void DatabaseReader::badEntry(const QString& reason) const
         u"%1: entry %2 %3. Generate the compilation database again."_s.arg(place()).arg(index + 1).arg(reason)};
 }
 
+void DatabaseReader::refuse() const
+{
+    throw Failure{u"%1:1:1: not a compilation database: the file must hold a JSON array."_s.arg(name)};
+}
+
 void DatabaseReader::enter()
 {
     if (++depth > deepest) {
@@ -50,7 +55,7 @@ void DatabaseReader::enter()
 bool DatabaseReader::scalar(bool isValue)
 {
     if (depth == 0) {
-        throw Failure{u"%1:1:1: not a compilation database: the file must hold a JSON array."_s.arg(name)};
+        refuse();
     }
     if (depth == 1) {
         entry.line = stream.line();

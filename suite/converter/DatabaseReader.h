@@ -15,6 +15,11 @@ class DatabaseReader
 public:
     DatabaseReader(const QString& fileName, DatabaseStream& source, SourceCollector& result);
 
+    /// Whether what was read so far begins as a database does.
+    bool inArray() const { return depth > 0; }
+    /// For a file of another kind.
+    [[noreturn]] void refuse() const;
+
     // NOLINTBEGIN(readability-identifier-naming): RapidJSON's names.
     bool Null() { return scalar(false); }
     bool Bool(bool) { return scalar(true); }

@@ -54,6 +54,7 @@ private Q_SLOTS:
         row("binary", QByteArray("\0\1\2", 3), u"db.json:1:1: "_s);
         row("something behind it", "[]\n[]", u"db.json:2:1: "_s);
         row("UTF-16", QByteArray("\xFF\xFE[\0]\0", 6), u"is written in UTF-16"_s);
+        row("another kind of file", "<Project/>\n", u"must hold a JSON array"_s);
         row("not an array", "{\"file\": \"a.c\"}", u"must hold a JSON array"_s);
         row("entry without file", "[{\"file\": \"a.c\"},\n{\"directory\": \"/\"}]",
             u"db.json:2: entry 2 has no \"file\""_s);
