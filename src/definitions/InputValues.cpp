@@ -45,6 +45,14 @@ void rememberField(ArgumentDefinition& definition, const FieldState& field)
     }
 }
 
+void rememberFields(const ArgumentDefinitions& definitions, const FieldSource& source)
+{
+    for (const auto& definition : definitions) {
+        rememberField(*definition, source(*definition));
+        rememberFields(definition->children, source);
+    }
+}
+
 template <typename Visit>
 void forEachField(const ArgumentDefinitions& definitions, Visit&& visit)
 {
@@ -80,11 +88,7 @@ void InputValues::remember(ArgumentDefinition& definition, const FieldSource& so
 {
     definition.value = value(definition, source);
     rememberField(definition, source(definition));
-    if (definition.inputType == InputType::Group) {
-        for (const auto& child : definition.children) {
-            rememberField(*child, source(*child));
-        }
-    }
+    rememberFields(definition.children, source);
 }
 
 const ArgumentDefinition* InputValues::firstIncomplete(const ArgumentDefinitions& definitions,

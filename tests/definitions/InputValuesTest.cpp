@@ -69,9 +69,9 @@ private Q_SLOTS:
         states[u"d"_s] = entered(u"hidden"_s, false);
         QCOMPARE(InputValues::value(group, source), u"-a,E+f"_s);
         InputValues::remember(group, source);
-        // What is nested deeper is joined but not remembered.
+        // Of what is nested deeper the fields are remembered, too.
         QCOMPARE(remembered(group), u"-a,E+f|1|0|||"_s);
-        QCOMPARE(remembered(inner), u"||"_s);
+        QCOMPARE(remembered(inner), u"|E|1"_s);
     }
 
     void switches_data()
