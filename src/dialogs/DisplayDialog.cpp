@@ -19,6 +19,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QUrl>
@@ -56,7 +58,10 @@ DisplayDialog::DisplayDialog(AppRegistry& owner, const QString& title, int displ
     setAttribute(Qt::WA_QuitOnClose, false);
     registry->openDialogs += this;
     setWindowTitle(title);
-    setMinimumSize(width, height);
+    // Its title and its buttons have to stay on a small screen.
+    const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    setMinimumSize(QSize(width, height).boundedTo(screen()->availableSize() - frame));
+    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
     auto* grid = new QGridLayout(this);
     createView(*grid);
     createButtons(*grid);

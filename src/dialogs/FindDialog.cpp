@@ -19,6 +19,8 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -37,7 +39,7 @@ public:
         sinceUpdate.start();
     }
 
-    ~Progress() override { list.addItems(found); }
+    void listRest() { list.addItems(std::exchange(found, {})); }
 
     void folderEntered(const QString& absolutePath) override { folder = absolutePath; }
 
@@ -67,8 +69,7 @@ private:
     void update()
     {
         label.setText(FindDialog::tr("searching:") + folder);
-        list.addItems(found);
-        found.clear();
+        listRest();
         // Lets the window paint and the user press Stop; a value that stays the same does not.
         if (dialog.value() == count) {
             QCoreApplication::processEvents();
@@ -94,6 +95,7 @@ FindDialog::FindDialog(const QString& searchStart, QWidget* parent)
     , searchLocation(searchStart)
     , filesLabel(new QLabel)
     , resultList(new QListWidget)
+    , resultLabel(new QLabel)
     , locationEdit(new QLineEdit(searchLocation))
     , searchButton(new QPushButton(tr("&Search")))
     , okButton(new QPushButton(tr("&Ok")))
@@ -101,6 +103,7 @@ FindDialog::FindDialog(const QString& searchStart, QWidget* parent)
     setWindowTitle(tr("Search for file"));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
+    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
     setMinimumWidth(500);
     labelFiles(nameFilters.join(u' '));
     filesLabel->setTextFormat(Qt::PlainText);
@@ -139,7 +142,8 @@ void FindDialog::layOut()
     grid->addWidget(filesLabel, 2, 0, 1, 2);
     grid->addWidget(resultList, 3, 0, 1, 2);
     grid->addWidget(searchButton, 4, 0, 1, 2);
-    grid->addWidget(buttons, 5, 0, 1, 2);
+    grid->addWidget(resultLabel, 5, 0, 1, 2);
+    grid->addWidget(buttons, 6, 0, 1, 2);
     searchButton->setDefault(true);
 }
 
@@ -210,6 +214,7 @@ void FindDialog::findButtonClicked()
         return;
     }
     resultList->clear();
+    resultLabel->clear();
     search(location.filePath());
 }
 
@@ -229,6 +234,10 @@ void FindDialog::search(const QString& folder)
     dialog.setLabel(label);
     Progress progress(dialog, *label, *resultList);
     FileSearch(nameFilters).run(folder, progress);
+    progress.listRest();
+    const qsizetype count = resultList->count();
+    const QString result = count == 0 ? tr("Nothing found.") : tr("Files found: %1.").arg(count);
+    resultLabel->setText(dialog.wasCanceled() ? result + u' ' + tr("The search was stopped.") : result);
 }
 
 // Enter picks the file in the list; elsewhere it presses the button that has the focus, or Search.

@@ -49,6 +49,8 @@ private:
     QString searchLocation;
     QLabel* filesLabel;
     QListWidget* resultList;
+    /// How many files were found, and whether the search came to its end.
+    QLabel* resultLabel;
     QLineEdit* locationEdit;
     QPushButton* searchButton;
     QPushButton* okButton;

@@ -738,6 +738,18 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
 <context>
     <name>FindDialog</name>
     <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Files found: %1.</source>
+        <translation>Gefundene Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>The search was stopped.</source>
+        <translation>Die Suche wurde angehalten.</translation>
+    </message>
+    <message>
         <source>searching:</source>
         <translation>suche in:</translation>
     </message>
@@ -1117,6 +1129,10 @@ Möchten Sie diese Anwendung schließen?</translation>
 </context>
 <context>
     <name>SelectFileWidgets</name>
+    <message>
+        <source>There is no file or folder of this name.</source>
+        <translation>Es gibt keine Datei und keinen Ordner dieses Namens.</translation>
+    </message>
     <message>
         <source>Edit the specified file</source>
         <translation>Die angegebene Datei bearbeiten</translation>
