@@ -5,9 +5,10 @@
 #include "dialogs/MessageBox.h"
 #include "personality/FileScans.h"
 #include "wizard/ApplicationWindow.h"
+#include "wizard/PageScrollArea.h"
 #include "wizard/PageSequence.h"
+#include "wizard/QuietCombo.h"
 
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QGridLayout>
@@ -38,7 +39,7 @@ ConfPage::ConfPage(ApplicationWindow* owner)
     , compilerField(tr("Select Compiler Configuration Options"), patternOf(ConfigurationKind::Compiler), fieldOptions())
     , analyserField(tr("Select Project Configuration Options"), patternOf(ConfigurationKind::Analyser), fieldOptions())
     , messageField(tr("Select Message Configuration Options"), patternOf(ConfigurationKind::Message), fieldOptions())
-    , complianceCombo(new QComboBox)
+    , complianceCombo(new QuietCombo)
     , fields{Field{ConfigurationKind::Message, messageField, new QLabel(tr("Message Configuration File:"))},
              Field{ConfigurationKind::Analyser, analyserField, new QLabel(tr("Project Configuration Template File:"))},
              Field{ConfigurationKind::Compiler, compilerField, new QLabel(tr("Compiler Configuration File:"))}}
@@ -54,7 +55,7 @@ ConfPage::ConfPage(ApplicationWindow* owner)
     hint->setTextFormat(Qt::PlainText);
     hint->setWordWrap(true);
 
-    auto* grid = new QGridLayout(this);
+    auto* grid = new QGridLayout(PageScrollArea::fill(*this));
     grid->addWidget(modules, 0, 0);
     grid->addWidget(files, 1, 0);
     grid->addWidget(hint, 2, 0);

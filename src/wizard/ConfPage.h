@@ -7,9 +7,9 @@
 #include <array>
 
 enum class ConfigurationKind;
-class QComboBox;
 class QLabel;
 class QLayout;
+class QuietCombo;
 
 /// The three configuration files of the new project, and the compliance modules that preset them.
 class ConfPage : public AppPage
@@ -47,7 +47,7 @@ private:
     SelectFileWidgets compilerField;
     SelectFileWidgets analyserField;
     SelectFileWidgets messageField;
-    QComboBox* complianceCombo;
+    QuietCombo* complianceCombo;
     /// In the order in which they are asked for.
     std::array<Field, 3> fields;
     QString noneText;

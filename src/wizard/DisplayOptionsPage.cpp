@@ -35,6 +35,7 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     connect(buttonGroup, &QWidget::customContextMenuRequested, this, &DisplayOptionsPage::showButtonMenu);
     scrollArea->setWidget(buttonGroup);
     scrollArea->setWidgetResizable(true);
+    scrollArea->setFocusPolicy(Qt::NoFocus);
     // The page before is left at once, with all that its program said.
     outputButton->setAutoDefault(false);
     connect(outputButton, &QPushButton::clicked, owner, &ApplicationWindow::showConversionOutput);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/InputPanel.h"
 #include "dialogs/PlainText.h"
+#include "wizard/FieldEdit.h"
 #include "wizard/SelectFileWidgets.h"
 
 #include <QButtonGroup>
@@ -21,16 +22,37 @@ int oneToFive(int columns)
     return columns < 1 || columns > 5 ? 1 : columns;
 }
 
+/// What a control shows of a name: one long name would widen all of the page. Its tool tip holds the whole.
+QString shownName(const QString& name, const QWidget& control)
+{
+    constexpr int longest = 40;
+    const QFontMetrics metrics = control.fontMetrics();
+    return PlainText::withoutMnemonic(metrics.elidedText(name, Qt::ElideMiddle, longest * metrics.averageCharWidth()));
+}
+
+QString toolTipOf(const ArgumentDefinition& definition, const QWidget& control)
+{
+    const bool isCut = shownName(definition.displayName, control) != PlainText::withoutMnemonic(definition.displayName);
+    const QString name = isCut ? definition.displayName : QString();
+    return PlainText::toolTip(name.isEmpty() || definition.hoverHelp.isEmpty() ? name + definition.hoverHelp
+                                                                               : name + u'\n' + definition.hoverHelp);
+}
+
 /// Builds the fields of one box; its radio buttons exclude each other.
 class GroupBuilder
 {
 public:
     GroupBuilder(const QString& title, bool forC, const std::function<void()>& onChange)
-        : box(new QGroupBox(PlainText::withoutMnemonic(title)))
+        : box(new QGroupBox)
         , grid(new QGridLayout(box))
         , isC(forC)
         , changed(onChange)
     {
+        box->setTitle(shownName(title, *box));
+        box->setAccessibleName(title);
+        if (box->title() != PlainText::withoutMnemonic(title)) {
+            box->setToolTip(PlainText::toolTip(title));
+        }
     }
 
     QGroupBox* build(const ArgumentDefinitions& definitions, int columns)
@@ -62,13 +84,15 @@ private:
         row->setContentsMargins(0, 0, 0, 0);
         QLabel* label = nullptr;
         if (!definition.isSwitch()) {
-            label = new QLabel(PlainText::withoutMnemonic(definition.displayName));
+            label = new QLabel;
+            label->setText(shownName(definition.displayName, *label));
             label->setTextFormat(Qt::PlainText);
+            label->setToolTip(toolTipOf(definition, *label));
             row->addWidget(label);
             definition.widgets += label;
         }
         QWidget* control = definition.isSwitch() ? buildSwitch(definition, *row) : buildText(definition, *row);
-        control->setToolTip(PlainText::toolTip(definition.hoverHelp));
+        control->setToolTip(toolTipOf(definition, *control));
         control->setAccessibleName(definition.displayName);
         definition.widgets += control;
         if (label) {
@@ -81,7 +105,7 @@ private:
     {
         const QString& preset = definition.DefaultValue(isC);
         if (definition.inputType == InputType::Edit) {
-            definition.lineEdit = new QLineEdit(preset);
+            definition.lineEdit = new FieldEdit(preset);
             row.addWidget(definition.lineEdit);
         } else {
             const bool isFile = definition.inputType == InputType::File;
@@ -107,7 +131,7 @@ private:
 
     QWidget* buildSwitch(ArgumentDefinition& definition, QHBoxLayout& row)
     {
-        const QString text = PlainText::withoutMnemonic(definition.displayName);
+        const QString text = shownName(definition.displayName, *box);
         if (definition.inputType == InputType::Check) {
             definition.button = new QCheckBox(text);
         } else {

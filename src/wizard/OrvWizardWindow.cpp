@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QShowEvent>
+#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -39,15 +40,26 @@ void focusChecked(const QWidget& focused)
     }
 }
 
-// A position may have been stored for a screen that is gone or was larger.
+// A position and a size may have been stored for a screen that is gone or was larger, and a page may want more room
+// than there is. The frame is not known before the window is shown.
 void fitOnScreen(QWidget& window)
 {
-    const QScreen* screen = QGuiApplication::screenAt(window.pos());
+    const QScreen* screen = QGuiApplication::screenAt(window.geometry().center());
     const QRect available = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    window.resize(window.size().boundedTo(available.size()));
-    const QRect frame = window.frameGeometry();
-    window.move(std::clamp(frame.left(), available.left(), qMax(available.left(), available.right() - frame.width())),
-                std::clamp(frame.top(), available.top(), qMax(available.top(), available.bottom() - frame.height())));
+    const QSize frame = window.frameGeometry().size() - window.size();
+    const int title = std::max(frame.height(), window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    const QSize most = available.size() - QSize(frame.width(), title);
+    // A maximised window is the window manager's to fit.
+    if (!window.isMaximized() && window.size() != window.size().boundedTo(most)) {
+        window.resize(window.size().boundedTo(most));
+    }
+    const QPoint last(available.right() + 1 - window.width() - frame.width(),
+                      available.bottom() + 1 - window.height() - title);
+    const QPoint place(std::clamp(window.x(), available.left(), std::max(available.left(), last.x())),
+                       std::clamp(window.y(), available.top(), std::max(available.top(), last.y())));
+    if (!window.isMaximized() && place != window.pos()) {
+        window.move(place);
+    }
 }
 
 } // namespace
@@ -76,6 +88,9 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     connect(this, &QWizard::helpRequested, this, &OrvWizardWindow::ShowHelp);
     connect(this, &QDialog::finished, this, &OrvWizardWindow::Finished);
     connect(this, &QWizard::currentIdChanged, this, &OrvWizardWindow::focusPage);
+    // Queued: by then the page has its size.
+    connect(
+        this, &QWizard::currentIdChanged, this, [this] { fitOnScreen(*this); }, Qt::QueuedConnection);
     resize(appRegistry->windowSize);
     move(appRegistry->windowPos);
 }

@@ -5,9 +5,12 @@
 #include "dialogs/FindDialog.h"
 #include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
+#include "wizard/FieldEdit.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QGroupBox>
@@ -15,11 +18,42 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <QToolTip>
+#include <QUrl>
 
 #include <initializer_list>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Characters of a path that must be seen to recognise it.
+constexpr int usableLength = 20;
+
+/// Underlines its letter only while the shortcut works: with the focus in its own field.
+class FieldButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const QWidget* focused = QApplication::focusWidget();
+        if (!focused || !parentWidget()->isAncestorOf(focused)) {
+            option.text.remove(u'&');
+        }
+        QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
+    }
+};
+
+} // namespace
 
 SelectFileWidgets::SelectFileWidgets(const QString& fieldCaption, const QString& fileFilter, const Options& options)
     : emitEditSignal(options.emitEditSignal)
@@ -30,11 +64,14 @@ SelectFileWidgets::SelectFileWidgets(const QString& fieldCaption, const QString&
     , startFolder(options.startFolder)
 {
     historyCombo = new QComboBox(frameWidget);
-    edit = new QLineEdit(frameWidget);
+    edit = new FieldEdit(frameWidget);
+    // With several columns the buttons would take all the room.
+    edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * usableLength);
     normalColour = edit->palette().brush(edit->foregroundRole()).color();
     createButtons();
     layOut(options);
     connect(edit, &QLineEdit::textChanged, this, &SelectFileWidgets::ValChanged);
+    connect(edit, &QLineEdit::editingFinished, this, &SelectFileWidgets::takeForeignForm);
     connect(editButton, &QPushButton::clicked, this, qOverload<>(&SelectFileWidgets::EditFile));
     connect(browseButton, &QPushButton::clicked, this, &SelectFileWidgets::GetAFile);
     connect(findButton, &QPushButton::clicked, this, &SelectFileWidgets::FindAFile);
@@ -53,14 +90,16 @@ void SelectFileWidgets::createButtons()
     editButton->setToolTip(tr("Edit the specified file"));
     editButton->setAccessibleName(tr("Edit") + u": "_s + caption);
     editButton->setEnabled(false);
-    browseButton = new QPushButton(tr("&Browse..."), frameWidget);
+    browseButton = new FieldButton(tr("&Browse..."), frameWidget);
     browseButton->setToolTip(tr("Browse the file directory structure to locate the required file"));
-    findButton = new QPushButton(tr("&Find..."), frameWidget);
+    findButton = new FieldButton(tr("&Find..."), frameWidget);
     findButton->setToolTip(tr("Perform a search on the file directory structure to locate the required file"));
     for (QPushButton* button : {browseButton, findButton}) {
         button->setAccessibleName(button->text().remove(u'&').remove(u"..."_s) + u": "_s + caption);
         button->setShortcut(QKeySequence());
     }
+    connect(qApp, &QApplication::focusChanged, browseButton, qOverload<>(&QWidget::update));
+    connect(qApp, &QApplication::focusChanged, findButton, qOverload<>(&QWidget::update));
     for (QWidget* widget : std::initializer_list<QWidget*>{edit, editButton, browseButton, findButton}) {
         widget->installEventFilter(this);
     }
@@ -113,6 +152,7 @@ void SelectFileWidgets::SetValue(const QString& text)
 void SelectFileWidgets::SetReadOnly(bool readOnly)
 {
     edit->setReadOnly(readOnly);
+    updateLook();
     editButton->setVisible(!readOnly);
     browseButton->setVisible(!readOnly);
     findButton->setVisible(!readOnly);
@@ -123,9 +163,32 @@ void SelectFileWidgets::ValChanged(const QString& text)
     Q_EMIT ValueChanged(text);
     editButton->setEnabled(!text.isEmpty());
     valid = QFile::exists(text.trimmed());
+    updateLook();
+}
+
+// Colour is never the only sign.
+void SelectFileWidgets::updateLook()
+{
     QPalette palette;
     palette.setBrush(QPalette::All, edit->foregroundRole(), QBrush(valid ? normalColour : QColor(Qt::red)));
+    if (edit->isReadOnly()) {
+        palette.setBrush(QPalette::Base, palette.brush(QPalette::Window));
+    }
     edit->setPalette(palette);
+    reason = valid || edit->text().isEmpty() ? QString() : tr("There is no file or folder of this name.");
+    edit->setAccessibleDescription(reason);
+}
+
+// What a shell or a file manager calls a path.
+void SelectFileWidgets::takeForeignForm()
+{
+    const QString text = edit->text().trimmed();
+    const QUrl url(text, QUrl::StrictMode);
+    if (text.startsWith("file://"_L1) && url.isLocalFile()) {
+        edit->setText(QDir::toNativeSeparators(url.toLocalFile()));
+    } else if (text == u'~' || text.startsWith("~/"_L1)) {
+        edit->setText(QDir::toNativeSeparators(QDir::homePath() + text.mid(1)));
+    }
 }
 
 void SelectFileWidgets::GetAFile()
@@ -175,9 +238,33 @@ QString SelectFileWidgets::browseStart() const
     return edit->text().isEmpty() ? startFolder : edit->text();
 }
 
+// The tool tip goes on with what is wrong; a file that is dropped is its path.
+bool SelectFileWidgets::editFilter(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && !reason.isEmpty()) {
+        const QString help = edit->toolTip();
+        const QString line = Qt::mightBeRichText(help) ? u"<br>"_s : u"\n"_s;
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), help.isEmpty() ? reason : help + line + reason,
+                           edit);
+        return true;
+    }
+    if (event->type() != QEvent::Drop || edit->isReadOnly()) {
+        return false;
+    }
+    const QList<QUrl> urls = static_cast<QDropEvent*>(event)->mimeData()->urls();
+    if (urls.isEmpty() || !urls.first().isLocalFile()) {
+        return false;
+    }
+    SetValue(urls.first().toLocalFile());
+    return true;
+}
+
 // The shortcut is claimed before the window's own, then it arrives as a key press.
 bool SelectFileWidgets::eventFilter(QObject* object, QEvent* event)
 {
+    if (object == edit && editFilter(event)) {
+        return true;
+    }
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(object, event);
     }

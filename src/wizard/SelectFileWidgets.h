@@ -63,6 +63,9 @@ public Q_SLOTS:
 private:
     void createButtons();
     void layOut(const Options& options);
+    bool editFilter(QEvent* event);
+    void updateLook();
+    void takeForeignForm();
     void takeChosen(const QString& path);
     QPushButton* buttonFor(int key) const;
     QString browseStart() const;
@@ -80,6 +83,8 @@ private:
     QString caption;
     QString filter;
     QString startFolder;
+    /// What is wrong with the text, in words; empty when nothing is.
+    QString reason;
     QColor normalColour;
     bool valid = true;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/SetProductPage.h"
 #include "wizard/ApplicationWindow.h"
+#include "wizard/PageScrollArea.h"
 #include "wizard/PageSequence.h"
 
 #include <QGridLayout>
@@ -33,7 +34,7 @@ SetProductPage::SetProductPage(ApplicationWindow* owner)
     analysers->addWidget(cRadio);
     analysers->addWidget(cppRadio);
 
-    auto* grid = new QGridLayout(this);
+    auto* grid = new QGridLayout(PageScrollArea::fill(*this));
     grid->addWidget(explanationBox, 0, 0);
     grid->addWidget(analyserBox, 1, 0);
 

@@ -5,9 +5,11 @@
 #include "dialogs/MessageBox.h"
 #include "project/ProjectTarget.h"
 #include "wizard/ApplicationWindow.h"
+#include "wizard/FieldEdit.h"
+#include "wizard/PageScrollArea.h"
 #include "wizard/PageSequence.h"
+#include "wizard/QuietCombo.h"
 
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QGridLayout>
@@ -19,8 +21,8 @@ using namespace Qt::StringLiterals;
 StartPage::StartPage(ApplicationWindow* owner)
     : AppPage(owner, StartPageId)
     , location(tr("Select Directory"), tr("*"), {.selectFiles = false, .startFolder = QDir::currentPath()})
-    , nameEdit(new QLineEdit)
-    , typeCombo(new QComboBox)
+    , nameEdit(new FieldEdit)
+    , typeCombo(new QuietCombo)
     , errorLabel(new QLabel)
     , hint(new QLabel)
     , warnings(new QLabel)
@@ -38,7 +40,7 @@ StartPage::StartPage(ApplicationWindow* owner)
     location.lineEdit()->setAccessibleName(locationLabel->text());
     typeCombo->setAccessibleName(typeLabel->text());
 
-    auto* grid = new QGridLayout(this);
+    auto* grid = new QGridLayout(PageScrollArea::fill(*this));
     grid->addWidget(nameLabel, 0, 0, 1, 1);
     grid->addWidget(nameEdit, 0, 1, 1, 5);
     grid->addWidget(locationLabel, 1, 0, 1, 1);

@@ -4,9 +4,9 @@
 #include "wizard/AppPage.h"
 #include "wizard/SelectFileWidgets.h"
 
-class QComboBox;
 class QLabel;
 class QLineEdit;
+class QuietCombo;
 
 /// Name, folder and conversion type of the new project.
 class StartPage : public AppPage
@@ -29,7 +29,7 @@ private:
 
     SelectFileWidgets location;
     QLineEdit* nameEdit;
-    QComboBox* typeCombo;
+    QuietCombo* typeCombo;
     QLabel* errorLabel;
     /// Says what Next is waiting for.
     QLabel* hint;

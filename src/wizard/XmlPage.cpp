@@ -3,6 +3,7 @@
 #include "app/AppRegistry.h"
 #include "wizard/ApplicationWindow.h"
 #include "wizard/InputPanel.h"
+#include "wizard/PageScrollArea.h"
 #include "wizard/PageSequence.h"
 #include "wizard/SelectFileWidgets.h"
 
@@ -32,7 +33,7 @@ void forgetControls(const ArgumentDefinitions& definitions)
 
 XmlPage::XmlPage(ApplicationWindow* owner)
     : AppPage(owner, XmlPageId)
-    , grid(new QGridLayout(this))
+    , grid(new QGridLayout(PageScrollArea::fill(*this)))
     , hint(new QLabel)
 {
     setTitle(tr("Project Conversion Information"));

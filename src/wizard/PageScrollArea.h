@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QScrollArea>
+
+/// Holds the controls of a page that may outgrow the screen. It asks for the room that they need, up to a share of the
+/// screen that leaves the wizard's title and buttons theirs; what does not fit is scrolled, to the focus by itself.
+class PageScrollArea : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    /// Fills the page with an area; gives the widget in it that holds the page's controls.
+    static QWidget* fill(QWidget& page);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    explicit PageScrollArea(QWidget* parent);
+    QSize bounded(const QSize& wanted) const;
+    void showFocus(QWidget* focused);
+};

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "wizard/QuietCombo.h"
+#include "dialogs/PlainText.h"
+
+#include <QWheelEvent>
+
+namespace {
+
+constexpr int shownCharacters = 20;
+
+} // namespace
+
+QuietCombo::QuietCombo(QWidget* parent)
+    : QComboBox(parent)
+{
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(shownCharacters);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // The wheel does not give it the focus either.
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QComboBox::currentTextChanged, this,
+            [this](const QString& text) { setToolTip(PlainText::toolTip(text)); });
+}
+
+void QuietCombo::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus()) {
+        QComboBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}

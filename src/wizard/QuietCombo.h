@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QComboBox>
+
+/// A list of choices that long names do not widen, their tool tips hold the whole, and that the wheel changes only
+/// while it has the focus: on the way down a page it would choose something else.
+class QuietCombo : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit QuietCombo(QWidget* parent = nullptr);
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
