@@ -5,18 +5,23 @@
 #include "AnalysisResults.h"
 #include "BuildFile.h"
 #include "Failure.h"
+#include "IncludeScan.h"
 #include "Job.h"
+#include "OptionSet.h"
 #include "Reports.h"
 #include "ResultFile.h"
+#include "RunFile.h"
 #include "WholeProgram.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QLockFile>
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -29,19 +34,87 @@ void print(const QString& line)
     std::printf("%s\n", qUtf8Printable(line));
 }
 
-/// Ninja does not know of the metrics: they are missing on purpose where the analyser gave up.
-void forgetLostResults(const AnalysisPlan& plan)
+/// Ninja goes by the time of a unit's stamp. It knows neither with which options that was made, nor of headers that
+/// were not there, nor of the metrics, which are missing on purpose where the analyser gave up.
+class Stamps
 {
-    for (const AnalysisUnit& unit : plan.units) {
-        if (!unit.obstacle.isEmpty() || QFile::exists(unit.output + u".met"_s)) {
-            continue;
+public:
+    explicit Stamps(const AnalysisPlan& wholePlan)
+        : plan(wholePlan)
+    {
+    }
+
+    bool isTrue(const AnalysisUnit& unit, const UnitOptions& options)
+    {
+        QStringList lines =
+            QString::fromUtf8(ResultFile::read(plan.workFolder() + u'/' + Job::stampName(unit.folder))).split(u'\n');
+        if (lines.takeFirst() != options.file || scanOf(options.file).wouldFind(lines)) {
+            return false;
+        }
+        if (QFile::exists(unit.output + u".met"_s)) {
+            return true;
         }
         const QList<Finding> findings = readFindings(unit.output + u".err"_s);
-        if (std::ranges::none_of(findings, &Finding::isGivingUp) ||
-            std::ranges::any_of(findings, &Finding::isFailedRun)) {
+        return std::ranges::any_of(findings, &Finding::isGivingUp) &&
+               std::ranges::none_of(findings, &Finding::isFailedRun);
+    }
+
+private:
+    IncludeScan& scanOf(const QString& options)
+    {
+        const auto known = scans.find(options);
+        return known != scans.end()
+                   ? known->second
+                   : scans.emplace(options, OptionSet::fromFile(plan.workFolder() + u'/' + options).folders)
+                         .first->second;
+    }
+
+    const AnalysisPlan& plan;
+    std::map<QString, IncludeScan> scans;
+};
+
+/// The units to be analysed, by their place in the plan.
+QList<size_t> staleUnits(const AnalysisPlan& plan, const std::vector<UnitOptions>& options)
+{
+    Stamps stamps(plan);
+    QHash<QString, size_t> units;
+    for (size_t i = 0; i < plan.units.size(); ++i) {
+        const AnalysisUnit& unit = plan.units[i];
+        if (!unit.obstacle.isEmpty()) {
+            continue;
+        }
+        units.insert(unit.folder, i);
+        if (!stamps.isTrue(unit, options[i])) {
             QFile::remove(plan.workFolder() + u'/' + Job::stampName(unit.folder));
         }
     }
+    QList<size_t> stale;
+    if (!units.isEmpty()) {
+        const QStringList folders = NinjaRun::staleFolders(plan.workFolder());
+        for (const QString& folder : folders) {
+            stale += units.value(folder);
+        }
+    }
+    std::ranges::sort(stale);
+    return stale;
+}
+
+NinjaEnd runJobs(const AnalysisPlan& plan, const std::vector<UnitOptions>& options, const RunSettings& settings)
+{
+    const QList<size_t> units = staleUnits(plan, options);
+    if (units.isEmpty()) {
+        return NinjaEnd::Done;
+    }
+    writeRunFile(plan, options, units, QCoreApplication::applicationFilePath(), settings.usedJobs());
+    qsizetype done = 0;
+    return NinjaRun::run(plan.workFolder(), settings, [&](const QString& numbers) {
+        for (const QString& number : numbers.split(u' ', Qt::SkipEmptyParts)) {
+            print(u"[%1/%2] %3"_s.arg(++done)
+                      .arg(units.size())
+                      .arg(plan.shownName(plan.units.at(number.toULongLong()).source)));
+        }
+        std::fflush(stdout);
+    });
 }
 
 // The project tells what it was analysed with; its other lines stay as they are.
@@ -106,11 +179,6 @@ bool checkWholeProgram(const AnalysisPlan& plan)
     }
 }
 
-bool hasWork(const AnalysisPlan& plan)
-{
-    return std::ranges::any_of(plan.units, [](const AnalysisUnit& unit) { return unit.obstacle.isEmpty(); });
-}
-
 } // namespace
 
 AnalysisEnd analyse(AnalysisPlan& plan, const RunSettings& settings)
@@ -126,10 +194,8 @@ AnalysisEnd analyse(AnalysisPlan& plan, const RunSettings& settings)
                           ? u"%1 is being analysed already. Wait for that run, or stop it."_s.arg(plan.outputFolder)
                           : u"%1 can not be written. Make the folder writable."_s.arg(plan.workFolder())};
     }
-    writeBuildFile(plan, version, QCoreApplication::applicationFilePath());
-    forgetLostResults(plan);
-    std::fflush(stdout);
-    const NinjaEnd end = hasWork(plan) ? runNinja(plan.workFolder(), settings) : NinjaEnd::Done;
+    const std::vector<UnitOptions> options = writeBuildFile(plan, version, QCoreApplication::applicationFilePath());
+    const NinjaEnd end = runJobs(plan, options, settings);
     const bool isWhole = end == NinjaEnd::Stopped || checkWholeProgram(plan);
     if (end != NinjaEnd::Stopped) {
         noteAnalysis(plan, version);

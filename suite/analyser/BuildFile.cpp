@@ -2,6 +2,7 @@
 #include "BuildFile.h"
 #include "AnalysisPlan.h"
 #include "Job.h"
+#include "NinjaSyntax.h"
 #include "OptionSet.h"
 #include "ResultFile.h"
 
@@ -20,27 +21,6 @@ namespace {
 QString hashOf(const QByteArray& text)
 {
     return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().first(16));
-}
-
-/// Ninja gives its commands to a shell, but where there is none to the system as they are.
-QString shellQuoted(const QString& word)
-{
-#ifdef Q_OS_UNIX
-    return u'\'' + QString(word).replace(u'\'', u"'\\''"_s) + u'\'';
-#else
-    return u'"' + word + u'"';
-#endif
-}
-
-/// For the value of a variable.
-QString ninjaValue(QString text)
-{
-    return text.replace(u'$', u"$$"_s);
-}
-
-QString ninjaPath(const QString& path)
-{
-    return ninjaValue(path).replace(u' ', u"$ "_s).replace(u':', u"$:"_s);
 }
 
 /// The language by a file's ending as cppcheck sees it; what has none of these is the analyser's own language.
@@ -62,64 +42,57 @@ public:
     {
     }
 
-    void write()
+    std::vector<UnitOptions> write()
     {
-        text = u"ninja_required_version = 1.8\n\nrule analyse\n  command = "_s + launcher() +
-               ninjaValue(shellQuoted(program)) +
-               u" job $options $source $results $folder\n  description = $name\n  deps = gcc\n  depfile = $rule\n"_s;
+        std::vector<UnitOptions> options;
+        // What the options came to is told by the stamp's contents, and which sources share a process is no part of a
+        // source's own statement: so Ninja goes by the times of files alone.
+        text = u"ninja_required_version = 1.8\n\nrule analyse\n  command = "_s + NinjaSyntax::launcher() +
+               NinjaSyntax::value(NinjaSyntax::shellQuoted(program)) +
+               u" job $options $source $results $folder\n  description = $folder $name\n  depfile = $rule\n"
+               "  generator = 1\n"_s;
         for (const AnalysisUnit& unit : plan.units) {
+            options.push_back(unit.obstacle.isEmpty() ? optionSet(unit) : UnitOptions());
             if (unit.obstacle.isEmpty()) {
-                add(unit);
+                add(unit, options.back());
             }
         }
         ResultFile::writeChanged(plan.workFolder() + u"/build.ninja"_s, text.toUtf8());
+        return options;
     }
 
 private:
-    static QString launcher()
-    {
-#ifdef Q_OS_UNIX
-        return u"$$"_s + QLatin1StringView(launcherVariable) + u' ';
-#else
-        return ninjaValue(qEnvironmentVariable(launcherVariable)) + u' ';
-#endif
-    }
-
-    void add(const AnalysisUnit& unit)
+    void add(const AnalysisUnit& unit, const UnitOptions& options)
     {
         // A source that is gone when Ninja looks is the job's to tell, it does not end the run.
         if (!named.contains(unit.source)) {
             named.insert(unit.source);
-            text += u"\nbuild "_s + ninjaPath(unit.source) + u": phony"_s;
+            text += u"\nbuild "_s + NinjaSyntax::path(unit.source) + u": phony"_s;
         }
-        text += u"\nbuild "_s + ninjaPath(Job::stampName(unit.folder)) + u" | "_s + ninjaPath(unit.output + u".err"_s) +
-                u": analyse "_s + ninjaPath(unit.source);
-        const QStringList& inputs = plan.parts[unit.part].inputs;
-        if (!inputs.isEmpty()) {
-            text += u" |"_s;
-        }
-        for (const QString& input : inputs) {
-            text += u' ' + ninjaPath(input);
+        text += u"\nbuild "_s + NinjaSyntax::path(Job::stampName(unit.folder)) + u" | "_s +
+                NinjaSyntax::path(unit.output + u".err"_s) + u": analyse "_s + NinjaSyntax::path(unit.source);
+        text += u" | "_s + options.file;
+        for (const QString& input : plan.parts[unit.part].inputs) {
+            text += u' ' + NinjaSyntax::path(input);
         }
         const auto variable = [this](const QString& name, const QString& value) {
-            text += u"\n  "_s + name + u" = "_s + ninjaValue(value);
+            text += u"\n  "_s + name + u" = "_s + NinjaSyntax::value(value);
         };
-        variable(u"options"_s, shellQuoted(optionSet(unit)));
-        variable(u"source"_s, shellQuoted(unit.source));
-        variable(u"results"_s, shellQuoted(unit.output));
+        variable(u"options"_s, NinjaSyntax::shellQuoted(options.file));
+        variable(u"source"_s, NinjaSyntax::shellQuoted(unit.source));
+        variable(u"results"_s, NinjaSyntax::shellQuoted(unit.output));
         variable(u"folder"_s, unit.folder);
         variable(u"rule"_s, Job::dependencyName(unit.folder));
         variable(u"name"_s, plan.shownName(unit.source));
         text += u'\n';
     }
 
-    /// The name of the file with the unit's options; it changes with them, and so does the command.
-    QString optionSet(const AnalysisUnit& unit)
+    UnitOptions optionSet(const AnalysisUnit& unit)
     {
         const AnalysisOptions& options = plan.parts[unit.part].options;
         const bool isTold = !options.language.isEmpty() || tellsLanguage(unit.source);
-        QString& known = (isTold ? written : writtenWithLanguage)[unit.part];
-        if (known.isEmpty()) {
+        UnitOptions& known = (isTold ? written : writtenWithLanguage)[unit.part];
+        if (known.file.isEmpty()) {
             OptionSet set(options, version);
             set.forC = plan.isC;
             if (!isTold) {
@@ -131,8 +104,8 @@ private:
                 set.setHeader(header);
             }
             const QByteArray json = set.toJson();
-            known = u"options/"_s + hashOf(json) + u".json"_s;
-            ResultFile::writeChanged(plan.workFolder() + u'/' + known, json);
+            known = {u"options/"_s + hashOf(json) + u".json"_s, set.sharedArguments()};
+            ResultFile::writeChanged(plan.workFolder() + u'/' + known.file, json);
         }
         return known;
     }
@@ -142,13 +115,13 @@ private:
     const QString program;
     QString text;
     QSet<QString> named;
-    QHash<size_t, QString> written;
-    QHash<size_t, QString> writtenWithLanguage;
+    QHash<size_t, UnitOptions> written;
+    QHash<size_t, UnitOptions> writtenWithLanguage;
 };
 
 } // namespace
 
-void writeBuildFile(const AnalysisPlan& plan, const QString& version, const QString& program)
+std::vector<UnitOptions> writeBuildFile(const AnalysisPlan& plan, const QString& version, const QString& program)
 {
-    Writer(plan, version, program).write();
+    return Writer(plan, version, program).write();
 }

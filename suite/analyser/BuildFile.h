@@ -3,13 +3,21 @@
 
 #include <QString>
 
+#include <vector>
+
 struct AnalysisPlan;
 
-/// Writes what Ninja needs into the plan's work folder: build.ninja with one statement for each source, and the option
-/// sets that the jobs read. Files that have not changed keep their time. version is the analyser's, program this one's
-/// path. Throws a Failure when something can not be written.
-void writeBuildFile(const AnalysisPlan& plan, const QString& version, const QString& program);
+/// What a unit is analysed with.
+struct UnitOptions
+{
+    /// The file of its option set, below the work folder; its name changes with its contents.
+    QString file;
+    /// Units with the same text can be analysed by one process; empty: only alone.
+    QString shared;
+};
 
-/// The variable that holds what --launcher puts before every job. It is no part of the command that Ninja remembers, so
-/// another launcher analyses nothing again.
-inline constexpr char launcherVariable[] = "ORV_LAUNCHER";
+/// Writes what Ninja needs to tell which sources are to be analysed: build.ninja in the plan's work folder with one
+/// statement for each, and the option sets that the jobs read. Files that have not changed keep their time. version is
+/// the analyser's, program this one's path. Gives the options of each unit. Throws a Failure when something can not be
+/// written.
+std::vector<UnitOptions> writeBuildFile(const AnalysisPlan& plan, const QString& version, const QString& program);

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -75,6 +77,11 @@ QList<Include> includesOf(const QString& path)
     return result;
 }
 
+QString beside(const QString& includer, const QString& name)
+{
+    return QDir::cleanPath(includer.left(includer.lastIndexOf(u'/') + 1) + name);
+}
+
 } // namespace
 
 IncludeScan::IncludeScan(QStringList searchedFolders)
@@ -90,7 +97,9 @@ QStringList IncludeScan::filesOf(const QStringList& files)
         const QList<Include> includes = includesOf(found[i]);
         for (const Include& include : includes) {
             const QString path = find(include.name, include.isQuoted, found[i]);
-            if (!path.isEmpty() && !seen.contains(path)) {
+            if (path.isEmpty()) {
+                noteMissing(include.name, include.isQuoted, found[i]);
+            } else if (!seen.contains(path)) {
                 seen += path;
                 found += path;
             }
@@ -99,15 +108,28 @@ QStringList IncludeScan::filesOf(const QStringList& files)
     return found;
 }
 
+void IncludeScan::noteMissing(const QString& name, bool isQuoted, const QString& includer)
+{
+    missingFiles += name;
+    if (isQuoted && !QDir::isAbsolutePath(name)) {
+        missingFiles += beside(includer, name);
+    }
+}
+
+bool IncludeScan::wouldFind(const QStringList& missing)
+{
+    return std::ranges::any_of(missing, [this](const QString& name) { return !find(name, false, {}).isEmpty(); });
+}
+
 QString IncludeScan::find(const QString& name, bool isQuoted, const QString& includer)
 {
     if (QDir::isAbsolutePath(name)) {
         return isFile(name) ? name : QString();
     }
     if (isQuoted) {
-        const QString beside = QDir::cleanPath(includer.left(includer.lastIndexOf(u'/') + 1) + name);
-        if (isFile(beside)) {
-            return beside;
+        const QString path = beside(includer, name);
+        if (isFile(path)) {
+            return path;
         }
     }
     for (const QString& folder : std::as_const(folders)) {

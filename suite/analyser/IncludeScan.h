@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -16,13 +17,19 @@ public:
 
     /// The file itself and all that it includes, directly or not; absolute.
     QStringList filesOf(const QStringList& files);
+    /// What filesOf() found no file for: names to look for in the folders, and absolute paths.
+    QStringList missing() const { return {missingFiles.cbegin(), missingFiles.cend()}; }
+    /// True when there is a file for one of these by now, such as a header that a build has written since.
+    bool wouldFind(const QStringList& missing);
 
 private:
+    void noteMissing(const QString& name, bool isQuoted, const QString& includer);
     QString find(const QString& name, bool isQuoted, const QString& includer);
     bool isFile(const QString& path);
 
     QStringList folders;
     QHash<QString, bool> knownFiles;
+    QSet<QString> missingFiles;
 };
 
 /// "target: files" as make and Ninja read it.

@@ -5,83 +5,19 @@
 #include "IncludeScan.h"
 #include "OptionSet.h"
 #include "ResultFile.h"
+#include "SourceRuns.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray database(const Job::Order& order, const OptionSet& options, const QString& moreDefines)
-{
-    const QJsonObject entry{{u"directory"_s, QFileInfo(order.source).absolutePath()},
-                            {u"file"_s, order.source},
-                            {u"command"_s, options.command + moreDefines}};
-    return QJsonDocument(QJsonArray{entry}).toJson(QJsonDocument::Compact);
-}
-
-/// cppcheck would take an earlier result for this one's: it does not see that libraries or the platform changed.
-void removeLeftovers(const QDir& folder)
-{
-    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
-    for (const QString& name : names) {
-        const QString path = folder.filePath(name);
-        if (path != Job::stampName(folder.path()) && path != Job::dependencyName(folder.path())) {
-            QFile::remove(path);
-        }
-    }
-}
-
-/// cppcheck calls its record by the source, up to the first colon in its list.
-void nameRecord(const QString& folder)
-{
-    const QByteArray list = ResultFile::read(folder + u"/files.txt"_s);
-    const QString name = QFile::decodeName(list.left(list.indexOf(':')));
-    const QString record = Job::recordName(folder);
-    QFile::remove(record);
-    QFile::rename(folder + u'/' + name, record);
-}
-
-/// True when the analyser saw no code: then it may have passed over an #error, which it tells only when a macro is
-/// defined.
-bool sawNothing(const QString& folder)
-{
-    const QByteArray record = ResultFile::read(Job::recordName(folder));
-    return !record.contains("<FileInfo") && !record.contains("<error");
-}
-
-AnalyserRun analyseOnce(const Job::Order& order, const OptionSet& options, const QString& moreDefines)
-{
-    const QString project = order.folder + u"/compile_commands.json"_s;
-    ResultFile::writeScratch(project, database(order, options, moreDefines));
-    const QStringList fixed{u"--quiet"_s, u"--inline-suppr"_s,
-                            u"--template={file}:{line}:{column}: {severity}: {message} [{id}]"_s,
-                            u"--cppcheck-build-dir="_s + order.folder, u"--project="_s + project};
-    AnalyserRun run = AnalyserRun::start(fixed + options.arguments, QDir::currentPath(), Analyser::timeLimit());
-    nameRecord(order.folder);
-    return run;
-}
-
-AnalyserRun analyse(const Job::Order& order, const OptionSet& options)
-{
-    removeLeftovers(QDir(order.folder));
-    AnalyserRun run = analyseOnce(order, options, {});
-    const bool mayHideAnError = !options.command.contains(" -D"_L1) && run.end == AnalyserRun::End::Normal;
-    if (mayHideAnError && run.findings.isEmpty() && sawNothing(order.folder)) {
-        run = analyseOnce(order, options, u" -D__ORV__"_s);
-    }
-    // Of one source these are a part only; the check of the whole program finds them all.
-    run.findings.removeIf([](const Finding& finding) { return finding.id.startsWith("ctu"_L1); });
-    return run;
-}
 
 QString failedRunId(AnalyserRun::End end)
 {
@@ -117,13 +53,93 @@ void writeResults(const Job::Order& order, const OptionSet& options, const Analy
     }
 }
 
-int fail(const Job::Order& order, const OptionSet& options, AnalyserRun& run, const QString& id)
+void fail(const SourceRuns::Task& task, AnalyserRun& run, const QString& id)
 {
-    run.findings.prepend({order.source, 0, 0, Severity::Error, run.reason, id});
-    writeResults(order, options, run);
-    std::fprintf(stderr, "%s: %s\n", qPrintable(order.source), qPrintable(run.reason));
-    return 1;
+    run.findings.prepend({task.order.source, 0, 0, Severity::Error, run.reason, id});
+    writeResults(task.order, *task.options, run);
+    std::fprintf(stderr, "%s: %s\n", qPrintable(task.order.source), qPrintable(run.reason));
 }
+
+class Runner
+{
+public:
+    int run(const std::vector<Job::Order>& orders)
+    {
+        std::vector<SourceRuns::Task> tasks;
+        for (const Job::Order& order : orders) {
+            attempt([&] {
+                const SourceRuns::Task task{order, &optionsIn(order.options)};
+                if (canBegin(task)) {
+                    tasks.push_back(task);
+                }
+            });
+        }
+        std::vector<AnalyserRun> runs;
+        if (tasks.size() > 1) {
+            attempt([&] { runs = SourceRuns::together(tasks); });
+        }
+        for (size_t i = 0; i < tasks.size(); ++i) {
+            attempt([&] { finish(tasks[i], i < runs.size() ? runs[i] : SourceRuns::alone(tasks[i])); });
+        }
+        return status;
+    }
+
+private:
+    /// What keeps one source from its results must not cost the others theirs.
+    template <typename Work>
+    void attempt(Work&& work)
+    {
+        try {
+            work();
+        } catch (const Failure& failure) {
+            std::fprintf(stderr, "%s\n", qUtf8Printable(failure.text));
+            status = 1;
+        }
+    }
+
+    const OptionSet& optionsIn(const QString& file)
+    {
+        const auto known = sets.find(file);
+        return known != sets.end() ? known->second : sets.emplace(file, OptionSet::fromFile(file)).first->second;
+    }
+
+    bool canBegin(const SourceRuns::Task& task)
+    {
+        if (!QFileInfo(task.order.source).isFile()) {
+            AnalyserRun run;
+            run.end = AnalyserRun::End::Failed;
+            run.reason = u"the source does not exist any more"_s;
+            fail(task, run, QLatin1StringView(FailedRun::missing));
+            status = 1;
+            return false;
+        }
+        if (!QDir().mkpath(task.order.folder)) {
+            throw Failure{u"The folder %1 can not be made. Make its parent writable."_s.arg(task.order.folder)};
+        }
+        return true;
+    }
+
+    void finish(const SourceRuns::Task& task, AnalyserRun result)
+    {
+        if (result.end != AnalyserRun::End::Normal) {
+            fail(task, result, failedRunId(result.end));
+            status = 1;
+            return;
+        }
+        const Job::Order& order = task.order;
+        IncludeScan scan(task.options->folders);
+        const QStringList files = scan.filesOf(QStringList{order.source} + task.options->forced);
+        ResultFile::writeScratch(Job::dependencyName(order.folder),
+                                 dependencyRule(Job::stampName(order.folder), files));
+        writeResults(order, *task.options, result);
+        ResultFile::writeScratch(Job::stampName(order.folder),
+                                 (QStringList{order.options} + scan.missing()).join(u'\n').toUtf8());
+    }
+
+    /// References to what it holds stay good.
+    std::map<QString, OptionSet> sets;
+    int status = 0;
+};
 
 } // namespace
 
@@ -142,25 +158,7 @@ QString Job::dependencyName(const QString& folder)
     return folder + u"/headers.d"_s;
 }
 
-int Job::run(const Order& order)
+int Job::run(const std::vector<Order>& orders)
 {
-    const OptionSet options = OptionSet::fromFile(order.options);
-    AnalyserRun result;
-    if (!QFileInfo(order.source).isFile()) {
-        result.end = AnalyserRun::End::Failed;
-        result.reason = u"the source does not exist any more"_s;
-        return fail(order, options, result, QLatin1StringView(FailedRun::missing));
-    }
-    if (!QDir().mkpath(order.folder)) {
-        throw Failure{u"The folder %1 can not be made. Make its parent writable."_s.arg(order.folder)};
-    }
-    result = analyse(order, options);
-    if (result.end != AnalyserRun::End::Normal) {
-        return fail(order, options, result, failedRunId(result.end));
-    }
-    const QStringList files = IncludeScan(options.folders).filesOf(QStringList{order.source} + options.forced);
-    ResultFile::writeScratch(dependencyName(order.folder), dependencyRule(stampName(order.folder), files));
-    writeResults(order, options, result);
-    ResultFile::writeScratch(stampName(order.folder), {});
-    return 0;
+    return Runner().run(orders);
 }

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
-/// The analysis of one source, which Ninja starts: a process of its own, so that it can run anywhere.
+#include <QStringList>
+#include <vector>
+
+/// The analysis of some sources, which Ninja starts: a process of its own, so that it can run anywhere.
 namespace Job {
 
-/// What the build file says after "job".
+/// What the build file says after "job", for each source.
 struct Order
 {
     /// The file of the option set.
@@ -20,12 +22,13 @@ struct Order
     QString folder;
 };
 
-/// Analyses it; the results are there afterwards whole or not at all. 0: done, also when the analyser gave up; else the
-/// next run has to try again, and the reason was printed. Throws a Failure when the results can not be written.
-int run(const Order& order);
+/// Analyses them, together where it can; the results are there afterwards whole or not at all. 0: done, also where the
+/// analyser gave up; else the next run has to try again what failed, and the reasons were printed.
+int run(const std::vector<Order>& orders);
 
-/// The files in a unit's folder: one that is newer than all that the unit depends on, what cppcheck left for the check
-/// of the whole program, and the dependency rule.
+/// The files in a unit's folder: one that is newer than all that the unit depends on, with the option set's name and
+/// then IncludeScan::missing() as its lines; what cppcheck left for the check of the whole program; the dependency
+/// rule.
 QString stampName(const QString& folder);
 QString recordName(const QString& folder);
 QString dependencyName(const QString& folder);

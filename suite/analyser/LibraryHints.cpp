@@ -46,6 +46,22 @@ constexpr std::array hints = {
     Hint{"openmp", "_OPENMP", ""},
 };
 
+/// What Qt calls a system that the compiler predefines one of these for.
+struct SystemMacros
+{
+    const char* ofCompiler;
+    const char* ofQt;
+};
+
+constexpr std::array systemMacros = {
+    SystemMacros{"__linux__", "Q_OS_LINUX"},
+    SystemMacros{"__APPLE__", "Q_OS_DARWIN Q_OS_MACOS"},
+    SystemMacros{"__FreeBSD__", "Q_OS_FREEBSD"},
+    SystemMacros{"__unix__|__linux__|__APPLE__", "Q_OS_UNIX"},
+    SystemMacros{"_WIN32|WIN32|_WIN64", "Q_OS_WIN Q_OS_WIN32"},
+    SystemMacros{"_WIN64", "Q_OS_WIN64"},
+};
+
 QString nameOf(const QString& define)
 {
     return define.left(define.indexOf(u'=')).section(u'(', 0, 0);
@@ -125,14 +141,29 @@ QStringList LibraryHints::libraries(const AnalysisOptions& options)
 
 QStringList LibraryHints::defines(const AnalysisOptions& options)
 {
-    const QSet<QString> folders = folderNames(options);
-    if (macroNames(options).contains(u"Q_MOC_OUTPUT_REVISION"_s)) {
+    const QSet<QString> macros = macroNames(options);
+    QStringList result;
+    const auto add = [&](const QString& define) {
+        if (!macros.contains(nameOf(define))) {
+            result += define;
+        }
+    };
+    if (!libraries(options).contains(u"qt"_s)) {
         return {};
     }
-    if (folders.contains(u"qt6"_s)) {
-        return {u"Q_MOC_OUTPUT_REVISION=68"_s};
+    const QSet<QString> folders = folderNames(options);
+    if (folders.contains(u"qt6"_s) || folders.contains(u"qt5"_s)) {
+        add(folders.contains(u"qt6"_s) ? u"Q_MOC_OUTPUT_REVISION=68"_s : u"Q_MOC_OUTPUT_REVISION=67"_s);
     }
-    return folders.contains(u"qt5"_s) ? QStringList{u"Q_MOC_OUTPUT_REVISION=67"_s} : QStringList{};
+    add(u"Q_DISABLE_COPY_MOVE(Class)="_s);
+    for (const SystemMacros& system : systemMacros) {
+        if (matches(macros, system.ofCompiler)) {
+            for (const QString& name : QString::fromLatin1(system.ofQt).split(u' ')) {
+                add(name);
+            }
+        }
+    }
+    return result;
 }
 
 QString LibraryHints::platform(const AnalysisOptions& options)

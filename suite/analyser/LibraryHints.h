@@ -12,8 +12,8 @@ namespace LibraryHints {
 /// Names of cppcheck's library configurations: those that the options name, then those that they show.
 QStringList libraries(const AnalysisOptions& options);
 
-/// Macros of a library's own headers, which are not read, that sources stop without: those that moc writes end at an
-/// #error where the headers of Qt have not told its revision.
+/// Macros that Qt's own headers would define, which are not read: the name of the system, moc's revision, without which
+/// what it writes ends at an #error, and one that the analyser's configuration of Qt has not heard of.
 QStringList defines(const AnalysisOptions& options);
 
 /// cppcheck's name of the platform; empty when nothing tells, which means the machine's own.

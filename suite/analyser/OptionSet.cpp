@@ -10,6 +10,8 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -110,6 +112,15 @@ void OptionSet::addFolders(const AnalysisOptions& options)
     if (!options.standard.isEmpty()) {
         command += u" -std="_s + options.standard;
     }
+}
+
+QString OptionSet::sharedArguments() const
+{
+    const bool isAlone = std::ranges::any_of(arguments, [](const QString& word) {
+        return word.startsWith("--addon="_L1) ||
+               (word.startsWith("--enable="_L1) && (word.contains("information"_L1) || word.contains("missing"_L1)));
+    });
+    return isAlone ? QString() : arguments.join(u'\n');
 }
 
 QByteArray OptionSet::toJson() const

@@ -23,6 +23,10 @@ public:
     /// The file that header() was written to.
     void setHeader(const QString& path) { arguments += QStringLiteral("--include=") + path; }
 
+    /// The words on cppcheck's command line in one text, for sets whose sources one process may analyse. Empty where it
+    /// may not: what addons and the checks of a whole run say belongs to no source then.
+    QString sharedArguments() const;
+
     QByteArray toJson() const;
     /// Throws a Failure when the file is none of ours.
     static OptionSet fromFile(const QString& path);

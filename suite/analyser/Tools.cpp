@@ -208,8 +208,14 @@ int runTool(const CommandLine& line)
 
 int runJob(const CommandLine& line)
 {
-    if (line.words.size() != 4) {
+    constexpr qsizetype wordsOfOrder = 4;
+    const QStringList& words = line.words;
+    if (words.isEmpty() || words.size() % wordsOfOrder != 0) {
         throw Failure{u"A job is started by Ninja only."_s};
     }
-    return Job::run({line.words[0], line.words[1], line.words[2], line.words[3]});
+    std::vector<Job::Order> orders;
+    for (qsizetype i = 0; i < words.size(); i += wordsOfOrder) {
+        orders.push_back({words[i], words[i + 1], words[i + 2], words[i + 3]});
+    }
+    return Job::run(orders);
 }

@@ -53,6 +53,9 @@ private Q_SLOTS:
         QCOMPARE(analysed(), QStringList(u"two/d.cpp"_s));
         QFile::remove(code.path(u"inc/deep.h"_s));
         QCOMPARE(analysed(), QStringList({u"one/a b.cpp"_s, u"two/d.cpp"_s}));
+        // A header that a build writes concerns those who looked for it.
+        code.write(u"inc/deep.h"_s, "int deep();\n");
+        QCOMPARE(analysed(), QStringList({u"one/a b.cpp"_s, u"two/d.cpp"_s}));
         parts[0].defines = {u"NEW"_s};
         code.project(parts, "-threshold 3\n");
         QCOMPARE(analysed(), QStringList({u"one/a b.cpp"_s, u"one/c.cpp"_s, u"two/d.cpp"_s}));
@@ -60,6 +63,46 @@ private Q_SLOTS:
         code.write(u"messages.p_s"_s, "-threshold 1\n");
         QCOMPARE(code.run(u"-prj p.prj"_s, u"orvstatus"_s).output.section(u'\n', 0, 0),
                  u"Analysis of this project is out of date"_s);
+    }
+
+    void smallSourcesShareAProcess_data()
+    {
+        const TestRows<QByteArray, int> row("obstacle", "processes");
+        row("none", {}, 17);
+        row("a crash", "grep -q s2.c $p && grep -q s3.c $p && kill -SEGV $$\n", 19);
+        row("an unknown message", "grep -q s2.c $p && grep -q s3.c $p && echo 'x.c:1:1: style: X [x]' >&2\n", 19);
+    }
+
+    void smallSourcesShareAProcess()
+    {
+        QFETCH(const QByteArray, obstacle);
+        QFETCH(const int, processes);
+        const CodeBase code;
+        CodePart part{.folder = u"one"_s, .files = {}, .defines = {u"SIZE=3"_s}};
+        code.write(u"one/h.h"_s, "static int h(void) { int w[2]; return w[3]; }\n");
+        for (int i = 0; i < 20; ++i) {
+            part.files += u"s%1.c"_s.arg(i);
+            code.write(u"one/"_s + part.files.last(), "#include \"h.h\"\n" + QByteArray(overrun));
+        }
+        code.write(u"one/s7.c"_s, "#error Gr\xc3\xbc\xc3\x9f"
+                                  "e \\303\n");
+        code.project({part});
+        const QByteArray real = QStandardPaths::findExecutable(u"cppcheck"_s).toUtf8();
+        code.replaceProgram(u"cppcheck"_s, "case \"$*\" in *project=units*) p=${5#--project=}; echo >> " +
+                                               code.path(u"starts"_s).toUtf8() + '\n' + obstacle + ";; esac\nexec " +
+                                               real + " \"$@\"\n");
+        QCOMPARE(CodeBase::analysedIn(code.run(u"analyse p.prj"_s)).size(), 20);
+        QCOMPARE(code.read(u"starts"_s).size(), processes);
+        for (int i = 0; i < 20; ++i) {
+            const QByteArray found = code.read(u"out/one/s%1.c.err"_s.arg(i));
+            QCOMPARE(found.contains("/one/h.h:1:"), i != 7);
+            QCOMPARE(found.contains(u"Grüße \\303"_s.toUtf8()), i == 7);
+            QCOMPARE(QFile::exists(code.path(u"out/one/s%1.c.met"_s.arg(i))), i != 7);
+        }
+        QStringList ours = code.messages();
+        ours.removeIf([](const QString& line) { return line.endsWith("[unusedFunction]"_L1); });
+        QFile::remove(code.path(u"bin/cppcheck"_s));
+        QCOMPARE(ours, code.messagesByHand({part}, {}));
     }
 
     void toolsThatFailAreTold_data()
