@@ -27,14 +27,15 @@ struct Record
     QString path;
 };
 
-// cppcheck reads such records for the sources of its own list only, and analyses each again whose options differ. Empty
-// files stand in for the sources: their records are up to date, and get the contents of the real ones.
-class StandIns
+// cppcheck reads such records for the sources of its own list only, analyses each again whose options differ, and takes
+// long for a long list. So one empty file stands in for all sources: its record is up to date and gets the contents of
+// all others.
+class StandIn
 {
 public:
-    StandIns(const AnalysisPlan& wholePlan, std::vector<Record> sourceRecords)
+    StandIn(const AnalysisPlan& wholePlan, const std::vector<Record>& sourceRecords)
         : plan(wholePlan)
-        , records(std::move(sourceRecords))
+        , records(sourceRecords)
         , folder(plan.workFolder() + u"/whole-program"_s)
     {
     }
@@ -43,43 +44,76 @@ public:
     {
         QDir(folder).removeRecursively();
         QDir().mkpath(folder + u"/records"_s);
-        // What cppcheck knows an analysed file by again: it is the same for all that are empty.
-        writeSources(1);
+        ResultFile::writeScratch(folder + u"/all.cpp"_s, {});
+        const QJsonObject entry{{u"directory"_s, folder}, {u"file"_s, u"all.cpp"_s}, {u"command"_s, u"cc"_s}};
+        ResultFile::writeScratch(folder + u"/compile_commands.json"_s,
+                                 QJsonDocument(QJsonArray{entry}).toJson(QJsonDocument::Compact));
+        // What cppcheck knows an analysed file by again.
         run();
+        const QString record = folder + u"/records/all.a1"_s;
         static const QRegularExpression hash(u"hash=\"[0-9]+\""_s);
-        const QByteArray head = hash.match(QString::fromUtf8(ResultFile::read(recordName(0)))).captured().toUtf8();
-        writeSources(records.size());
-        for (size_t i = 0; i < records.size(); ++i) {
-            const QByteArray record = ResultFile::read(records[i].path);
-            const qsizetype start = record.indexOf("<FileInfo");
-            ResultFile::writeScratch(recordName(i), "<?xml version=\"1.0\"?>\n<analyzerinfo " + head + ">\n" +
-                                                        (start < 0 ? "</analyzerinfo>\n" : record.sliced(start)));
-        }
-        const qint64 size = QFileInfo(recordName(0)).size();
+        const QByteArray head = hash.match(QString::fromUtf8(ResultFile::read(record))).captured().toUtf8();
+        const QByteArray contents =
+            "<?xml version=\"1.0\"?>\n<analyzerinfo " + head + ">\n" + mergedRecords() + "</analyzerinfo>\n";
+        ResultFile::writeScratch(record, contents);
         QList<Finding> findings = run();
-        if (head.isEmpty() || QFileInfo(recordName(0)).size() != size) {
+        if (head.isEmpty() || QFileInfo(record).size() != contents.size()) {
             throw Failure{u"The check across all sources failed: this cppcheck does not take its records again."_s};
         }
         for (Finding& finding : findings) {
-            name(finding);
+            if (finding.file == "all.cpp"_L1) {
+                place(finding);
+            }
         }
         return findings;
     }
 
 private:
-    QString standIn(size_t index) const { return u"s%1"_s.arg(index); }
-    QString recordName(size_t index) const { return folder + u"/records/"_s + standIn(index) + u".a1"_s; }
-
-    void writeSources(size_t count) const
+    struct Place
     {
-        QJsonArray entries;
-        for (size_t i = 0; i < count; ++i) {
-            const QString name = standIn(i) + u".cpp"_s;
-            ResultFile::writeScratch(folder + u'/' + name, {});
-            entries += QJsonObject{{u"directory"_s, folder}, {u"file"_s, name}, {u"command"_s, u"cc"_s}};
+        QString source;
+        int line;
+    };
+
+    /// A function stands in its record without its file, so its line becomes a number of ours.
+    QByteArray mergedRecords()
+    {
+        QByteArray merged;
+        for (const Record& record : records) {
+            const QByteArray text = ResultFile::read(record.path);
+            const qsizetype start = text.indexOf("<FileInfo");
+            const qsizetype end = text.lastIndexOf("</analyzerinfo>");
+            if (start >= 0 && end > start) {
+                addFileInfo(record.source, text.sliced(start, end - start), merged);
+            }
         }
-        ResultFile::writeScratch(folder + u"/compile_commands.json"_s,
-                                 QJsonDocument(entries).toJson(QJsonDocument::Compact));
+        return merged;
+    }
+
+    void addFileInfo(const QString& source, const QByteArray& text, QByteArray& merged)
+    {
+        qsizetype done = 0;
+        for (qsizetype at = text.indexOf("<functiondecl "); at >= 0; at = text.indexOf("<functiondecl ", at + 1)) {
+            constexpr QByteArrayView attribute("lineNumber=\"");
+            const qsizetype begin = text.indexOf(attribute, at) + attribute.size();
+            const qsizetype end = text.indexOf('"', begin);
+            if (begin < at || end < 0) {
+                break;
+            }
+            places.push_back({source, text.sliced(begin, end - begin).toInt()});
+            merged += text.sliced(done, begin - done) + QByteArray::number(qsizetype(places.size()));
+            done = end;
+        }
+        merged += text.sliced(done);
+    }
+
+    void place(Finding& finding) const
+    {
+        if (finding.line > 0 && size_t(finding.line) <= places.size()) {
+            const Place& found = places[size_t(finding.line) - 1];
+            finding.file = found.source;
+            finding.line = found.line;
+        }
     }
 
     QList<Finding> run() const
@@ -102,19 +136,10 @@ private:
         return result.findings;
     }
 
-    void name(Finding& finding) const
-    {
-        const QString file = QFileInfo(finding.file).completeBaseName();
-        bool isNumber = false;
-        const size_t index = file.sliced(std::min<qsizetype>(1, file.size())).toUInt(&isNumber);
-        if (isNumber && index < records.size() && finding.file == standIn(index) + u".cpp"_s) {
-            finding.file = records[index].source;
-        }
-    }
-
     const AnalysisPlan& plan;
-    const std::vector<Record> records;
+    const std::vector<Record>& records;
     const QString folder;
+    std::vector<Place> places;
 };
 
 std::vector<Record> recordsOf(const AnalysisPlan& plan)
@@ -160,7 +185,7 @@ void WholeProgram::check(const AnalysisPlan& plan)
     }
     QByteArray lines;
     if (!records.empty()) {
-        const QList<Finding> findings = StandIns(plan, records).check();
+        const QList<Finding> findings = StandIn(plan, records).check();
         for (const Finding& finding : findings) {
             if (!isSuppressedInline(finding)) {
                 lines += finding.toLine().toUtf8() + '\n';
