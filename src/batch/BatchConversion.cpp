@@ -242,12 +242,7 @@ int BatchConversion::dryRun() const
 
 int BatchConversion::convert()
 {
-    if (batch.json || batch.quiet) {
-        connect(&run, &ConversionRun::outputReady, this,
-                batch.quiet ? &BatchConversion::keepOutput : &BatchConversion::forwardOutput);
-    } else {
-        run.child().setProcessChannelMode(QProcess::ForwardedChannels);
-    }
+    passOutputOn();
     StopSignals signals;
     connect(&signals, &StopSignals::received, &run, &ConversionRun::stop);
     // The end may come before there is an event loop to leave.
@@ -266,6 +261,26 @@ int BatchConversion::convert()
     return report();
 }
 
+void BatchConversion::passOutputOn()
+{
+    if (batch.quiet) {
+        connect(&run, &ConversionRun::outputReady, this, &BatchConversion::keepOutput);
+    } else if (batch.json) {
+        connect(&run, &ConversionRun::outputReady, this, &BatchConversion::forwardOutput);
+    } else if (TerminalOutput::isPossible()) {
+        run.child().setProcessChannelMode(TerminalOutput::channelMode());
+        usesTerminal = true;
+        connect(&run, &ConversionRun::outputReady, this, &BatchConversion::showOutput);
+    } else {
+        run.child().setProcessChannelMode(QProcess::ForwardedChannels);
+    }
+}
+
+void BatchConversion::showOutput()
+{
+    terminal.add(run.takeOutput());
+}
+
 // Standard output is for the result alone.
 void BatchConversion::forwardOutput()
 {
@@ -280,6 +295,10 @@ void BatchConversion::keepOutput()
 
 int BatchConversion::report()
 {
+    if (usesTerminal) {
+        showOutput();
+        terminal.finish();
+    }
     const ConversionRun::Outcome outcome = run.outcome();
     const bool isGood = outcome == ConversionRun::Outcome::Created && run.exitCode() == 0;
     const int status = isGood ? BatchMode::Good : BatchMode::Failed;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "batch/BatchArguments.h"
+#include "batch/TerminalOutput.h"
 #include "personality/Result.h"
 #include "process/ConversionRun.h"
 #include "process/WizardState.h"
@@ -35,6 +36,8 @@ private:
     Result<void> checkPlace() const;
     int dryRun() const;
     int convert();
+    void passOutputOn();
+    void showOutput();
     void forwardOutput();
     void keepOutput();
     int report();
@@ -44,9 +47,11 @@ private:
     BatchArguments batch;
     WizardState state;
     ConversionRun run;
+    TerminalOutput terminal;
     QStringList arguments;
     QElapsedTimer clock;
     /// The end of what the program printed, for a quiet run that fails.
     QString lastOutput;
+    bool usesTerminal = false;
     bool timedOut = false;
 };

@@ -115,7 +115,7 @@ Result<QStringList> BatchLauncher::argumentsOf(const ApplicationRecord& applicat
 
 int BatchLauncher::run(const QString& program, const QStringList& arguments, const BatchArguments& batch)
 {
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    passOutputOn();
     SetProcessEnvironment(&process, true);
     StopSignals signals;
     const auto stop = [this] {
@@ -136,10 +136,28 @@ int BatchLauncher::run(const QString& program, const QStringList& arguments, con
         QTimer::singleShot(std::chrono::seconds(batch.timeoutSeconds), this, stop);
     }
     QCoreApplication::exec();
+    if (usesTerminal) {
+        showOutput();
+        terminal.finish();
+    }
     if (stopped || process.exitStatus() != QProcess::NormalExit) {
         BatchOutput::complain(stopped ? tr("%1 was stopped").arg(program)
                                       : tr("%1: %2").arg(program, process.errorString()));
         return BatchMode::Failed;
     }
     return process.exitCode();
+}
+
+void BatchLauncher::passOutputOn()
+{
+    usesTerminal = TerminalOutput::isPossible();
+    process.setProcessChannelMode(usesTerminal ? TerminalOutput::channelMode() : QProcess::ForwardedChannels);
+    if (usesTerminal) {
+        connect(&process, &QProcess::readyReadStandardOutput, this, &BatchLauncher::showOutput);
+    }
+}
+
+void BatchLauncher::showOutput()
+{
+    terminal.add(decoder(process.readAllStandardOutput()));
 }

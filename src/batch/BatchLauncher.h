@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "batch/TerminalOutput.h"
 #include "personality/Result.h"
 #include "process/ChildProcess.h"
 #include "project/Project.h"
 
 #include <QObject>
+#include <QStringDecoder>
 
 struct ApplicationRecord;
 struct BatchArguments;
@@ -26,7 +28,13 @@ private:
     Result<QStringList> argumentsOf(const ApplicationRecord& application, bool isC);
     int run(const QString& program, const QStringList& arguments, const BatchArguments& batch);
 
+    void passOutputOn();
+    void showOutput();
+
     ChildProcess process;
+    TerminalOutput terminal;
+    QStringDecoder decoder{QStringDecoder::System};
     Project project;
+    bool usesTerminal = false;
     bool stopped = false;
 };

@@ -14,4 +14,10 @@ void open();
 /// The command line's arguments with the program's name, none of their letters lost.
 QStringList arguments(int argc, char** argv);
 
+/// How wide the terminal is that standard output leads to; 0 where there is none, or one that can not go back in a
+/// line.
+int columns();
+/// True when the standard error channel leads to a terminal, too.
+bool hasErrorTerminal();
+
 } // namespace Console

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "console/Console.h"
 
+#include <sys/ioctl.h>
+#include <unistd.h>
+
 void Console::open() {}
 
 QStringList Console::arguments(int argc, char** argv)
@@ -10,4 +13,20 @@ QStringList Console::arguments(int argc, char** argv)
         texts += QString::fromLocal8Bit(argv[i]);
     }
     return texts;
+}
+
+int Console::columns()
+{
+    constexpr int usual = 80;
+    const QByteArray kind = qgetenv("TERM");
+    if (::isatty(STDOUT_FILENO) == 0 || kind.isEmpty() || kind == "dumb") {
+        return 0;
+    }
+    winsize size = {};
+    return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
+}
+
+bool Console::hasErrorTerminal()
+{
+    return ::isatty(STDERR_FILENO) != 0;
 }

@@ -81,3 +81,21 @@ QStringList Console::arguments(int, char**)
     ::LocalFree(words);
     return texts;
 }
+
+int Console::columns()
+{
+    const HANDLE output = ::GetStdHandle(STD_OUTPUT_HANDLE);
+    DWORD mode = 0;
+    CONSOLE_SCREEN_BUFFER_INFO info = {};
+    if (!::GetConsoleMode(output, &mode) || !::GetConsoleScreenBufferInfo(output, &info) ||
+        !::SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING)) {
+        return 0;
+    }
+    return info.srWindow.Right - info.srWindow.Left + 1;
+}
+
+bool Console::hasErrorTerminal()
+{
+    DWORD mode = 0;
+    return ::GetConsoleMode(::GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
+}

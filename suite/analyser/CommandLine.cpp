@@ -209,7 +209,7 @@ QString CommandLine::usage()
   orv --help | --version
 
   -j N                  so many sources at once; all cores otherwise
-  --launcher CMD        put CMD before the job of every source, such as "srun -n1"
+  --launcher CMD        put CMD before every job, such as "srun -n1"
   --time-limit SECONDS  give up on a source after so long; 600 otherwise
   --fail-on SEVERITY    end with 1 when there is a message of this weight: error, warning, style, performance,
                         portability, information

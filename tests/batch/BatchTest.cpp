@@ -122,6 +122,44 @@ private Q_SLOTS:
         QCOMPARE(result.status, 2);
     }
 
+    void showsProgressInOneLineOfATerminal_data()
+    {
+        const TestRows<bool, QString, QStringList, QString> row("atTerminal", "kind", "more", "output");
+        const QString clear = u"\r\033[K"_s;
+        const QString end = u"New project file: %1\n"_s;
+        row("terminal", true, u"xterm"_s, {},
+            clear + u"above\n\n"_s + clear + u"[2/3] b\u2026"_s + clear + u"broken off\n"_s + end);
+        row("it can not go back", true, u"dumb"_s, {}, u"[1/3] a\nabove\n\n[2/3] bcdefghij\nbroken off"_s + end);
+        row("no terminal", false, u"xterm"_s, {}, u"[1/3] a\nabove\n\n[2/3] bcdefghij\nbroken off"_s + end);
+        row("quiet", true, u"xterm"_s, {u"-quiet"_s}, {});
+    }
+
+    void showsProgressInOneLineOfATerminal()
+    {
+        QFETCH(const bool, atTerminal);
+        QFETCH(const QString, kind);
+        QFETCH(const QStringList, more);
+        QFETCH(const QString, output);
+        const SlowSuite suite;
+        suite.write(u"slow.go"_s, "");
+        suite.writeScript(u"slow"_s, "echo > \"$1\"\n"
+                                     "printf '[1/3] a\\nabove\\n\\n[2/3] bcdefghij\\nbroken off'\n");
+        QStringList words{QStringLiteral(PROGRAM)};
+        for (const QString& word : suite.arguments(more)) {
+            words += u'\'' + word + u'\'';
+        }
+        QString command = words.join(u' ');
+        if (atTerminal) {
+            command = u"script -qec \"stty cols 9; %1\" /dev/null </dev/null"_s.arg(command);
+        }
+        const ProgramResult result =
+            runProgram(u"sh"_s, {u"-c"_s, command},
+                       {{u"LC_ALL"_s, u"C.UTF-8"_s}, {u"TERM"_s, kind}, {u"PATH"_s, qEnvironmentVariable("PATH")}});
+        QString shown = result.output;
+        QCOMPARE(shown.replace(u"\r\n"_s, u"\n"_s), output.contains(u"%1"_s) ? output.arg(suite.project) : output);
+        QCOMPARE(result.status, 0);
+    }
+
     void outlivesItsTerminalUnderNohup()
     {
         const SlowSuite suite;
