@@ -6,11 +6,15 @@
 
 #include <QUrl>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostPlainMessages = 1000;
+// More than a text window lays out without stalling, it shows as text without links.
+constexpr qsizetype longestPlainPage = 45'000;
+constexpr qsizetype mostPlainReasons = 50;
 constexpr qsizetype longestPlainText = 500;
 
 constexpr Severity severities[] = {Severity::Error,       Severity::Warning,     Severity::Style, Severity::Performance,
@@ -19,8 +23,8 @@ constexpr Severity severities[] = {Severity::Error,       Severity::Warning,    
 constexpr char style[] = R"(<style>
 body { font-family: sans-serif; max-width: 75em; margin: 1em auto; padding: 0 1em; color: #222; background: #fff }
 h2 { font-size: 1em; margin: 1.5em 0 .3em } ol { list-style: none; margin: 0; padding: 0 }
-li { padding: .15em 0 } code, .place { font-family: monospace } .place { display: inline-block; min-width: 6em }
-b { display: inline-block; min-width: 7em; font-weight: 600 } .error b { color: #b00020 } .warning b { color: #a05a00 }
+li { padding: .15em 0 } ol li { padding-left: 12.5em; text-indent: -12.5em } .place, b { display: inline-block; text-indent: 0 }
+code, .place { font-family: monospace } .place { min-width: 6em } b { min-width: 7em; font-weight: 600 } .error b { color: #b00020 } .warning b { color: #a05a00 }
 .id, .seen { color: #666 } .missing { background: #fff4e5; padding: .5em 1em }
 @media (prefers-color-scheme: dark) { body { color: #ddd; background: #1b1b1b } a { color: #8ab4f8 }
 .error b { color: #ff8a80 } .warning b { color: #ffb74d } .id, .seen { color: #999 } .missing { background: #3a2c12 } }
@@ -70,7 +74,7 @@ public:
 
     QByteArray plain()
     {
-        begin({});
+        begin({}, mostPlainReasons);
         QString links;
         for (const Severity severity : severities) {
             const int count = findings.countOf(severity);
@@ -79,20 +83,22 @@ public:
             }
         }
         text += u"<p>"_s + links + u"</p>\n"_s;
-        int left = mostPlainMessages;
+        const qsizetype noteAt = text.size();
+        size_t shown = 0;
         for (const Severity severity : severities) {
-            addSection(severity, left);
+            shown += addSection(severity);
         }
-        if (left <= 0 && findings.findings.size() > mostPlainMessages) {
-            text += u"<p>The %1 weightiest of %2 messages are shown. The report for the browser has all.</p>\n"_s
-                        .arg(mostPlainMessages)
-                        .arg(findings.findings.size());
+        if (shown < findings.findings.size()) {
+            text.insert(
+                noteAt,
+                u"<p>The %1 weightiest of %2 messages are shown. The report for the browser has all.</p>\n"_s.arg(shown)
+                    .arg(findings.findings.size()));
         }
         return end();
     }
 
 private:
-    void begin(const QString& head)
+    void begin(const QString& head, qsizetype mostReasons = std::numeric_limits<qsizetype>::max())
     {
         const QString title = (plan.name.isEmpty() ? u"Results"_s : u"Results of "_s + plan.name).toHtmlEscaped();
         text =
@@ -103,7 +109,12 @@ private:
         }
         if (!findings.notAnalysed.empty()) {
             text += u"<div class=\"missing\"><h2>Not analysed (%1)</h2>\n<ul>\n"_s.arg(findings.notAnalysed.size());
+            qsizetype told = 0;
             for (const NotAnalysed& source : findings.notAnalysed) {
+                if (told++ == mostReasons) {
+                    text += u"<li>and %1 more</li>\n"_s.arg(qsizetype(findings.notAnalysed.size()) - mostReasons);
+                    break;
+                }
                 text += u"<li>"_s + link(source.source, plan.shownName(source.source)) + u": "_s +
                         shortened(source.reason) + u"</li>\n"_s;
             }
@@ -140,17 +151,20 @@ private:
                                 : QString();
     }
 
-    void addSection(Severity severity, int& left)
+    /// Gives how many messages it has shown.
+    size_t addSection(Severity severity)
     {
-        if (findings.countOf(severity) == 0 || left <= 0) {
-            return;
+        if (findings.countOf(severity) == 0 || text.size() > longestPlainPage) {
+            return 0;
         }
+        size_t shown = 0;
         text += u"<h2><a name=\"%1\">%1</a></h2>\n"_s.arg(severityText(severity));
         QString file;
         for (const SeenFinding& seen : findings.findings) {
-            if (seen.finding.severity != severity || left-- <= 0) {
+            if (seen.finding.severity != severity || text.size() > longestPlainPage) {
                 continue;
             }
+            ++shown;
             if (seen.finding.file != file) {
                 file = seen.finding.file;
                 text += u"<h3>"_s + link(file, plan.shownName(file)) + u"</h3>\n"_s;
@@ -159,6 +173,7 @@ private:
                     shortened(seen.finding.text) + u" ["_s + seen.finding.id.toHtmlEscaped() + u']' + seenBy(seen) +
                     u"</p>\n"_s;
         }
+        return shown;
     }
 
     static QString shortened(const QString& message)

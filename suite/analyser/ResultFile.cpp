@@ -9,6 +9,21 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The system takes what still fits on a full disk, and calls that no error.
+void writeAll(QFileDevice& file, const QString& path, const QByteArray& contents)
+{
+    if (file.isOpen() && file.write(contents) == contents.size() && file.flush()) {
+        return;
+    }
+    const QString reason =
+        file.error() == QFileDevice::NoError ? u"there is no room for all of it"_s : file.errorString();
+    throw Failure{u"%1 can not be written: %2. Make room or make its folder writable."_s.arg(path, reason)};
+}
+
+} // namespace
+
 QByteArray ResultFile::read(const QString& path)
 {
     QFile file(path);
@@ -19,11 +34,9 @@ void ResultFile::write(const QString& path, const QByteArray& contents)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QSaveFile file(path);
-    // A full disk shows in the flush; committing it would answer true.
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() || !file.flush()) {
-        throw Failure{
-            u"%1 can not be written: %2. Make room or make its folder writable."_s.arg(path, file.errorString())};
-    }
+    file.open(QIODevice::WriteOnly);
+    // A full disk shows here; committing the file would answer true.
+    writeAll(file, path, contents);
     if (!file.commit()) {
         throw Failure{u"%1 can not be replaced: %2."_s.arg(path, file.errorString())};
     }
@@ -32,10 +45,8 @@ void ResultFile::write(const QString& path, const QByteArray& contents)
 void ResultFile::writeScratch(const QString& path, const QByteArray& contents)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() || !file.flush()) {
-        throw Failure{
-            u"%1 can not be written: %2. Make room or make its folder writable."_s.arg(path, file.errorString())};
-    }
+    file.open(QIODevice::WriteOnly);
+    writeAll(file, path, contents);
 }
 
 void ResultFile::writeChanged(const QString& path, const QByteArray& contents)

@@ -198,8 +198,8 @@ private Q_SLOTS:
         results.write(u"out/one/c.cpp.err"_s, many);
         const QString page = results.report(u"--plain-html"_s).output;
         QVERIFY(page.contains("[broken]"_L1));
-        QVERIFY2(page.contains("The 1000 weightiest of 3004 messages"_L1), qPrintable(page.right(300)));
-        QVERIFY(page.size() < 300000);
+        QVERIFY2(page.contains("weightiest of 3004 messages"_L1), qPrintable(page.left(800)));
+        QVERIFY(page.size() < 50000);
     }
 
     void sarifHoldsToItsSchema()
