@@ -132,6 +132,29 @@ private Q_SLOTS:
         QCOMPARE(view.source() == url, !inBrowser);
     }
 
+    void aLinkToASourceShowsItsLine()
+    {
+        const Installation suite;
+        suite.write(u"short.html"_s, "<b>short</b>");
+        const QByteArray line = "#include <a&b>\t// <b>\n";
+        suite.write(u"a.cpp"_s, line.repeated(5000));
+        AppRegistry registry;
+        DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Html, 600, 600);
+        dialog.SetText(u"<b>start</b>"_s);
+        auto& view = *dialog.findChild<QTextBrowser*>();
+        QUrl url = QUrl::fromLocalFile(suite.path(u"a.cpp"_s));
+        url.setFragment(u"L2500"_s);
+        view.setSource(url);
+        const QString shown = view.toPlainText();
+        QVERIFY2(shown.contains("\n  2500  #include <a&b>\t// <b>\n"_L1), qPrintable(shown.left(300)));
+        QVERIFY(shown.size() < 40'000);
+        QVERIFY(QFontInfo(view.document()->find(u"2500"_s).charFormat().font()).fixedPitch());
+        view.backward();
+        QCOMPARE(view.toPlainText(), u"start"_s);
+        view.forward();
+        QCOMPARE(view.toPlainText(), shown);
+    }
+
     void textStandsInColumns()
     {
         AppRegistry registry;
