@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QStringList>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -121,9 +123,16 @@ void InputValues::read(QSettings& settings, const std::vector<std::unique_ptr<Pr
 
 void InputValues::write(QSettings& settings, const std::vector<std::unique_ptr<ProjectCreatorData>>& creators)
 {
-    forEachField(creators, [&](ArgumentDefinition& definition) {
+    // What lies deeper is kept while the window lives, and never written.
+    const auto writeField = [&](const ArgumentDefinition& definition) {
         if (!definition.key.isEmpty()) {
             settings.setValue(definition.key, definition.value);
         }
-    });
+    };
+    for (const auto& creator : creators) {
+        for (const auto& definition : creator->inputData) {
+            writeField(*definition);
+            std::ranges::for_each(definition->children, [&](const auto& child) { writeField(*child); });
+        }
+    }
 }
