@@ -165,7 +165,7 @@ private Q_SLOTS:
         QWheelEvent wheel(middle, type.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);
         QApplication::sendEvent(&type, &wheel);
-        QCOMPARE(type.currentText(), u"T"_s);
+        QCOMPARE(type.currentText(), suite.type);
     }
 
     void takesPathsAsPeopleWriteThem_data()
@@ -183,6 +183,8 @@ private Q_SLOTS:
         const Suite suite(1, 1, "T");
         const WizardDriver wizard;
         QLineEdit& field = wizard.edit(u"Location for new project file:"_s);
+        field.setText(suite.path(u"work"_s));
+        QVERIFY(field.accessibleDescription().isEmpty());
         field.selectAll();
         QTest::keyClicks(&field, typed);
         QCOMPARE(field.accessibleDescription(), u"There is no file or folder of this name."_s);
