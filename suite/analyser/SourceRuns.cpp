@@ -148,7 +148,8 @@ public:
     }
 
     ~SharedRun() { QDir(folder).removeRecursively(); }
-    Q_DISABLE_COPY_MOVE(SharedRun)
+    SharedRun(const SharedRun&) = delete;
+    SharedRun& operator=(const SharedRun&) = delete;
 
     std::vector<AnalyserRun> analyse()
     {
