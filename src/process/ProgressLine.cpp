@@ -102,7 +102,7 @@ void ProgressLine::clear()
 
 QString ProgressLine::terminalLine(const Progress& progress, int columns)
 {
-    const QString clear = u"\r\x1b[K"_s;
+    QString clear = u"\r\x1b[K"_s;
     if (!progress.isKnown()) {
         return clear;
     }

@@ -216,7 +216,7 @@ private Q_SLOTS:
         const QJsonArray found = run[u"results"_s].toArray();
         QCOMPARE(found.size(), 5);
         const QJsonArray rules = run[u"tool"_s][u"driver"_s][u"rules"_s].toArray();
-        for (const QJsonValue& each : found) {
+        for (const auto& each : found) {
             QCOMPARE(rules[each[u"ruleIndex"_s].toInt()][u"id"_s], each[u"ruleId"_s]);
         }
         const QJsonValue place = found[0][u"locations"_s][0][u"physicalLocation"_s];
