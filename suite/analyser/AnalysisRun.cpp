@@ -194,7 +194,7 @@ AnalysisEnd analyse(AnalysisPlan& plan, const RunSettings& settings)
                           ? u"%1 is being analysed already. Wait for that run, or stop it."_s.arg(plan.outputFolder)
                           : u"%1 can not be written. Make the folder writable."_s.arg(plan.workFolder())};
     }
-    const std::vector<UnitOptions> options = writeBuildFile(plan, version, QCoreApplication::applicationFilePath());
+    const std::vector<UnitOptions> options = writeBuildFile(plan, version);
     const NinjaEnd end = runJobs(plan, options, settings);
     const bool isWhole = end == NinjaEnd::Stopped || checkWholeProgram(plan);
     if (end != NinjaEnd::Stopped) {

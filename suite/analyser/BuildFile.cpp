@@ -35,22 +35,19 @@ bool tellsLanguage(const QString& source)
 class Writer
 {
 public:
-    Writer(const AnalysisPlan& wholePlan, const QString& analyser, const QString& job)
+    Writer(const AnalysisPlan& wholePlan, const QString& analyser)
         : plan(wholePlan)
         , version(analyser)
-        , program(job)
     {
     }
 
     std::vector<UnitOptions> write()
     {
         std::vector<UnitOptions> options;
-        // What the options came to is told by the stamp's contents, and which sources share a process is no part of a
-        // source's own statement: so Ninja goes by the times of files alone.
-        text = u"ninja_required_version = 1.8\n\nrule analyse\n  command = "_s + NinjaSyntax::launcher() +
-               NinjaSyntax::value(NinjaSyntax::shellQuoted(program)) +
-               u" job $options $source $results $folder\n  description = $folder $name\n  depfile = $rule\n"
-               "  generator = 1\n"_s;
+        // Nobody runs these commands: which sources share a process is the run file's. What the options came to is told
+        // by the stamp's contents, so Ninja goes by the times of files alone.
+        text = u"ninja_required_version = 1.8\n\nrule analyse\n  command = analyse $folder\n"
+               "  description = $folder\n  depfile = $rule\n  generator = 1\n"_s;
         for (const AnalysisUnit& unit : plan.units) {
             options.push_back(unit.obstacle.isEmpty() ? optionSet(unit) : UnitOptions());
             if (unit.obstacle.isEmpty()) {
@@ -75,16 +72,8 @@ private:
         for (const QString& input : plan.parts[unit.part].inputs) {
             text += u' ' + NinjaSyntax::path(input);
         }
-        const auto variable = [this](const QString& name, const QString& value) {
-            text += u"\n  "_s + name + u" = "_s + NinjaSyntax::value(value);
-        };
-        variable(u"options"_s, NinjaSyntax::shellQuoted(options.file));
-        variable(u"source"_s, NinjaSyntax::shellQuoted(unit.source));
-        variable(u"results"_s, NinjaSyntax::shellQuoted(unit.output));
-        variable(u"folder"_s, unit.folder);
-        variable(u"rule"_s, Job::dependencyName(unit.folder));
-        variable(u"name"_s, plan.shownName(unit.source));
-        text += u'\n';
+        text += u"\n  folder = "_s + NinjaSyntax::value(unit.folder) + u"\n  rule = "_s +
+                NinjaSyntax::value(Job::dependencyName(unit.folder)) + u'\n';
     }
 
     UnitOptions optionSet(const AnalysisUnit& unit)
@@ -112,7 +101,6 @@ private:
 
     const AnalysisPlan& plan;
     const QString version;
-    const QString program;
     QString text;
     QSet<QString> named;
     QHash<size_t, UnitOptions> written;
@@ -121,7 +109,7 @@ private:
 
 } // namespace
 
-std::vector<UnitOptions> writeBuildFile(const AnalysisPlan& plan, const QString& version, const QString& program)
+std::vector<UnitOptions> writeBuildFile(const AnalysisPlan& plan, const QString& version)
 {
-    return Writer(plan, version, program).write();
+    return Writer(plan, version).write();
 }

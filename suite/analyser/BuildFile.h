@@ -18,6 +18,5 @@ struct UnitOptions
 
 /// Writes what Ninja needs to tell which sources are to be analysed: build.ninja in the plan's work folder with one
 /// statement for each, and the option sets that the jobs read. Files that have not changed keep their time. version is
-/// the analyser's, program this one's path. Gives the options of each unit. Throws a Failure when something can not be
-/// written.
-std::vector<UnitOptions> writeBuildFile(const AnalysisPlan& plan, const QString& version, const QString& program);
+/// the analyser's. Gives the options of each unit. Throws a Failure when something can not be written.
+std::vector<UnitOptions> writeBuildFile(const AnalysisPlan& plan, const QString& version);

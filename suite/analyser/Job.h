@@ -3,7 +3,6 @@
 
 #include <QString>
 
-#include <QStringList>
 #include <vector>
 
 /// The analysis of some sources, which Ninja starts: a process of its own, so that it can run anywhere.

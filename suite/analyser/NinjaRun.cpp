@@ -133,7 +133,7 @@ QStringList NinjaRun::staleFolders(const QString& workFolder)
     QStringList folders;
     for (const QByteArray& line : lines) {
         if (line.startsWith(endedMark.latin1())) {
-            folders += QString::fromUtf8(line.sliced(endedMark.size())).section(u' ', 0, 0);
+            folders += QString::fromUtf8(line.sliced(endedMark.size())).trimmed();
         }
     }
     return folders;
