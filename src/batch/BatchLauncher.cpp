@@ -136,10 +136,8 @@ int BatchLauncher::run(const QString& program, const QStringList& arguments, con
         QTimer::singleShot(std::chrono::seconds(batch.timeoutSeconds), this, stop);
     }
     QCoreApplication::exec();
-    if (usesTerminal) {
-        showOutput();
-        terminal.finish();
-    }
+    showOutput();
+    terminal.finish();
     if (stopped || process.exitStatus() != QProcess::NormalExit) {
         BatchOutput::complain(stopped ? tr("%1 was stopped").arg(program)
                                       : tr("%1: %2").arg(program, process.errorString()));
@@ -150,11 +148,10 @@ int BatchLauncher::run(const QString& program, const QStringList& arguments, con
 
 void BatchLauncher::passOutputOn()
 {
-    usesTerminal = TerminalOutput::isPossible();
-    process.setProcessChannelMode(usesTerminal ? TerminalOutput::channelMode() : QProcess::ForwardedChannels);
-    if (usesTerminal) {
-        connect(&process, &QProcess::readyReadStandardOutput, this, &BatchLauncher::showOutput);
-    }
+    // What is forwarded never comes here to be shown.
+    process.setProcessChannelMode(TerminalOutput::isPossible() ? TerminalOutput::channelMode()
+                                                               : QProcess::ForwardedChannels);
+    connect(&process, &QProcess::readyReadStandardOutput, this, &BatchLauncher::showOutput);
 }
 
 void BatchLauncher::showOutput()

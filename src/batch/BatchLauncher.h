@@ -35,6 +35,5 @@ private:
     TerminalOutput terminal;
     QStringDecoder decoder{QStringDecoder::System};
     Project project;
-    bool usesTerminal = false;
     bool stopped = false;
 };

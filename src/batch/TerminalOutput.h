@@ -6,8 +6,6 @@
 #include <QProcess>
 #include <QString>
 
-class ChildProcess;
-
 /// What a child prints, on a terminal: lines that tell its progress take turns in the last line, all others stay above.
 class TerminalOutput
 {

@@ -47,14 +47,6 @@ void rememberField(ArgumentDefinition& definition, const FieldState& field)
     }
 }
 
-void rememberFields(const ArgumentDefinitions& definitions, const FieldSource& source)
-{
-    for (const auto& definition : definitions) {
-        rememberField(*definition, source(*definition));
-        rememberFields(definition->children, source);
-    }
-}
-
 template <typename Visit>
 void forEachField(const ArgumentDefinitions& definitions, Visit&& visit)
 {
@@ -90,7 +82,7 @@ void InputValues::remember(ArgumentDefinition& definition, const FieldSource& so
 {
     definition.value = value(definition, source);
     rememberField(definition, source(definition));
-    rememberFields(definition.children, source);
+    forEachField(definition.children, [&](ArgumentDefinition& field) { rememberField(field, source(field)); });
 }
 
 const ArgumentDefinition* InputValues::firstIncomplete(const ArgumentDefinitions& definitions,

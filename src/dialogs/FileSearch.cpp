@@ -50,7 +50,8 @@ void FileSearch::run(const QString& folder, Listener& listener) const
         pending.pop_back();
         listener.folderEntered(current);
         std::vector<QString> subFolders;
-        if (!list(current, listener, subFolders)) {
+        if (!list(current, listener, subFolders) ||
+            !std::ranges::all_of(subFolders, [&listener](const QString&) { return listener.goOn(); })) {
             return;
         }
         std::move(subFolders.rbegin(), subFolders.rend(), std::back_inserter(pending));

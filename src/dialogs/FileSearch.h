@@ -37,6 +37,10 @@ private:
     };
 
     bool matches(const QString& name) const;
+    /// How many entries may pass before the listener hears of it.
+    static constexpr int entriesPerSign = 256;
+
+    /// Tells of the files that match and gives the subfolders; false when the listener has ended the search.
     bool list(const QString& folder, Listener& listener, std::vector<QString>& subFolders) const;
 
     std::vector<Pattern> patterns;

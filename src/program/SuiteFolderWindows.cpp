@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "app/OwnEnvironment.h"
 #include "program/SuiteFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
-#include <cstdlib>
-#include <string>
-
-#include <qt_windows.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,12 +14,10 @@ void SuiteFolder::offerAnalysers()
 {
     const QString suite = QFileInfo(QCoreApplication::applicationDirPath()).absolutePath();
     for (const auto& [variable, folder] :
-         {std::pair{L"ORVCPATH", u"/orvc"_s}, std::pair{L"ORVCPPPATH", u"/orvcpp"_s}}) {
-        if (!qEnvironmentVariableIsSet(QString::fromWCharArray(variable).toLatin1().constData()) &&
+         {std::pair{u"ORVCPATH"_s, u"/orvc"_s}, std::pair{u"ORVCPPPATH"_s, u"/orvcpp"_s}}) {
+        if (!qEnvironmentVariableIsSet(variable.toLatin1().constData()) &&
             QFileInfo(suite + folder + u"/bin"_s).isDir()) {
-            const std::wstring path = QDir::toNativeSeparators(suite + folder).toStdWString();
-            ::_wputenv_s(variable, path.c_str());
-            ::SetEnvironmentVariableW(variable, path.c_str());
+            OwnEnvironment::set({variable + u'=' + QDir::toNativeSeparators(suite + folder)}, {});
         }
     }
 }

@@ -30,12 +30,15 @@ QString shownName(const QString& name, const QWidget& control)
     return PlainText::withoutMnemonic(metrics.elidedText(name, Qt::ElideMiddle, longest * metrics.averageCharWidth()));
 }
 
-QString toolTipOf(const ArgumentDefinition& definition, const QWidget& control)
+/// The whole name, where it was cut, and the help.
+QString toolTipOf(const QString& name, const QString& help, const QWidget& control)
 {
-    const bool isCut = shownName(definition.displayName, control) != PlainText::withoutMnemonic(definition.displayName);
-    const QString name = isCut ? definition.displayName : QString();
-    return PlainText::toolTip(name.isEmpty() || definition.hoverHelp.isEmpty() ? name + definition.hoverHelp
-                                                                               : name + u'\n' + definition.hoverHelp);
+    QStringList lines{help};
+    if (shownName(name, control) != PlainText::withoutMnemonic(name)) {
+        lines.prepend(name);
+    }
+    lines.removeAll(QString());
+    return PlainText::toolTip(lines.join(u'\n'));
 }
 
 /// Builds the fields of one box; its radio buttons exclude each other.
@@ -50,9 +53,7 @@ public:
     {
         box->setTitle(shownName(title, *box));
         box->setAccessibleName(title);
-        if (box->title() != PlainText::withoutMnemonic(title)) {
-            box->setToolTip(PlainText::toolTip(title));
-        }
+        box->setToolTip(toolTipOf(title, {}, *box));
     }
 
     QGroupBox* build(const ArgumentDefinitions& definitions, int columns)
@@ -87,12 +88,12 @@ private:
             label = new QLabel;
             label->setText(shownName(definition.displayName, *label));
             label->setTextFormat(Qt::PlainText);
-            label->setToolTip(toolTipOf(definition, *label));
+            label->setToolTip(toolTipOf(definition.displayName, definition.hoverHelp, *label));
             row->addWidget(label);
             definition.widgets += label;
         }
         QWidget* control = definition.isSwitch() ? buildSwitch(definition, *row) : buildText(definition, *row);
-        control->setToolTip(toolTipOf(definition, *control));
+        control->setToolTip(toolTipOf(definition.displayName, definition.hoverHelp, *control));
         control->setAccessibleName(definition.displayName);
         definition.widgets += control;
         if (label) {

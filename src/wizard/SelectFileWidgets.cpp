@@ -38,7 +38,11 @@ constexpr int usableLength = 20;
 class FieldButton : public QPushButton
 {
 public:
-    using QPushButton::QPushButton;
+    FieldButton(const QString& text, QWidget* parent)
+        : QPushButton(text, parent)
+    {
+        connect(qApp, &QApplication::focusChanged, this, qOverload<>(&QWidget::update));
+    }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
@@ -98,8 +102,6 @@ void SelectFileWidgets::createButtons()
         button->setAccessibleName(button->text().remove(u'&').remove(u"..."_s) + u": "_s + caption);
         button->setShortcut(QKeySequence());
     }
-    connect(qApp, &QApplication::focusChanged, browseButton, qOverload<>(&QWidget::update));
-    connect(qApp, &QApplication::focusChanged, findButton, qOverload<>(&QWidget::update));
     for (QWidget* widget : std::initializer_list<QWidget*>{edit, editButton, browseButton, findButton}) {
         widget->installEventFilter(this);
     }

@@ -141,6 +141,9 @@ QStringList LibraryHints::libraries(const AnalysisOptions& options)
 
 QStringList LibraryHints::defines(const AnalysisOptions& options)
 {
+    if (!libraries(options).contains(u"qt"_s)) {
+        return {};
+    }
     const QSet<QString> macros = macroNames(options);
     QStringList result;
     const auto add = [&](const QString& define) {
@@ -148,9 +151,6 @@ QStringList LibraryHints::defines(const AnalysisOptions& options)
             result += define;
         }
     };
-    if (!libraries(options).contains(u"qt"_s)) {
-        return {};
-    }
     const QSet<QString> folders = folderNames(options);
     if (folders.contains(u"qt6"_s) || folders.contains(u"qt5"_s)) {
         add(folders.contains(u"qt6"_s) ? u"Q_MOC_OUTPUT_REVISION=68"_s : u"Q_MOC_OUTPUT_REVISION=67"_s);

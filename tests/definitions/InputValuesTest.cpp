@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "definitions/InputValues.h"
+#include "TestFolder.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
 #include <QHash>
+#include <QSettings>
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +20,7 @@ ArgumentDefinition& add(ArgumentDefinitions& list, InputType type, const QString
     ArgumentDefinition& definition = *list.emplace_back(std::make_unique<ArgumentDefinition>());
     definition.inputType = type;
     definition.displayName = name;
+    definition.key = name;
     definition.outputString = output;
     return definition;
 }
@@ -72,6 +77,13 @@ private Q_SLOTS:
         // Of what is nested deeper the fields are remembered, too.
         QCOMPARE(remembered(group), u"-a,E+f|1|0|||"_s);
         QCOMPARE(remembered(inner), u"|E|1"_s);
+        // They go no further than the window.
+        std::vector<std::unique_ptr<ProjectCreatorData>> types;
+        types.emplace_back(std::make_unique<ProjectCreatorData>())->inputData = std::move(list);
+        const TestFolder folder;
+        QSettings store(folder.path(u"store"_s), QSettings::IniFormat);
+        InputValues::write(store, types);
+        QCOMPARE(store.allKeys().join(u' '), u"a b c d g inner"_s);
     }
 
     void switches_data()
