@@ -89,7 +89,7 @@ private Q_SLOTS:
         row("blanks and quotes in a define", u"-d SIZE=sizeof(\"a \\\\ b\")\n"_s, overrun, u"index 6"_s);
         row("a blank in a folder", u"-i \"%1/in c\"\n"_s, QByteArray("#include \"s.h\"\n") + overrun, u"index 4"_s);
         row("last define wins", u"-d SIZE=1\n-u SIZE\n-d SIZE=8\n"_s, overrun, u"index 8"_s);
-        row("quote folder", u"*orv folder=quote\n-i \"%1/in c\"\n-i \"%1/other\"\n"_s,
+        row("quote folder", u"-i \"%1/other\"\n*orv folder=quote\n-i \"%1/in c\"\n"_s,
             QByteArray("#include \"s.h\"\n") + overrun, u"index 4"_s);
         row("after folder", u"*orv folder=after\n-i \"%1/other\"\n-i \"%1/in c\"\n"_s,
             QByteArray("#include \"s.h\"\n") + overrun, u"index 4"_s);
@@ -98,6 +98,9 @@ private Q_SLOTS:
             u"[ignoredReturnValue]"_s);
         row("revision of moc", u"*orv folder=system\n-i \"/usr/include/qt6/QtCore\"\n-d SIZE=5\n"_s,
             QByteArray("#if Q_MOC_OUTPUT_REVISION != 68\n#error revision\n#endif\n") + overrun, u"index 5"_s);
+        row("system of Qt", u"-d QT_CORE_LIB\n-d __linux__=1\n-d SIZE=5\n"_s,
+            QByteArray("class A { Q_DISABLE_COPY_MOVE(A) };\n#ifdef Q_OS_LINUX\n") + overrun + "#endif\n",
+            u"index 5"_s);
         row("platform by target", u"*orv target=-m32\n"_s, "int f() { int v[8] = {0}; return v[sizeof(long) + 4]; }\n",
             u"index 8"_s);
         row("addon", u"*orv addon=y2038\n"_s, "#include <time.h>\nlong f() { return (long)time(nullptr); }\n",

@@ -3,7 +3,6 @@
 #include "Failure.h"
 #include "LibraryHints.h"
 #include "OptionReader.h"
-#include "OptionSet.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -21,11 +20,12 @@ private Q_SLOTS:
         const CodeBase code;
         const QByteArray folder = code.path().toUtf8();
         code.write(u"base.p_a"_s, "* a comment\n-d A=1\n-d B\n-strict+\n*orv standard=c11\n*orv module=Base\n");
-        code.write(u"part.p_a"_s, "-via \"" + folder +
-                                      "/base.p_a\"\r\n-d A=\"x y\"\n-u B\n-d F(a,b)=a\n-d F(c)=c\n"
-                                      "*orv folder=system\n-i \"/s y s\"\n-i \"/own\"\n*orv hiding=\"x\"\n"
-                                      "-via \"" +
-                                      folder + "/base.p_a\"\n");
+        code.write(u"part.p_a"_s,
+                   "-via \"" + folder +
+                       "/base.p_a\"\r\n-d A=\"x y\"\n-u B\n-d F(a,b)=a\n-d F(c)=c\n"
+                       "*orv folder=system\n-i \"/s y s\"\n-i \"/own/gr\xc3\xb6\xc3\x9f\"\n*orv hiding=\"x\"\n"
+                       "-via \"" +
+                       folder + "/base.p_a\"\n");
         OptionReader reader;
         reader.readFile(code.path(u"part.p_a"_s));
         reader.finish();
@@ -37,42 +37,9 @@ private Q_SLOTS:
         QCOMPARE(options.folders.size(), 2);
         QCOMPARE(options.folders[0].kind, FolderKind::System);
         QCOMPARE(options.folders[1].kind, FolderKind::Normal);
+        QCOMPARE(options.folders[1].path, u"/own/größ"_s);
         QCOMPARE(options.files.size(), 2);
         QVERIFY_THROWS_EXCEPTION(Failure, OptionReader().readFile(code.path(u"gone"_s)));
-    }
-
-    void olderEncodingsAreRead()
-    {
-        const CodeBase code;
-        OptionReader reader;
-        reader.readFile(code.write(u"utf8.p_a"_s, "-i \"/gr\xc3\xb6\xc3\x9f"
-                                                  "e\"\n"));
-        QCOMPARE(reader.options.folders[0].path, u"/größe"_s);
-    }
-
-    void commandsAreQuotedForTheAnalyser_data()
-    {
-        const TestRows<QString, QString> row("lines", "command");
-        row("plain", u"-d A\n-d B=1\n"_s, u"cc -DA -DB=1"_s);
-        row("empty value", u"-d A=\n"_s, u"cc -DA="_s);
-        row("text", u"-d A=\"x \\ y\"\n"_s, u"cc -DA=\"\\\"x \\\\ y\\\"\""_s);
-        row("arguments", u"-d F(a, b)=a + b\n"_s, u"cc -DF(a,b)=\"a + b\""_s);
-        row("folder", u"-i \"/a b\"\n"_s, u"cc -I\"/a b\""_s);
-        row("order", u"*orv folder=after\n-i \"/1\"\n-i \"/2\"\n*orv folder=quote\n-i \"/3\"\n"_s,
-            u"cc -I/3 -I/2 -I/1"_s);
-        row("undefine", u"*orv undefine=A\n*orv target=-fPIC\n*orv standard=gnu++17\n"_s,
-            u"cc -UA -fPIC -std=gnu++17"_s);
-    }
-
-    void commandsAreQuotedForTheAnalyser()
-    {
-        QFETCH(const QString, lines);
-        QFETCH(const QString, command);
-        const CodeBase code;
-        OptionReader reader;
-        reader.readFile(code.write(u"o.p_a"_s, lines.toUtf8()));
-        reader.finish();
-        QCOMPARE(OptionSet(reader.options, {}).command, command);
     }
 
     void librariesAndPlatforms_data()
