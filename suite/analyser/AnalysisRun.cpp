@@ -7,6 +7,7 @@
 #include "Failure.h"
 #include "IncludeScan.h"
 #include "Job.h"
+#include "LibraryHints.h"
 #include "OptionSet.h"
 #include "Reports.h"
 #include "ResultFile.h"
@@ -179,6 +180,17 @@ bool checkWholeProgram(const AnalysisPlan& plan)
     }
 }
 
+void addTestFrameworks(AnalysisPlan& plan)
+{
+    for (const AnalysisUnit& unit : plan.units) {
+        if (unit.obstacle.isEmpty()) {
+            QStringList& libraries = plan.parts[unit.part].options.libraries;
+            libraries += LibraryHints::testFrameworks(unit.source);
+            libraries.removeDuplicates();
+        }
+    }
+}
+
 } // namespace
 
 AnalysisEnd analyse(AnalysisPlan& plan, const RunSettings& settings)
@@ -194,6 +206,7 @@ AnalysisEnd analyse(AnalysisPlan& plan, const RunSettings& settings)
                           ? u"%1 is being analysed already. Wait for that run, or stop it."_s.arg(plan.outputFolder)
                           : u"%1 can not be written. Make the folder writable."_s.arg(plan.workFolder())};
     }
+    addTestFrameworks(plan);
     const std::vector<UnitOptions> options = writeBuildFile(plan, version);
     const NinjaEnd end = runJobs(plan, options, settings);
     const bool isWhole = end == NinjaEnd::Stopped || checkWholeProgram(plan);

@@ -2,6 +2,7 @@
 #include "LibraryHints.h"
 #include "AnalysisOptions.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -44,6 +45,20 @@ constexpr std::array hints = {
     Hint{"libsigc++", "", "sigc\\+\\+-[0-9.]+"},
     Hint{"dpdk", "RTE_[A-Z_]+", "dpdk"},
     Hint{"openmp", "_OPENMP", ""},
+};
+
+struct Framework
+{
+    const char* library;
+    /// The beginning of its headers' names.
+    QByteArrayView headers;
+};
+
+constexpr std::array frameworks = {
+    Framework{"googletest", "gtest/"},
+    Framework{"googletest", "gmock/"},
+    Framework{"cppunit", "cppunit/"},
+    Framework{"boost", "boost/test/"},
 };
 
 /// What Qt calls a system that the compiler predefines one of these for.
@@ -133,6 +148,26 @@ QStringList LibraryHints::libraries(const AnalysisOptions& options)
     for (const Hint& hint : hints) {
         const QString library = QString::fromLatin1(hint.library);
         if (!result.contains(library) && (matches(macros, hint.macros) || matches(folders, hint.folders))) {
+            result += library;
+        }
+    }
+    return result;
+}
+
+QStringList LibraryHints::testFrameworks(const QString& source)
+{
+    // Includes stand at the head.
+    constexpr qint64 head = 65536;
+    QStringList result;
+    QFile file(source);
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.read(head) : QByteArray();
+    for (const Framework& framework : frameworks) {
+        const qsizetype at = text.indexOf(framework.headers);
+        if (at <= 0 || !QByteArrayView("<\"").contains(text[at - 1])) {
+            continue;
+        }
+        const QString library = QString::fromLatin1(framework.library);
+        if (!result.contains(library)) {
             result += library;
         }
     }

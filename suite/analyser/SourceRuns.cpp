@@ -101,7 +101,8 @@ bool mayHideAnError(const SourceRuns::Task& task, const AnalyserRun& run)
 QString spelled(const QString& text)
 {
     QString result;
-    for (const char byte : text.toUtf8()) {
+    const QByteArray bytes = text.toUtf8();
+    for (const char byte : bytes) {
         const auto code = static_cast<unsigned char>(byte);
         result +=
             code >= ' ' && code < 0x7f ? QString(QLatin1Char(byte)) : u"\\%1"_s.arg(uint(code), 3, 8, QLatin1Char('0'));

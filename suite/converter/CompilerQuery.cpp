@@ -2,6 +2,7 @@
 #include "CompilerQuery.h"
 #include "BuiltinMacros.h"
 #include "CompilerRun.h"
+#include "LimitMacros.h"
 #include "Paths.h"
 
 #include <QDir>
@@ -123,6 +124,7 @@ QList<CompilerPersonality> CompilerQuery::ask(const QList<CompilerSetup>& setups
             answer.macros = builtinMacros(answer.setup);
             answer.program.clear();
         }
+        answer.macros = limitMacros(answer.macros) + answer.macros;
     }
     return answers;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Installation.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QTest>
 
@@ -34,21 +35,16 @@ private Q_SLOTS:
 
     void handsItsInputsToTheConverter_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QStringList>("inputs");
-        QTest::addColumn<QByteArray>("define");
+        const TestRows<QString, QStringList, QByteArray> row("type", "inputs", "define");
         const QString source = suite.path(u"work/src"_s);
-        const auto row = [](const QString& type, const QStringList& inputs, const char* define) {
-            QTest::addRow("%s", qPrintable(type)) << type << inputs << QByteArray(define);
-        };
-        row(u"Build folder (CMake, Meson, Ninja)"_s, {u"Build folder="_s + source}, "ninja");
-        row(u"CMake source folder"_s, {u"CMake source folder="_s + source, u"Options for cmake=-DFROM=options"_s},
-            "options");
-        row(u"Make project (recorded while it builds)"_s,
+        row("build folder", u"Build folder (CMake, Meson, Ninja)"_s, {u"Build folder="_s + source}, "ninja");
+        row("cmake", u"CMake source folder"_s,
+            {u"CMake source folder="_s + source, u"Options for cmake=-DFROM=options"_s}, "options");
+        row("make", u"Make project (recorded while it builds)"_s,
             {u"Folder to build in="_s + source, u"Build command=make -B all"_s,
              u"Environment of the build=FROM=env;X=1"_s},
             "env");
-        row(u"Visual Studio solution or project"_s,
+        row("visual studio", u"Visual Studio solution or project"_s,
             {u"Solution or project="_s + source + u"/x.vcxproj"_s, u"Configuration=ship"_s, u"Platform=arm64"_s},
             "ShipARM64");
     }

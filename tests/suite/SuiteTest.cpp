@@ -39,7 +39,8 @@ public:
     /// A conversion without a window, as a user would start it; the command is divided as a shell does.
     ProgramResult run(const QString& command) const
     {
-        return runProgram(path(u"create-project"_s), QProcess::splitCommand(u"-batch "_s + command));
+        return runProgram(path(u"create-project"_s), QProcess::splitCommand(u"-batch "_s + command), {},
+                          path(u"work"_s));
     }
 };
 
@@ -229,6 +230,7 @@ private Q_SLOTS:
             suite.writeScript(u"slow"_s, "sleep 1000 & echo $! > \"$0.pid\"; echo half > \"$1\"; wait").toUtf8() +
             "</exe><exeargs>%PF</exeargs></projectCreator>");
         QProcess program;
+        program.setWorkingDirectory(suite.path(u"work"_s));
         program.start(suite.path(u"create-project"_s),
                       {u"-batch"_s, u"-prj"_s, u"s.prj"_s, u"-type"_s, u"Slow"_s, u"-c"_s});
         QTRY_COMPARE(suite.read(u"work/s.prj"_s), QByteArray("half\n"));

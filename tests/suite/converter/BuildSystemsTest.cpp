@@ -4,6 +4,7 @@
 #include "Installation.h"
 #include "Notices.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QDir>
 #include <QFile>
@@ -121,12 +122,7 @@ private Q_SLOTS:
 
     void tellsWhyCMakeFails_data()
     {
-        QTest::addColumn<QByteArray>("lists");
-        QTest::addColumn<QString>("options");
-        QTest::addColumn<QString>("told");
-        const auto row = [](const char* name, const QByteArray& lists, const QString& options, const QString& told) {
-            QTest::addRow("%s", name) << lists << options << told;
-        };
+        const TestRows<QByteArray, QString, QString> row("lists", "options", "told");
         row("no lists", {}, {}, u"~/src: has no CMakeLists.txt"_s);
         row("broken",
             "cmake_minimum_required(VERSION 3.16)\nproject(x NONE)\nmessage(FATAL_ERROR \"it %s is <wrong>\")\n", {},
@@ -178,14 +174,7 @@ private Q_SLOTS:
 
     void tellsWhyNothingIsRecorded_data()
     {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("environment");
-        QTest::addColumn<QString>("told");
-        const auto row = [](const char* name, const QString& command, const QString& folder, const QString& environment,
-                            const QString& told) {
-            QTest::addRow("%s", name) << command << folder << environment << told;
-        };
+        const TestRows<QString, QString, QString, QString> row("command", "folder", "environment", "told");
         row("failed build", u"make fail"_s, u"src"_s, {}, u"going\nwrong\n"_s);
         row("its status", u"sh -c 'exit 3'"_s, u"src"_s, {}, u"bear ended with status 3"_s);
         row("no shell", u"true && make"_s, u"src"_s, {}, u"~/src: nothing was compiled"_s);
@@ -210,11 +199,10 @@ private Q_SLOTS:
 
     void namesTheMissingPackage_data()
     {
-        QTest::addColumn<BuildInputs>("inputs");
-        QTest::addColumn<QString>("told");
-        QTest::addRow("bear") << BuildInputs{.make = {.folder = u"src"_s}} << u"Install the package \"bear\"."_s;
-        QTest::addRow("cmake") << BuildInputs{.cmakeSource = u"src"_s} << u"Install the package \"cmake\"."_s;
-        QTest::addRow("ninja") << BuildInputs{.buildFolder = u"src"_s} << u"Install the package \"ninja-build\"."_s;
+        const TestRows<BuildInputs, QString> row("inputs", "told");
+        row("bear", {.make = {.folder = u"src"_s}}, u"Install the package \"bear\"."_s);
+        row("cmake", {.cmakeSource = u"src"_s}, u"Install the package \"cmake\"."_s);
+        row("ninja", {.buildFolder = u"src"_s}, u"Install the package \"ninja-build\"."_s);
     }
 
     void namesTheMissingPackage()

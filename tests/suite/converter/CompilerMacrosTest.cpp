@@ -35,6 +35,9 @@ private Q_SLOTS:
         QCOMPARE(lines.filter(u"-d _OPENMP="_s).size(), 1);
         QCOMPARE(lines.filter(u"-d __INT64_C(c)=c ##"_s).size(), 1);
         QCOMPARE(lines.filter(u"__cplusplus="_s).size(), 0);
+        // As <limits.h> has it.
+        QVERIFY(lines.contains(u"-d LLONG_MIN=(-0x7fffffffffffffffLL - 1)"_s));
+        QVERIFY(lines.contains(u"-d UINT_MAX=(0x7fffffff * 2U + 1U)"_s));
     }
 
     void asksWhatTheSearchPathHolds()

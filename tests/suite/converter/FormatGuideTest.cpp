@@ -2,6 +2,7 @@
 #include "ConvertedProject.h"
 #include "project/Project.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,15 +19,11 @@ class FormatGuideTest : public QObject
 private Q_SLOTS:
     void convertsFromAnyFolder_data()
     {
-        QTest::addColumn<QString>("guide");
-        QTest::addColumn<QString>("block");
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("format") << u"project-file.md"_s << u"```sh worked-converter\n"_s
-                                << QStringList{u"../src tree/list"_s, u"../src tree/options"_s, u"p.prj"_s, u"demo"_s,
-                                               u"ORVCPP"_s};
-        QTest::newRow("definitions") << u"settings-xml.md"_s << u"```sh\n"_s
-                                     << QStringList{u"../src tree/list"_s, u"p.prj"_s, u"demo"_s,
-                                                    u"ORVCPP"_s,           u"p.out"_s, u"cat"_s};
+        const TestRows<QString, QString, QStringList> row("guide", "block", "arguments");
+        row("format", u"project-file.md"_s, u"```sh worked-converter\n"_s,
+            {u"../src tree/list"_s, u"../src tree/options"_s, u"p.prj"_s, u"demo"_s, u"ORVCPP"_s});
+        row("definitions", u"settings-xml.md"_s, u"```sh\n"_s,
+            {u"../src tree/list"_s, u"p.prj"_s, u"demo"_s, u"ORVCPP"_s, u"p.out"_s, u"cat"_s});
     }
 
     void convertsFromAnyFolder()
