@@ -60,6 +60,13 @@ qsizetype afterCMake(const QStringList& words, qsizetype at)
     return afterLauncher(words, at + 3);
 }
 
+/// The command follows as words of its own, or as one that the reader has divided.
+bool takesACommand(const QString& shell, const QString& option)
+{
+    return (isShell(shell) && option == "-c"_L1) ||
+           (shell == "cmd"_L1 && option.compare("/c"_L1, Qt::CaseInsensitive) == 0);
+}
+
 } // namespace
 
 qsizetype CompilerName::find(const QStringList& words)
@@ -75,12 +82,10 @@ qsizetype CompilerName::find(const QStringList& words)
             next = afterLauncher(words, at + 1);
         } else if (isShell(name) && isLauncher(programName(words.value(at + 1)))) {
             next = at + 1;
-        } else if (isShell(name) && words.value(at + 1) == "-c"_L1) {
+        } else if (takesACommand(name, words.value(at + 1))) {
             next = at + 2;
         } else if (name == "cmake"_L1 && words.value(at + 1) == "-E"_L1) {
             next = afterCMake(words, at);
-        } else if (name == "cmd"_L1 && words.value(at + 1).compare("/c"_L1, Qt::CaseInsensitive) == 0) {
-            next = at + 2;
         }
         // A launcher's name alone is a compiler that is reached through it.
         if (next == at || next >= words.size()) {

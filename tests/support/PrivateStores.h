@@ -9,6 +9,7 @@ class PrivateStores
 {
 public:
     explicit PrivateStores(const QString& home);
+    // NOLINTNEXTLINE(performance-trivially-destructible): on Windows it has something to do.
     ~PrivateStores();
     Q_DISABLE_COPY_MOVE(PrivateStores)
 };
