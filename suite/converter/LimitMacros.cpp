@@ -36,6 +36,17 @@ QString valueOf(QLatin1StringView macro, const QStringList& predefined, QLatin1S
     return usual;
 }
 
+/// As one number: the analyser's preprocessor calculates with signed numbers only.
+QString largestUnsigned(const QString& largest, QLatin1StringView suffix)
+{
+    qsizetype end = largest.size();
+    while (end > 0 && (largest[end - 1] == u'L' || largest[end - 1] == u'U')) {
+        --end;
+    }
+    const qulonglong value = largest.first(end).toULongLong(nullptr, 0) * 2 + 1;
+    return u"0x"_s + QString::number(value, 16) + suffix;
+}
+
 } // namespace
 
 QStringList limitMacros(const QStringList& predefined)
@@ -45,7 +56,7 @@ QStringList limitMacros(const QStringList& predefined)
         const QString most = valueOf(limit.macro, predefined, limit.usual);
         result += limit.type + u"_MAX="_s + most;
         result += limit.type + u"_MIN=(-%1 - 1)"_s.arg(most);
-        result += limit.unsignedType + u"_MAX=(%1 * 2%2 + 1%2)"_s.arg(most, limit.suffix);
+        result += limit.unsignedType + u"_MAX="_s + largestUnsigned(most, limit.suffix);
     }
     return result;
 }
