@@ -2,7 +2,7 @@
 #include "CompilerQuery.h"
 #include "BuiltinMacros.h"
 #include "CompilerRun.h"
-#include "LimitMacros.h"
+#include "HeaderMacros.h"
 #include "Paths.h"
 
 #include <QDir>
@@ -124,7 +124,7 @@ QList<CompilerPersonality> CompilerQuery::ask(const QList<CompilerSetup>& setups
             answer.macros = builtinMacros(answer.setup);
             answer.program.clear();
         }
-        answer.macros = limitMacros(answer.macros) + answer.macros;
+        answer.macros = headerMacros(answer.macros) + answer.macros;
     }
     return answers;
 }
