@@ -61,6 +61,21 @@ QString DefinitionsReader::choice(QLatin1StringView attribute, std::initializer_
     return value;
 }
 
+QString DefinitionsReader::readElementText()
+{
+    QString result;
+    while (readNext() != EndElement && !hasError()) {
+        if (isStartElement()) {
+            raiseError(QCoreApplication::translate("QXmlStream", "Expected character data."));
+        } else if (result.isEmpty() && isCharacters()) {
+            result = text().toString();
+        } else if (isCharacters() || isEntityReference()) {
+            result += text();
+        }
+    }
+    return result;
+}
+
 int DefinitionsReader::readNumber()
 {
     const QString element = name().toString();

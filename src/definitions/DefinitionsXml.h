@@ -25,6 +25,8 @@ public:
     void passedOver(QStringView parent);
     /// An attribute that has one of these values, where it is given.
     QString choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values);
+    /// As the base's, without its copies: most elements hold one piece of text.
+    QString readElementText();
     /// The element's text as a number; 0 where it is none.
     int readNumber();
 

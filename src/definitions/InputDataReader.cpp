@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -75,18 +74,27 @@ void readMustBeSet(DefinitionsReader& xml, ArgumentDefinition& definition)
     }
 }
 
+bool isPlain(QStringView text)
+{
+    return std::ranges::all_of(text, [](QChar character) { return character.unicode() <= 127; });
+}
+
 QString valueKey(const ArgumentDefinition& definition, const ProjectCreatorData& creator)
 {
-    const QString text = definition.displayName + definition.argument + creator.name;
-    if (std::ranges::any_of(text, [](QChar character) { return character.unicode() > 127; })) {
+    const std::array<QStringView, 3> parts{definition.displayName, definition.argument, creator.name};
+    if (!std::ranges::all_of(parts, isPlain)) {
         static const QRegularExpression nonWord(u"\\W+"_s, QRegularExpression::UseUnicodePropertiesOption);
-        return QString(text).remove(nonWord);
+        return QString(definition.displayName + definition.argument + creator.name).remove(nonWord);
     }
     // The same for plain names, which a large file has thousands of.
-    QString key;
-    key.reserve(text.size());
-    std::ranges::copy_if(text, std::back_inserter(key),
-                         [](QChar character) { return character.isLetterOrNumber() || character == u'_'; });
+    QString key(parts[0].size() + parts[1].size() + parts[2].size(), Qt::Uninitialized);
+    QChar* end = key.data();
+    for (const QStringView part : parts) {
+        end = std::ranges::copy_if(part, end, [](QChar character) {
+                  return character.isLetterOrNumber() || character == u'_';
+              }).out;
+    }
+    key.truncate(end - key.constData());
     return key;
 }
 
