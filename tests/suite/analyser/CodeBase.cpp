@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CodeBase.h"
 
-#include <QDateTime>
+#include <QDir>
 #include <QDirIterator>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -17,6 +15,23 @@ namespace {
 
 constexpr QLatin1StringView checks("--enable=warning,style,performance,portability");
 
+QString joined(const QString& before, const QStringList& words, const QString& after = {})
+{
+    QString text;
+    for (const QString& word : words) {
+        text += before + word + after;
+    }
+    return text;
+}
+
+QStringList sortedLines(const QString& text)
+{
+    QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
+    lines.sort();
+    lines.removeDuplicates();
+    return lines;
+}
+
 } // namespace
 
 CodeBase::CodeBase()
@@ -28,35 +43,17 @@ CodeBase::CodeBase()
     }
 }
 
-QString CodeBase::write(const QString& name, const QByteArray& contents) const
-{
-    QDir().mkpath(QFileInfo(path(name)).absolutePath());
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
-        qFatal("cannot write %s", qPrintable(name));
-    }
-    return file.fileName();
-}
-
-QByteArray CodeBase::read(const QString& name) const
-{
-    QFile file(QDir::isAbsolutePath(name) ? name : path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void CodeBase::touch(const QString& name) const
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::ReadWrite) ||
-        !file.setFileTime(QDateTime::currentDateTime(), QFile::FileModificationTime)) {
-        qFatal("cannot touch %s", qPrintable(name));
-    }
-}
-
 void CodeBase::replaceProgram(const QString& name, const QByteArray& script) const
 {
-    QFile::setPermissions(write(u"bin/"_s + name, "#!/bin/sh\n" + script),
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    writeScript(u"bin/"_s + name, script);
+}
+
+CodePart CodeBase::overrunning(const QStringList& files, const QByteArray& head) const
+{
+    for (const QString& file : files) {
+        write(u"one/"_s + file, head + overrun);
+    }
+    return {.folder = u"one"_s, .files = files, .defines = {u"SIZE=3"_s}};
 }
 
 void CodeBase::project(const QList<CodePart>& parts, const QByteArray& messages) const
@@ -70,19 +67,12 @@ void CodeBase::project(const QList<CodePart>& parts, const QByteArray& messages)
     QString text = u"VersionTag 45\n"_s + body(u"."_s, u"default string"_s, u"*project=ORVCPP\n"_s);
     for (qsizetype i = 0; i < parts.size(); ++i) {
         const CodePart& part = parts[i];
-        QString lines = part.options;
-        for (const QString& define : part.defines) {
-            lines += u"-d "_s + define + u'\n';
-        }
-        for (const QString& name : part.undefines) {
-            lines += u"*orv undefine="_s + name + u'\n';
-        }
-        for (const QString& each : part.includeFolders) {
-            lines += u"-i \""_s + path(each) + u"\"\n"_s;
-        }
-        lines += part.standard.isEmpty() ? QString() : u"*orv standard="_s + part.standard + u'\n';
+        const QString standard = part.standard.isEmpty() ? QString() : u"*orv standard="_s + part.standard + u'\n';
+        const QString lines = part.options + joined(u"-d "_s, part.defines, u"\n"_s) +
+                              joined(u"*orv undefine="_s, part.undefines, u"\n"_s) +
+                              joined(u"-i \""_s + path() + u'/', part.includeFolders, u"\"\n"_s) + standard;
         const QString options = write(u"options/%1.p_a"_s.arg(i), lines.toUtf8());
-        text += u"StartSubProjectMarker\n"_s + body(part.folder, options, part.files.join(u'\n') + u'\n') +
+        text += u"StartSubProjectMarker\n"_s + body(part.folder, options, joined({}, part.files, u"\n"_s)) +
                 u"EndSubProjectMarker\n"_s;
     }
     write(u"p.prj"_s, (text + u"EndOfProjectFile\n"_s).toUtf8());
@@ -93,12 +83,12 @@ ProgramResult CodeBase::run(const QString& command, const QString& tool, const V
     return runProgram(path(u"bin/"_s + tool), QProcess::splitCommand(command), environment(more), path());
 }
 
-QStringList CodeBase::analysedIn(const ProgramResult& result)
+QStringList CodeBase::analyse(const QString& options) const
 {
     static const QRegularExpression status(u"^\\[\\d+/\\d+\\] (.*)$"_s, QRegularExpression::MultilineOption);
     QStringList names;
-    for (auto match = status.globalMatch(result.output); match.hasNext();) {
-        names += match.next().captured(1);
+    for (const QRegularExpressionMatch& told : status.globalMatch(run(u"analyse p.prj "_s + options).output)) {
+        names += told.captured(1);
     }
     names.sort();
     return names;
@@ -106,34 +96,32 @@ QStringList CodeBase::analysedIn(const ProgramResult& result)
 
 QStringList CodeBase::messages() const
 {
-    QByteArray text;
+    QString text;
     for (QDirIterator files(path(u"out"_s), {u"*.err"_s}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
          files.hasNext();) {
-        text += read(files.next());
+        text += QString::fromUtf8(read(files.next()));
     }
     return sortedLines(text);
+}
+
+QStringList CodeBase::messagesOfSources() const
+{
+    QStringList lines = messages();
+    lines.removeIf([](const QString& line) { return line.endsWith("[unusedFunction]"_L1); });
+    return lines;
 }
 
 QStringList CodeBase::messagesByHand(const QList<CodePart>& parts, const QStringList& options) const
 {
     QJsonArray entries;
     for (const CodePart& part : parts) {
-        QStringList arguments{u"c++"_s};
-        for (const QString& define : part.defines) {
-            // As CMake writes it. Of the other form, a list of words, cppcheck loses these quotes.
-            arguments += u"-D"_s + QString(define).replace(u'"', u"\\\""_s);
-        }
-        for (const QString& name : part.undefines) {
-            arguments += u"-U"_s + name;
-        }
-        for (const QString& each : part.includeFolders) {
-            arguments += u"-I"_s + path(each);
-        }
-        arguments += part.standard.isEmpty() ? QStringList() : QStringList{u"-std="_s + part.standard};
+        // As CMake writes it. Of the other form, a list of words, cppcheck loses these quotes.
+        const QString defines = joined(u" -D"_s, part.defines).replace(u'"', u"\\\""_s);
+        const QString standard = part.standard.isEmpty() ? QString() : u" -std="_s + part.standard;
+        const QString command = u"c++"_s + defines + joined(u" -U"_s, part.undefines) +
+                                joined(u" -I"_s + path() + u'/', part.includeFolders) + standard + u" -c"_s;
         for (const QString& file : part.files) {
-            entries += QJsonObject{{u"directory"_s, path(part.folder)},
-                                   {u"file"_s, file},
-                                   {u"command"_s, (arguments + QStringList{u"-c"_s}).join(u' ')}};
+            entries += QJsonObject{{u"directory"_s, path(part.folder)}, {u"file"_s, file}, {u"command"_s, command}};
         }
     }
     const QString database = write(u"by-hand.json"_s, QJsonDocument(entries).toJson());
@@ -142,16 +130,8 @@ QStringList CodeBase::messagesByHand(const QList<CodePart>& parts, const QString
                    QStringList{u"-q"_s, u"--inline-suppr"_s, u"--project="_s + database,
                                u"--template={file}:{line}:{column}: {severity}: {message} [{id}]"_s} +
                        (options.isEmpty() ? QStringList{checks} : options),
-                   environment({}), path(u"bin"_s));
-    return sortedLines(result.errors.toUtf8());
-}
-
-QStringList CodeBase::sortedLines(const QByteArray& text)
-{
-    QStringList lines = QString::fromUtf8(text).split(u'\n', Qt::SkipEmptyParts);
-    lines.sort();
-    lines.removeDuplicates();
-    return lines;
+                   environment(), path(u"bin"_s));
+    return sortedLines(result.errors);
 }
 
 Variables CodeBase::environment(const Variables& more) const

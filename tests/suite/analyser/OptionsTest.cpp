@@ -45,16 +45,12 @@ private Q_SLOTS:
     void librariesAndPlatforms_data()
     {
         const TestRows<QString, QString> row("lines", "told");
-        row("nothing", {}, {});
-        row("Qt by macro", u"-d QT_WIDGETS_LIB\n"_s, u"qt"_s);
-        row("Qt by folder", u"-i \"/usr/include/qt6/QtCore\"\n"_s, u"qt"_s);
         row("no Qt", u"-i \"/home/qt/project/src\"\n"_s, {});
         row("GTK", u"*orv folder=system\n-i \"/usr/include/gtk-3.0\"\n"_s, u"gtk"_s);
         row("Linux", u"-d __linux__=1\n-d _GNU_SOURCE=1\n-d __SIZEOF_POINTER__=8\n"_s, u"posix gnu unix64"_s);
         row("Windows", u"-d _WIN32=1\n-d UNICODE\n"_s, u"windows win32W"_s);
         row("64 bit Windows", u"-d _WIN32=1\n-d _WIN64=1\n"_s, u"windows win64"_s);
         row("cross compiler", u"*orv compiler=\"/usr/bin/x86_64-w64-mingw32-gcc\"\n"_s, u"win64"_s);
-        row("32 bit", u"*orv target=-m32\n"_s, u"unix32"_s);
         row("unsigned characters", u"*orv target=-funsigned-char\n"_s, u"unix64-unsigned"_s);
         row("named", u"*orv library=boost\n*orv platform=pic16\n-d _WIN32\n"_s, u"boost windows pic16"_s);
     }
@@ -62,7 +58,6 @@ private Q_SLOTS:
     void librariesAndPlatforms()
     {
         QFETCH(const QString, lines);
-        QFETCH(const QString, told);
         const CodeBase code;
         OptionReader reader;
         reader.readFile(code.write(u"o.p_a"_s, lines.toUtf8()));
@@ -70,35 +65,29 @@ private Q_SLOTS:
         QStringList words = LibraryHints::libraries(reader.options);
         words += LibraryHints::platform(reader.options);
         words.removeAll(QString());
-        QCOMPARE(words.join(u' '), told);
+        QTEST(words.join(u' '), "told");
     }
 
     void linesBecomeFindings_data()
     {
-        const TestRows<QString, QString, int, QString> row("text", "file", "line", "id");
-        row("usual", u"/a/b.c:3:14: style: Text [id]"_s, u"/a/b.c"_s, 3, u"id"_s);
-        row("colons and blanks", u"/a: style: b.c:3:14: error: A: b [c]: d [id]"_s, u"/a: style: b.c"_s, 3, u"id"_s);
-        row("drive", u"C:\\a.c:3:1: warning: T [x-1.2]"_s, u"C:\\a.c"_s, 3, u"x-1.2"_s);
-        row("no text", u"nofile:0:0: information:  [id]"_s, u"nofile"_s, 0, u"id"_s);
-        row("no id", u"/a/b.c:3:14: style: Text"_s, {}, 0, {});
-        row("no severity", u"/a/b.c:3:14: bad: Text [id]"_s, {}, 0, {});
-        row("no number", u"/a/b.c:x:14: style: Text [id]"_s, {}, 0, {});
+        const TestRows<QString, QString> row("text", "read");
+        row("usual", u"/a/b.c:3:14: style: Text [id]"_s, u"/a/b.c|3|id"_s);
+        row("colons and blanks", u"/a: style: b.c:3:14: error: A: b [c]: d [id]"_s, u"/a: style: b.c|3|id"_s);
+        row("drive", u"C:\\a.c:3:1: warning: T [x-1.2]"_s, u"C:\\a.c|3|x-1.2"_s);
+        row("no text", u"nofile:0:0: information:  [id]"_s, u"nofile|0|id"_s);
+        row("no id", u"/a/b.c:3:14: style: Text"_s, {});
+        row("no severity", u"/a/b.c:3:14: bad: Text [id]"_s, {});
+        row("no number", u"/a/b.c:x:14: style: Text [id]"_s, {});
     }
 
     void linesBecomeFindings()
     {
         QFETCH(const QString, text);
-        QFETCH(const QString, file);
-        QFETCH(const int, line);
-        QFETCH(const QString, id);
         Finding finding;
-        QCOMPARE(finding.fromLine(text), !file.isEmpty());
-        if (!file.isEmpty()) {
-            QCOMPARE(finding.file, file);
-            QCOMPARE(finding.line, line);
-            QCOMPARE(finding.id, id);
-            QCOMPARE(finding.toLine(), text);
-        }
+        const bool isFinding = finding.fromLine(text);
+        const QString line = QString::number(finding.line);
+        QTEST(isFinding ? finding.file + u'|' + line + u'|' + finding.id : QString(), "read");
+        QCOMPARE(isFinding ? finding.toLine() : text, text);
     }
 };
 

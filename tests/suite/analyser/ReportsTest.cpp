@@ -87,7 +87,6 @@ private Q_SLOTS:
     void messagePersonalitiesSelect_data()
     {
         const TestRows<QByteArray, QString> row("messages", "shown");
-        const QString gaveUp = u"error syntaxError"_s;
         row("nothing said", {},
             u"error broken, error syntaxError, information elsewhere, style headerStyle, warning odd"_s);
         row("only", "-only odd,broken\n", u"error broken, error syntaxError, warning odd"_s);
@@ -98,18 +97,16 @@ private Q_SLOTS:
         row("hidden ones are forgotten", "-nomsg odd\n-forgetall nomsg\n-threshold 3\n",
             u"error broken, error syntaxError, warning odd"_s);
         row("threshold 2", "-threshold 2\n", u"error broken, error syntaxError, style headerStyle, warning odd"_s);
-        row("threshold 4", "-threshold 4\n", u"error broken, error syntaxError"_s);
         row("shown as errors", "*orv errors=headerStyle\n-threshold 4\n",
             u"error broken, error headerStyle, error syntaxError"_s);
-        row("why a source was not analysed stays", "-nomsg error,warning,style,information\n", gaveUp);
+        row("why a source was not analysed stays", "-nomsg error,warning,style,information\n", u"error syntaxError"_s);
     }
 
     void messagePersonalitiesSelect()
     {
         QFETCH(const QByteArray, messages);
-        QFETCH(const QString, shown);
         const Results results(messages);
-        QCOMPARE(shownIds(results.report(u"--text"_s).output), shown);
+        QTEST(shownIds(results.report(u"--text"_s).output), "shown");
     }
 
     void codingStandardsComeOnTop()
