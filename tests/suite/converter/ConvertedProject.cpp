@@ -23,6 +23,24 @@ void ConvertedProject::writeDatabase(const QByteArray& entries) const
     write(u"work/db.json"_s, entries);
 }
 
+void ConvertedProject::writeCommand(const QString& file, const QString& command, const QString& directory) const
+{
+    QJsonObject entry{{u"file"_s, file}, {u"command"_s, command}};
+    if (!directory.isEmpty()) {
+        entry.insert(u"directory"_s, directory);
+    }
+    writeDatabase(QJsonDocument(QJsonArray{entry}).toJson());
+}
+
+void ConvertedProject::writeCommands(const QStringList& commands) const
+{
+    QJsonArray entries;
+    for (const QString& command : commands) {
+        entries += QJsonObject{{u"file"_s, command.section(u' ', -1)}, {u"command"_s, command}};
+    }
+    writeDatabase(QJsonDocument(entries).toJson());
+}
+
 ProgramResult ConvertedProject::convert(const QStringList& arguments) const
 {
     QStringList all{u"--output"_s, work(u"p.prj"_s)};
@@ -63,6 +81,16 @@ QList<ConvertedProject::Part> ConvertedProject::parts() const
         }
     }
     return result;
+}
+
+QString ConvertedProject::files() const
+{
+    QStringList names;
+    for (const Part& part : parts()) {
+        names += part.files;
+    }
+    names.sort();
+    return names.join(u' ');
 }
 
 ConvertedProject::Part ConvertedProject::partOf(const QString& file) const

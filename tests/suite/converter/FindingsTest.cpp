@@ -5,9 +5,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>
@@ -139,15 +136,8 @@ private Q_SLOTS:
         QFETCH(const QStringList, perFile);
         const ConvertedProject project;
         writeFiles(project, files);
-        QJsonArray entries;
-        for (const QString& command : commands) {
-            entries.append(QJsonObject{{u"directory"_s, project.path(u"work"_s)},
-                                       {u"file"_s, command.section(u' ', -1)},
-                                       {u"command"_s, command}});
-        }
-        project.writeDatabase(QJsonDocument(entries).toJson());
-        const ProgramResult result = project.convertDatabase();
-        QVERIFY2(result.status == 0, qPrintable(result.errors));
+        project.writeCommands(commands);
+        QCOMPARE(project.convertDatabase().errors, QString());
         const ProgramResult analysis = analyse(project);
         QVERIFY2(analysis.status == 0, qPrintable(analysis.errors));
         qsizetype found = 0;
