@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "CommandWords.h"
 #include "ConvertedProject.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
@@ -12,23 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The defines and include folders of a compiler's command as an options file has them.
-QStringList asOptions(const QString& command, const QString& folder)
-{
-    QStringList defines;
-    QStringList folders;
-    CommandWords words;
-    words.split(command.toUtf8(), CommandWords::Rules::Shell);
-    for (const QString& word : words.texts()) {
-        if (word.startsWith("-D"_L1)) {
-            defines += u"-d "_s + word.sliced(2);
-        } else if (word.startsWith("-I"_L1)) {
-            folders += u"-i \"%1/%2\""_s.arg(folder, word.sliced(2));
-        }
-    }
-    return defines + folders;
-}
 
 QStringList sourceLines(const ConvertedProject& place)
 {
@@ -50,24 +32,6 @@ class BuildConversionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void keepsWhatMakeUsed()
-    {
-        const ConvertedProject place;
-        place.write(u"work/src/Makefile"_s, "all: a.o b.o\na.o:\n\tgcc -DSIZE=1 -DNAME=\"$(NAME)\" -Ione -Itwo -c a.c\n"
-                                            "b.o:\n\tgcc -DSIZE=2 '-DTEXT=\"x y\"' -Itwo -Ione -c b.c\n");
-        place.write(u"work/src/a.c"_s, "int a = SIZE;\n");
-        place.write(u"work/src/b.c"_s, "const char* b = TEXT;\n");
-        const ProgramResult result =
-            place.convert({u"--make-folder"_s, u"src"_s, u"--make-command"_s, u"make -B"_s, u"--environment"_s,
-                           u"NAME=unsigned int"_s, u"--options"_s, u"sub-projects"_s});
-        QVERIFY2(result.status == 0, qPrintable(result.errors));
-        QStringList used = result.output.split(u'\n').filter(QRegularExpression(u"^gcc "_s));
-        QCOMPARE(used.size(), 2);
-        for (const QString& command : std::as_const(used)) {
-            QCOMPARE(place.optionsOf(u"/src/"_s + command.section(u' ', -1)), asOptions(command, u"~/src"_s));
-        }
-    }
-
     void makesPartsOfTargets()
     {
         const ConvertedProject place;
@@ -82,16 +46,6 @@ private Q_SLOTS:
         QVERIFY2(result.status == 0, qPrintable(result.errors));
         QVERIFY2(result.output.contains("-- Generating done"_L1), qPrintable(result.output));
         QCOMPARE(sourceLines(place).join(u'|'), u"one a.cpp: -d A=1 -d FOR_one|two a.cpp: -d A=1 -d FOR_two"_s);
-    }
-
-    void asksNinjaAboutAFolderWithoutADatabase()
-    {
-        const ConvertedProject place;
-        place.write(u"work/src/a.c"_s, "int a;\n");
-        place.write(u"work/build/build.ninja"_s, "rule cc\n command = cc -DA=3 -c $in\nbuild a.o: cc ../src/a.c\n");
-        const ProgramResult result = place.convert({u"--compile-commands"_s, u"build"_s});
-        QVERIFY2(result.status == 0, qPrintable(result.errors));
-        QCOMPARE(sourceLines(place).join(u'|'), u"p a.c: -d A=3"_s);
     }
 
     void makesPartsOfProjects()
