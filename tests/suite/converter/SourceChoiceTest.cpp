@@ -119,10 +119,6 @@ private Q_SLOTS:
         const ProgramResult result = project.convert({u"--compile-commands"_s, u"."_s});
         QVERIFY2(result.errors.contains("there is no compile_commands.json in this folder"_L1),
                  qPrintable(result.errors));
-        // Where there is none, Ninja is asked.
-        project.write(u"work/build.ninja"_s, "rule cc\n command = cc -DA=3 -c $in\nbuild a.o: cc a.c\n");
-        QCOMPARE(project.convert({u"--compile-commands"_s, u"."_s}).errors, QString());
-        QCOMPARE(project.optionsOf(u"a.c"_s), QStringList{u"-d A=3"_s});
     }
 };
 
