@@ -218,9 +218,10 @@ private Q_SLOTS:
     void stopsOnASignal()
     {
         const InstalledSuite suite;
-        suite.define("<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
-                     suite.writeScript(u"slow"_s, "echo half > \"$1\"; exec sleep 1000").toUtf8() +
-                     "</exe><exeargs>%PF</exeargs></projectCreator>");
+        suite.define(
+            "<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
+            suite.writeScript(u"slow"_s, "sleep 1000 & echo $! > \"$0.pid\"; echo half > \"$1\"; wait").toUtf8() +
+            "</exe><exeargs>%PF</exeargs></projectCreator>");
         QProcess program;
         program.setWorkingDirectory(suite.path(u"work"_s));
         program.start(suite.path(u"create-project"_s), u"-batch -prj s.prj -type Slow -c"_s.split(u' '));

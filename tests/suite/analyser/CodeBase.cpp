@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -45,7 +46,8 @@ CodeBase::CodeBase()
 
 void CodeBase::replaceProgram(const QString& name, const QByteArray& script) const
 {
-    writeScript(u"bin/"_s + name, script);
+    QFile::setPermissions(write(u"bin/"_s + name, "#!/bin/sh\n" + script),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 CodePart CodeBase::overrunning(const QStringList& files, const QByteArray& head) const

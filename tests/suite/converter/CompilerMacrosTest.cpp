@@ -61,12 +61,15 @@ private Q_SLOTS:
         const QString compiler = project.writeScript(
             u"tools/gcc"_s,
             "echo asked >> \"$0.log\"\necho '#define ASKED_WITH '\"$*\"\nread line && echo '#define INPUT' || true");
-        QStringList commands;
+        QByteArray entries = "[";
         for (int i = 0; i < 20; ++i) {
-            commands += compiler + u" -std=c99 -m32 -DI=%1 -arch x -c s/%1.c"_s.arg(i);
+            entries += (i == 0 ? "" : ",") + QByteArray(R"({"file": "s/)") + QByteArray::number(i) +
+                       R"(.c", "command": ")" + compiler.toUtf8() + R"( -std=c99 -m32 -DI=)" + QByteArray::number(i) +
+                       " -arch x -c x.c\"}";
         }
-        project.writeCommands(commands);
-        QCOMPARE(project.convertDatabase({u"--compiler-macros"_s, u"1"_s}).errors, QString());
+        project.writeDatabase(entries + "]");
+        const ProgramResult result = project.convertDatabase({u"--compiler-macros"_s, u"1"_s});
+        QVERIFY2(result.status == 0, qPrintable(result.errors));
         QCOMPARE(project.read(u"tools/gcc.log"_s), QByteArray("asked\n"));
         QCOMPARE(project.options(project.partOf(u"3.c"_s).compiler).constLast(),
                  u"-d ASKED_WITH=-E -dM -v -x c -std=c99 -m32 -arch x -"_s);
