@@ -231,6 +231,9 @@ private Q_SLOTS:
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);
         QVERIFY(!QFile::exists(suite.path(u"work/s.prj"_s)));
+        const QByteArray child = suite.read(u"slow.pid"_s);
+        QVERIFY(!child.isEmpty());
+        QTRY_VERIFY(!Installation::isAlive(child));
     }
 
 private:

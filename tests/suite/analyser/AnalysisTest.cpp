@@ -79,13 +79,11 @@ private Q_SLOTS:
     void optionsReachTheAnalyser_data()
     {
         const TestRows<QString, QByteArray, QString> row("options", "source", "message");
-        row("forced include", u"-fi \"%1/forced.h\"\n"_s, overrun, u"index 6"_s);
         row("macros of a file", u"*orv macros=\"%1/forced.h\"\n"_s, overrun, u"index 6"_s);
         row("a semicolon in a define", u"-d SIZE=5\n-d CODE=int q;int r\n"_s, QByteArray("CODE;\n") + overrun,
             u"index 5"_s);
         row("blanks and quotes in a define", u"-d SIZE=sizeof(\"a \\\\ b\")\n"_s, overrun, u"index 6"_s);
         row("a blank in a folder", u"-i \"%1/in c\"\n"_s, QByteArray("#include \"s.h\"\n") + overrun, u"index 4"_s);
-        row("last define wins", u"-d SIZE=1\n-u SIZE\n-d SIZE=8\n"_s, overrun, u"index 8"_s);
         row("quote folder", u"-i \"%1/other\"\n*orv folder=quote\n-i \"%1/in c\"\n"_s,
             QByteArray("#include \"s.h\"\n") + overrun, u"index 4"_s);
         row("after folder", u"*orv folder=after\n-i \"%1/other\"\n-i \"%1/in c\"\n"_s,

@@ -190,32 +190,24 @@ private Q_SLOTS:
         QCOMPARE(QDir(project.work(u"p.options"_s)).entryList(QDir::Files), QStringList{QFileInfo(part).fileName()});
     }
 
-    void keepsAForeignConfigurationFile()
-    {
-        const ConvertedProject project;
-        project.writeCommands(twoSets());
-        project.write(u"work/p.options.p_a"_s, "mine\n");
-        const auto before = snapshot(project);
-        const ProgramResult result = project.convertDatabase();
-        QCOMPARE(result.status, 1);
-        QVERIFY2(result.errors.contains("was not written by this program"_L1), qPrintable(result.errors));
-        QCOMPARE(snapshot(project), before);
-    }
-
     void writesAllOrNothing_data()
     {
-        const TestRows<QString, QString> row("prepare", "start");
-        row("full disk", {}, u"trap '' XFSZ; ulimit -f 0"_s);
-        row("full disk at the end", {}, u"trap '' XFSZ; ulimit -f 1"_s);
-        row("project is a folder", u"rm p.prj; mkdir p.prj"_s, u"true"_s);
-        row("options folder is a file", u"rm -r p.options; touch p.options"_s, u"true"_s);
-        row("lost folder", {}, u"mkdir x; cd x; rmdir ../x"_s);
+        const TestRows<QString, QString, QString> row("prepare", "start", "says");
+        const QString failed = u"can not be written ("_s;
+        row("full disk", {}, u"trap '' XFSZ; ulimit -f 0"_s, failed);
+        row("full disk at the end", {}, u"trap '' XFSZ; ulimit -f 1"_s, failed);
+        row("project is a folder", u"rm p.prj; mkdir p.prj"_s, u"true"_s, failed);
+        row("options folder is a file", u"rm -r p.options; touch p.options"_s, u"true"_s, failed);
+        row("lost folder", {}, u"mkdir x; cd x; rmdir ../x"_s, failed);
+        row("options file of the user", u"echo mine > p.options.p_a"_s, u"true"_s,
+            u"was not written by this program"_s);
     }
 
     void writesAllOrNothing()
     {
         QFETCH(const QString, prepare);
         QFETCH(const QString, start);
+        QFETCH(const QString, says);
         const ConvertedProject project;
         project.writeCommands(twoSets());
         QCOMPARE(project.convertDatabase().status, 0);
@@ -234,7 +226,7 @@ private Q_SLOTS:
              QStringLiteral(CONVERTER), work, output},
             {{u"LC_ALL"_s, u"C.UTF-8"_s}}, work);
         QCOMPARE(result.status, 1);
-        QVERIFY2(result.errors.contains("can not be written ("_L1), qPrintable(result.errors));
+        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
         QCOMPARE(snapshot(project), before);
     }
 };

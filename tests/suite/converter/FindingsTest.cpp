@@ -120,13 +120,6 @@ private Q_SLOTS:
              {u"y/n.h"_s, "#define N 0\n"}},
             {u"c++ @r.rsp -c a.cpp"_s, u"c++ -DSIZE=1 -USIZE -DSIZE=0 -Iy -c b.cpp"_s, u"cc -std=c99 -c c.c"_s},
             {u"-Iy --include=force.h"_s, u"-DSIZE=0 -Iy"_s, u"--std=c99"_s});
-        row("written for Windows",
-            {{u"a.cpp"_s, usesSize},
-             {u"b.cpp"_s, "#ifdef _MT\nint h() { int v[2] = {0, 1}; return v[2]; }\n#endif\n#include \"n.h\"\n"},
-             {u"c.cpp"_s, "#ifdef _MT\nint h() { int v[2] = {0, 1}; return v[2]; }\n#endif\n"},
-             {u"inc/n.h"_s, "inline int n() { int v[1]; return v[0]; }\n"}},
-            {u"cl.exe /nologo /DSIZE=2 /c a.cpp"_s, u"clang-cl /MD /I inc /c b.cpp"_s, u"cl.exe /c c.cpp"_s},
-            {u"-DSIZE=2"_s, u"-D_MT=1 -D_DLL=1 -Iinc"_s, u""_s});
     }
 
     void findsTheSame()
