@@ -168,9 +168,6 @@ private Q_SLOTS:
         settings.readDocument(guideBlock(u"xml worked-example"_s).toUtf8(), {.readPage = readLauncherPage});
         QCOMPARE(settings.lastError.reason, QString());
         ProjectCreatorData& creator = *settings.projectCreators.at(0);
-        QCOMPARE(
-            described(settings.projectCreators),
-            u"[name=My file list forC=true forCpp=true exe=listprj args=%IN_LIST,%PF,%J,%Q,%IN_OUTPUT,%IN_ORDER]"_s);
         QCOMPARE(creator.inputData.at(1)->key, u"OutputfolderIN_OUTPUTMyfilelist"_s);
         BatchInputs inputs(creator.inputData, true);
         QCOMPARE(inputs.set(u"File list=files.txt"_s).problem, QString());

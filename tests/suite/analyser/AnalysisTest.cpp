@@ -79,6 +79,7 @@ private Q_SLOTS:
     void optionsReachTheAnalyser_data()
     {
         const TestRows<QString, QByteArray, QString> row("options", "source", "message");
+        row("forced include", u"-fi \"%1/forced.h\"\n"_s, overrun, u"index 6"_s);
         row("macros of a file", u"*orv macros=\"%1/forced.h\"\n"_s, overrun, u"index 6"_s);
         row("a semicolon in a define", u"-d SIZE=5\n-d CODE=int q;int r\n"_s, QByteArray("CODE;\n") + overrun,
             u"index 5"_s);

@@ -97,47 +97,32 @@ private Q_SLOTS:
         }
     }
 
-    void findsTheSame_data()
-    {
-        const TestRows<Files, QStringList, QStringList> row("files", "commands", "perFile");
-        const QByteArray usesSize = "int f() { int v[2] = {0, 1}; return v[SIZE]; }\n";
-        row("conflicting defines and order of folders",
-            {{u"a.cpp"_s, usesSize},
-             {u"b.cpp"_s, usesSize},
-             {u"c.cpp"_s, "#include \"n.h\"\nint h() { int v[2] = {0, 1}; return v[N]; }\n"},
-             {u"d.cpp"_s, "#include \"n.h\"\nint k() { int v[2] = {0, 1}; return v[N]; }\n"},
-             {u"x/n.h"_s, "#define N 1\n"},
-             {u"y/n.h"_s, "#define N 2\n"}},
-            {u"c++ -DSIZE=1 -c a.cpp"_s, u"c++ -DSIZE=2 -c b.cpp"_s, u"c++ -Ix -Iy -c c.cpp"_s,
-             u"c++ -Iy -Ix -c d.cpp"_s},
-            {u"-DSIZE=1"_s, u"-DSIZE=2"_s, u"-Ix -Iy"_s, u"-Iy -Ix"_s});
-        row("response files and forced includes",
-            {{u"a.cpp"_s, usesSize},
-             {u"b.cpp"_s, "#include \"n.h\"\nint h() { int v[2] = {0, 1}; return v[N + SIZE]; }\n"},
-             {u"c.c"_s, "int* k(void) { void* class = 0; return (int*)class; }\n"},
-             {u"r.rsp"_s, "-Iy -include force.h"},
-             {u"force.h"_s, "#define SIZE 2\n"},
-             {u"y/n.h"_s, "#define N 0\n"}},
-            {u"c++ @r.rsp -c a.cpp"_s, u"c++ -DSIZE=1 -USIZE -DSIZE=0 -Iy -c b.cpp"_s, u"cc -std=c99 -c c.c"_s},
-            {u"-Iy --include=force.h"_s, u"-DSIZE=0 -Iy"_s, u"--std=c99"_s});
-    }
-
     void findsTheSame()
     {
-        QFETCH(const Files, files);
-        QFETCH(const QStringList, commands);
-        QFETCH(const QStringList, perFile);
         const ConvertedProject project;
-        writeFiles(project, files);
+        const QByteArray usesSize = "int f() { int v[2] = {0, 1}; return v[SIZE]; }\n";
+        const QByteArray usesHeader = "#include \"n.h\"\nint h() { int v[2] = {0, 1}; return v[N]; }\n";
+        writeFiles(project, {{u"a.cpp"_s, usesSize},
+                             {u"b.cpp"_s, usesSize},
+                             {u"c.cpp"_s, usesHeader},
+                             {u"d.cpp"_s, usesHeader},
+                             {u"x/n.h"_s, "#define N 1\n"},
+                             {u"y/n.h"_s, "#define N 2\n"}});
+        const std::pair<QString, QString> sources[] = {{u"a.cpp"_s, u"-DSIZE=1"_s},
+                                                       {u"b.cpp"_s, u"-DSIZE=2"_s},
+                                                       {u"c.cpp"_s, u"-Ix -Iy"_s},
+                                                       {u"d.cpp"_s, u"-Iy -Ix"_s}};
+        QStringList commands;
+        for (const auto& [source, options] : sources) {
+            commands += u"c++ %1 -c %2"_s.arg(options, source);
+        }
         project.writeCommands(commands);
         QCOMPARE(project.convertDatabase().errors, QString());
         const ProgramResult analysis = analyse(project);
         QVERIFY2(analysis.status == 0, qPrintable(analysis.errors));
         qsizetype found = 0;
-        for (qsizetype i = 0; i < commands.size(); ++i) {
-            const QString source = commands[i].section(u' ', -1);
-            const QStringList expected =
-                findings(perFile[i].split(u' ', Qt::SkipEmptyParts) + QStringList{source}, project.path(u"work"_s));
+        for (const auto& [source, options] : sources) {
+            const QStringList expected = findings(options.split(u' ') + QStringList{source}, project.path(u"work"_s));
             QCOMPARE(foundIn(project, source), expected);
             found += expected.size();
         }
