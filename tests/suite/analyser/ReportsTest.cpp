@@ -19,14 +19,14 @@ namespace {
 class Results : public CodeBase
 {
 public:
-    explicit Results(const QByteArray& messages = {}, const QString& options = {})
+    explicit Results(const QByteArray& messages = {})
     {
         QStringList files;
         for (const auto& name : {u"a.cpp"_s, u"b <&> ü.cpp"_s, u"c.cpp"_s, u"bad.cpp"_s, u"new.cpp"_s}) {
             files += name;
             write(u"one/"_s + name, "int x;\nint y;\nint z;\n");
         }
-        project({{.folder = u"one"_s, .files = files, .options = options}}, messages);
+        project({{.folder = u"one"_s, .files = files}}, messages);
         const QByteArray header = path(u"one/h.h"_s).toUtf8() + ":2:5: style: In a header [headerStyle]\n";
         write(u"one/h.h"_s, "int h;\nint i;\n");
         result(u"a.cpp"_s, header + place(u"a.cpp"_s) + "3:7: error: Broken \"a, b\" <b>bold</b> [broken]\n");

@@ -86,7 +86,6 @@ private Q_SLOTS:
     void smallSourcesShareAProcess()
     {
         QFETCH(const QByteArray, obstacle);
-        QFETCH(const int, processes);
         const CodeBase code;
         code.write(u"one/h.h"_s, "static int h(void) { int w[2]; return w[3]; }\n");
         const CodePart part = code.overrunning(numbered(u"s%1.c"_s, 20), "#include \"h.h\"\n");
@@ -97,7 +96,7 @@ private Q_SLOTS:
                                                code.path(u"starts"_s).toUtf8() + '\n' + obstacle + ";; esac\n" +
                                                realAnalyser());
         QCOMPARE(code.analyse().size(), 20);
-        QCOMPARE(code.read(u"starts"_s).size(), processes);
+        QTEST(int(code.read(u"starts"_s).size()), "processes");
         for (int i = 0; i < 20; ++i) {
             const QByteArray found = code.read(u"out/one/s%1.c.err"_s.arg(i));
             QCOMPARE(found.contains("/one/h.h:1:"), i != 7);
