@@ -67,28 +67,6 @@ private Q_SLOTS:
         words.removeAll(QString());
         QTEST(words.join(u' '), "told");
     }
-
-    void linesBecomeFindings_data()
-    {
-        const TestRows<QString, QString> row("text", "read");
-        row("usual", u"/a/b.c:3:14: style: Text [id]"_s, u"/a/b.c|3|id"_s);
-        row("colons and blanks", u"/a: style: b.c:3:14: error: A: b [c]: d [id]"_s, u"/a: style: b.c|3|id"_s);
-        row("drive", u"C:\\a.c:3:1: warning: T [x-1.2]"_s, u"C:\\a.c|3|x-1.2"_s);
-        row("no text", u"nofile:0:0: information:  [id]"_s, u"nofile|0|id"_s);
-        row("no id", u"/a/b.c:3:14: style: Text"_s, {});
-        row("no severity", u"/a/b.c:3:14: bad: Text [id]"_s, {});
-        row("no number", u"/a/b.c:x:14: style: Text [id]"_s, {});
-    }
-
-    void linesBecomeFindings()
-    {
-        QFETCH(const QString, text);
-        Finding finding;
-        const bool isFinding = finding.fromLine(text);
-        const QString line = QString::number(finding.line);
-        QTEST(isFinding ? finding.file + u'|' + line + u'|' + finding.id : QString(), "read");
-        QCOMPARE(isFinding ? finding.toLine() : text, text);
-    }
 };
 
 KOVRA_TEST(OptionsTest)
