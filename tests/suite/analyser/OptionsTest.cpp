@@ -67,6 +67,34 @@ private Q_SLOTS:
         words.removeAll(QString());
         QTEST(words.join(u' '), "told");
     }
+
+    void linesBecomeFindings_data()
+    {
+        const TestRows<QString, QString, int, QString> row("text", "file", "line", "id");
+        row("usual", u"/a/b.c:3:14: style: Text [id]"_s, u"/a/b.c"_s, 3, u"id"_s);
+        row("colons and blanks", u"/a: style: b.c:3:14: error: A: b [c]: d [id]"_s, u"/a: style: b.c"_s, 3, u"id"_s);
+        row("drive", u"C:\\a.c:3:1: warning: T [x-1.2]"_s, u"C:\\a.c"_s, 3, u"x-1.2"_s);
+        row("no text", u"nofile:0:0: information:  [id]"_s, u"nofile"_s, 0, u"id"_s);
+        row("no id", u"/a/b.c:3:14: style: Text"_s, {}, 0, {});
+        row("no severity", u"/a/b.c:3:14: bad: Text [id]"_s, {}, 0, {});
+        row("no number", u"/a/b.c:x:14: style: Text [id]"_s, {}, 0, {});
+    }
+
+    void linesBecomeFindings()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, file);
+        QFETCH(const int, line);
+        QFETCH(const QString, id);
+        Finding finding;
+        QCOMPARE(finding.fromLine(text), !file.isEmpty());
+        if (!file.isEmpty()) {
+            QCOMPARE(finding.file, file);
+            QCOMPARE(finding.line, line);
+            QCOMPARE(finding.id, id);
+            QCOMPARE(finding.toLine(), text);
+        }
+    }
 };
 
 KOVRA_TEST(OptionsTest)

@@ -89,7 +89,7 @@ QString ConvertedProject::files() const
     for (const Part& part : parts()) {
         names += part.files;
     }
-    names.sort();
+    names.sort(Qt::CaseInsensitive);
     return names.join(u' ');
 }
 

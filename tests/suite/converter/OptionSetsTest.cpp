@@ -8,6 +8,35 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr auto wholeProject = R"(VersionTag 45
+StartProjectMarker
+name=p
+sourceDir=%1/src
+outputDir=%1/p.out
+messagePersonality=/m.p_s
+analyserPersonality=%1/p.options.p_a
+compilerPersonality=default string
+*project=ORVCPP
+a.cpp
+EndContainedFilesMarker
+StartSubProjectMarker
+StartProjectMarker
+name=deep
+sourceDir=%1/src/deep
+outputDir=%1/p.out/deep
+messagePersonality=inherit string
+analyserPersonality=inherit string
+compilerPersonality=inherit string
+ü x.cpp
+EndContainedFilesMarker
+EndSubProjectMarker
+EndOfProjectFile
+)";
+
+} // namespace
+
 /// Which sources share what, and what becomes of the rest.
 class OptionSetsTest : public QObject
 {
@@ -31,32 +60,8 @@ private Q_SLOTS:
         QVERIFY2(result.output.contains(
                      "2 source files, 1 sub-projects, 1 sets of options, 1 include folders, 1 defines"_L1),
                  qPrintable(result.output + result.errors));
-        const QString expected = QString::fromUtf8(R"(VersionTag 45
-StartProjectMarker
-name=p
-sourceDir=%1/src
-outputDir=%1/p.out
-messagePersonality=/m.p_s
-analyserPersonality=%1/p.options.p_a
-compilerPersonality=default string
-*project=ORVCPP
-a.cpp
-EndContainedFilesMarker
-StartSubProjectMarker
-StartProjectMarker
-name=deep
-sourceDir=%1/src/deep
-outputDir=%1/p.out/deep
-messagePersonality=inherit string
-analyserPersonality=inherit string
-compilerPersonality=inherit string
-ü x.cpp
-EndContainedFilesMarker
-EndSubProjectMarker
-EndOfProjectFile
-)")
-                                     .arg(project.path(u"work"_s));
-        QCOMPARE(QString::fromUtf8(project.read(u"work/p.prj"_s)), expected);
+        QCOMPARE(QString::fromUtf8(project.read(u"work/p.prj"_s)),
+                 QString::fromUtf8(wholeProject).arg(project.path(u"work"_s)));
         QVERIFY(!QFile::exists(project.work(u"p.options"_s)));
         QVERIFY(project.read(u"work/p.options.p_a"_s).contains("\n-via \"/t.p_a\"\n"));
         QCOMPARE(project.optionsOf(u"a.cpp"_s), (QStringList{u"-d A"_s, u"-i \"~/i\""_s}));
