@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int entryCount = 500000;
 constexpr int folderCount = 500;
 constexpr int includesPerEntry = 40;
 constexpr long mostKilobytes = 1024L * 1024;
@@ -25,8 +24,8 @@ QByteArray folderName(const QByteArray& base, int number)
     return base + "/module" + QByteArray::number(number % folderCount);
 }
 
-// A database of 500,000 sources that exist, each with 40 include folders; a folder has one set of options.
-bool create(const QString& place, const QString& database)
+// A database of sources that exist, each with 40 include folders; a folder has one set of options.
+bool create(const QString& place, const QString& database, int entryCount)
 {
     const QByteArray base = QFile::encodeName(place);
     for (int i = 0; i < folderCount; ++i) {
@@ -67,17 +66,18 @@ long peakOfChildren()
 
 } // namespace
 
-// usage: bench_conversion PRJCONV
+// usage: bench_conversion PRJCONV [ENTRIES]
 int main(int argc, char** argv)
 {
     const Sandbox sandbox;
     const QCoreApplication application(argc, argv);
     if (argc < 2) {
-        std::fprintf(stderr, "usage: bench_conversion PRJCONV\n");
+        std::fprintf(stderr, "usage: bench_conversion PRJCONV [ENTRIES]\n");
         return 2;
     }
+    const int entries = Ratio::sizeFrom(argc, argv, 500'000, 2);
     const QString database = sandbox.path(u"compile_commands.json"_s);
-    if (!create(sandbox.path(u"tree"_s), database)) {
+    if (!create(sandbox.path(u"tree"_s), database, entries)) {
         std::fprintf(stderr, "the database can not be written\n");
         return 1;
     }
@@ -85,7 +85,7 @@ int main(int argc, char** argv)
     const auto parse = [&] {
         QFile file(database);
         isGood = isGood && file.open(QIODevice::ReadOnly) &&
-                 QJsonDocument::fromJson(file.readAll()).array().size() == entryCount;
+                 QJsonDocument::fromJson(file.readAll()).array().size() == entries;
     };
     const auto convert = [&] {
         QProcess converter;
@@ -98,7 +98,9 @@ int main(int argc, char** argv)
     // Before the other side takes memory, which a child would begin with.
     convert();
     const long peak = peakOfChildren();
-    const int missed = Ratio::report("converting 500,000 entries of 40 include folders", 1.5, convert, parse, 3);
+    const QByteArray name = "converting " + QByteArray::number(entries) + " entries of 40 include folders";
+    const auto [ms, missed] = Ratio::measure(name.constData(), 1.5, convert, parse);
+    Ratio::reportCost(entries, ms, peak * 1024);
     std::printf("its memory: %ld MiB (at most %ld MiB) %s\n", peak / 1024, mostKilobytes / 1024,
                 peak <= mostKilobytes ? "ok" : "MISSED");
     return isGood && missed == 0 && peak <= mostKilobytes ? 0 : 1;

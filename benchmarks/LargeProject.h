@@ -8,10 +8,9 @@
 
 #include <vector>
 
-/// A project of 100,000 real files in 200 folders, every second one analysed.
+/// A project of real files, 500 in a folder, every second one analysed.
 struct LargeProject
 {
-    static constexpr int folders = 200;
     static constexpr int filesPerFolder = 500;
 
     QString projectFile;
@@ -19,11 +18,11 @@ struct LargeProject
     std::vector<QByteArray> sources;
     std::vector<QByteArray> outputs;
 
-    /// Makes it in a folder; false when that fails.
-    bool create(const QString& place)
+    /// Makes it in a folder, with as many files as that is in whole folders; false when that fails.
+    bool create(const QString& place, int files)
     {
         QByteArray text = "VersionTag 1\n";
-        for (int i = 0; i < folders; ++i) {
+        for (int i = 0; i < files / filesPerFolder; ++i) {
             const QString sourceDir = place + QStringLiteral("/src/module%1").arg(i);
             const QString outputDir = place + QStringLiteral("/out/module%1").arg(i);
             if (!QDir().mkpath(sourceDir) || !QDir().mkpath(outputDir)) {
