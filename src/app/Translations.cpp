@@ -70,6 +70,11 @@ void Translations::install(const QLocale& locale)
     }
 }
 
+QString Translations::language()
+{
+    return installedLanguage().section(u'_', 0, 0);
+}
+
 void Translations::installQtTexts(QCoreApplication& application)
 {
     auto qt = std::make_unique<QTranslator>();

@@ -20,6 +20,9 @@ QString load(QTranslator& translator, const QLocale& locale);
 /// Gives the application that catalogue.
 void install(const QLocale& locale);
 
+/// The language of that catalogue in two letters, "de"; empty for English.
+QString language();
+
 /// Gives the application Qt's own texts in the same language, where Qt's catalogues are installed: whoever gets the
 /// program in English shall not find other words on its buttons.
 void installQtTexts(QCoreApplication& application);

@@ -218,13 +218,15 @@ Result<void> BatchConversion::checkOverwriting() const
 
 Result<void> BatchConversion::checkPlace() const
 {
-    if (!QDir(state.fileDir).exists() && !ProjectTarget::createFolder(state.fileDir)) {
-        return {tr("-prj: the folder %1 can not be created").arg(state.fileDir)};
+    if (!QDir(state.fileDir).exists()) {
+        if (const Result<void> created = ProjectTarget::createFolder(state.fileDir); !created.ok()) {
+            return {tr("-prj: the folder %1 can not be created: %2").arg(state.fileDir, created.problem)};
+        }
     }
-    if (!ProjectTarget::isWritable(state.ProjectFile())) {
-        return {tr("-prj: can not create file %1").arg(state.ProjectFile())};
-    }
-    return {};
+    const Result<void> writable = ProjectTarget::checkWritable(state.ProjectFile());
+    return writable.ok()
+               ? writable
+               : Result<void>{tr("-prj: can not create file %1: %2").arg(state.ProjectFile(), writable.problem)};
 }
 
 int BatchConversion::dryRun() const

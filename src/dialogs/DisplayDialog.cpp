@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/DisplayDialog.h"
 #include "app/AppRegistry.h"
+#include "dialogs/FindBar.h"
 #include "dialogs/HtmlShape.h"
 #include "dialogs/HtmlView.h"
+#include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
 #include "dialogs/TextPortions.h"
 
@@ -122,12 +124,36 @@ void DisplayDialog::createButtons(QGridLayout& grid)
     printButton->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &DisplayDialog::Close);
     connect(printButton, &QPushButton::clicked, this, &DisplayDialog::Print);
+    if (!messageLabel) {
+        QPushButton* find = buttons->addButton(tr("&Find..."), QDialogButtonBox::ActionRole);
+        find->setAutoDefault(false);
+        find->setToolTip(QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText));
+        connect(find, &QPushButton::clicked, this, &DisplayDialog::openFindBar);
+    }
     if (htmlView) {
         browserButton = buttons->addButton(tr("&Open in the browser"), QDialogButtonBox::ActionRole);
         browserButton->hide();
         connect(browserButton, &QPushButton::clicked, this, &DisplayDialog::openInBrowser);
     }
-    grid.addWidget(buttons, htmlView ? 2 : 1, 0, 1, htmlView ? 2 : 1);
+    // The row before is that of the find bar.
+    grid.addWidget(buttons, htmlView ? 3 : 2, 0, 1, htmlView ? 2 : 1);
+}
+
+void DisplayDialog::openFindBar()
+{
+    if (!findBar) {
+        const auto find = [this](const QString& words, QTextDocument::FindFlags flags) {
+            return textView ? textView->find(words, flags) : htmlView->find(words, flags);
+        };
+        const auto move = [this](bool toEnd) {
+            const QTextCursor::MoveOperation where = toEnd ? QTextCursor::End : QTextCursor::Start;
+            textView ? textView->moveCursor(where) : htmlView->moveCursor(where);
+        };
+        findBar = new FindBar(find, move);
+        auto* grid = static_cast<QGridLayout*>(layout());
+        grid->addWidget(findBar, htmlView ? 2 : 1, 0, 1, htmlView ? 2 : 1);
+    }
+    findBar->open();
 }
 
 void DisplayDialog::SetText(const QString& text)
@@ -143,18 +169,20 @@ void DisplayDialog::SetText(const QString& text)
     }
 }
 
-bool DisplayDialog::showFile(AppRegistry& registry, const QString& title, const QString& fileName)
+Result<void> DisplayDialog::showFile(AppRegistry& registry, const QString& title, const QString& fileName)
 {
+    if (!QFileInfo(fileName).isFile()) {
+        return {tr("it is no file that holds text")};
+    }
     auto file = std::make_unique<QFile>(fileName);
-    if (!QFileInfo(fileName).isFile() ||
-        (!file->open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::ExistingOnly) &&
-         !file->open(QIODevice::ReadOnly | QIODevice::Text))) {
-        return false;
+    if (!file->open(QIODevice::ReadWrite | QIODevice::Text | QIODevice::ExistingOnly) &&
+        !file->open(QIODevice::ReadOnly | QIODevice::Text)) {
+        return {file->errorString()};
     }
     DisplayDialog dialog(registry, title, Text, fileWindowSize, fileWindowSize);
     dialog.portions->show(std::move(file));
     dialog.exec();
-    return true;
+    return {};
 }
 
 // The byte order mark declares the encoding.
@@ -241,11 +269,18 @@ void DisplayDialog::Close()
     done(QDialog::Rejected);
 }
 
-// Escape is the Close button; the frame's button only hides the window.
+// Escape is the Close button, Ctrl+F asks for words to find; the frame's button only hides the window.
 void DisplayDialog::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Cancel)) {
         Close();
+        return;
+    }
+    if (event->matches(QKeySequence::Find) && !messageLabel) {
+        openFindBar();
+        return;
+    }
+    if (MainWindow::takesHelpKey(*event)) {
         return;
     }
     QDialog::keyPressEvent(event);

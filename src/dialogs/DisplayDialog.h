@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "personality/Result.h"
+
 #include <QDialog>
 #include <QPointer>
 
 class AppRegistry;
+class FindBar;
 class QGridLayout;
 class QLabel;
 class QPlainTextEdit;
@@ -31,9 +34,9 @@ public:
     void SetText(const QString& text);
     /// The file that holds the whole of what SetText will only begin with. Without one, SetText writes it when needed.
     void setWholeFile(const QString& fileName) { wholeFile = fileName; }
-    /// Shows a text file in a modal window, of a very large one the beginning. False when it can not be opened, or is a
-    /// pipe or a device, which would never end.
-    static bool showFile(AppRegistry& registry, const QString& title, const QString& fileName);
+    /// Shows a text file in a modal window, of a very large one the beginning. The problem is why it can not be
+    /// opened; a pipe or a device, which would never end, is not.
+    static Result<void> showFile(AppRegistry& registry, const QString& title, const QString& fileName);
     /// Prints the whole text; a message is not printed.
     void printTo(QPrinter& printer);
 
@@ -54,6 +57,7 @@ private:
     QString writeHtml(const QString& text, const QString& suffix);
     void offerBrowser(const QString& text);
     void openInBrowser();
+    void openFindBar();
     void unlist();
 
     QPointer<AppRegistry> registry;
@@ -64,5 +68,7 @@ private:
     QPushButton* printButton = nullptr;
     QPushButton* browserButton = nullptr;
     TextPortions* portions = nullptr;
+    /// Made when it is first asked for.
+    FindBar* findBar = nullptr;
     QString wholeFile;
 };

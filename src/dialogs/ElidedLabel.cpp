@@ -28,5 +28,6 @@ void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QStylePainter painter(this);
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
-    painter.drawItemText(rect(), int(alignment()), palette(), isEnabled(), shown, foregroundRole());
+    const auto aligned = QStyle::visualAlignment(layoutDirection(), alignment());
+    painter.drawItemText(rect(), int(aligned), palette(), isEnabled(), shown, foregroundRole());
 }

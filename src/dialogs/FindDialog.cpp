@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/FindDialog.h"
 #include "dialogs/FileSearch.h"
+#include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
+#include "dialogs/RowFilter.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -96,6 +99,8 @@ FindDialog::FindDialog(const QString& searchStart, QWidget* parent)
     , filesLabel(new QLabel)
     , resultList(new QListWidget)
     , resultLabel(new QLabel)
+    , filterEdit(nullptr)
+    , rowFilter(new RowFilter(*resultList, this))
     , locationEdit(new QLineEdit(searchLocation))
     , searchButton(new QPushButton(tr("&Search")))
     , okButton(new QPushButton(tr("&Ok")))
@@ -142,9 +147,23 @@ void FindDialog::layOut()
     grid->addWidget(filesLabel, 2, 0, 1, 2);
     grid->addWidget(resultList, 3, 0, 1, 2);
     grid->addWidget(searchButton, 4, 0, 1, 2);
-    grid->addWidget(resultLabel, 5, 0, 1, 2);
+    grid->addLayout(createFilter(), 5, 0, 1, 2);
     grid->addWidget(buttons, 6, 0, 1, 2);
     searchButton->setDefault(true);
+}
+
+QLayout* FindDialog::createFilter()
+{
+    filterEdit = new QLineEdit;
+    filterEdit->setPlaceholderText(tr("Show only paths with these words"));
+    filterEdit->setAccessibleName(filterEdit->placeholderText());
+    filterEdit->setClearButtonEnabled(true);
+    connect(filterEdit, &QLineEdit::textChanged, rowFilter, &RowFilter::setWords);
+    connect(rowFilter, &RowFilter::done, this, &FindDialog::showCount);
+    auto* row = new QHBoxLayout;
+    row->addWidget(resultLabel, 1);
+    row->addWidget(filterEdit, 1);
+    return row;
 }
 
 void FindDialog::labelFiles(const QString& patterns)
@@ -205,16 +224,19 @@ void FindDialog::findButtonClicked()
 {
     const QFileInfo location(locationEdit->text());
     const QString title = tr("Unable to search for files");
+    const QString hint =
+        tr("%1\nName a folder, or choose one with Browse.").arg(QDir::toNativeSeparators(location.absoluteFilePath()));
     if (!location.exists()) {
-        MessageBox::warn(this, title, tr("The specified search location does not exist"));
+        MessageBox::warn(this, title, tr("The specified search location does not exist"), hint);
         return;
     }
     if (!location.isDir()) {
-        MessageBox::warn(this, title, tr("The specified search location must be a directory"));
+        MessageBox::warn(this, title, tr("The specified search location must be a directory"), hint);
         return;
     }
     resultList->clear();
     resultLabel->clear();
+    filterEdit->clear();
     search(location.filePath());
 }
 
@@ -235,9 +257,18 @@ void FindDialog::search(const QString& folder)
     Progress progress(dialog, *label, *resultList);
     FileSearch(nameFilters).run(folder, progress);
     progress.listRest();
-    const qsizetype count = resultList->count();
-    const QString result = count == 0 ? tr("Nothing found.") : tr("Files found: %1.").arg(count);
-    resultLabel->setText(dialog.wasCanceled() ? result + u' ' + tr("The search was stopped.") : result);
+    wasStopped = dialog.wasCanceled();
+    showCount(resultList->count());
+}
+
+void FindDialog::showCount(int shown)
+{
+    const int count = resultList->count();
+    QString result = count == 0 ? tr("Nothing found.") : tr("Files found: %1.").arg(count);
+    if (shown != count) {
+        result += u' ' + tr("Shown: %1.").arg(shown);
+    }
+    resultLabel->setText(wasStopped ? result + u' ' + tr("The search was stopped.") : result);
 }
 
 // Enter picks the file in the list; elsewhere it presses the button that has the focus, or Search.
@@ -247,7 +278,9 @@ void FindDialog::keyPressEvent(QKeyEvent* event)
         okButtonClicked();
         return;
     }
-    QDialog::keyPressEvent(event);
+    if (!MainWindow::takesHelpKey(*event)) {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 void FindDialog::okButtonClicked()

@@ -6,10 +6,12 @@
 #include <QStringList>
 
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
+class RowFilter;
 
 /// Searches a folder for files that match the field's filter and lets the user pick one. Paths have forward slashes.
 class FindDialog : public QDialog
@@ -41,8 +43,10 @@ protected:
 
 private:
     void layOut();
+    QLayout* createFilter();
     void labelFiles(const QString& patterns);
     void search(const QString& folder);
+    void showCount(int shown);
 
     QStringList nameFilters{QStringLiteral("*.*")};
     QString selectedFile;
@@ -51,6 +55,10 @@ private:
     QListWidget* resultList;
     /// How many files were found, and whether the search came to its end.
     QLabel* resultLabel;
+    /// Words that the files shown must hold.
+    QLineEdit* filterEdit;
+    RowFilter* rowFilter;
+    bool wasStopped = false;
     QLineEdit* locationEdit;
     QPushButton* searchButton;
     QPushButton* okButton;

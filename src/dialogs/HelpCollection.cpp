@@ -39,7 +39,9 @@ QUrl HelpCollection::find(const QString& pagePath) const
         if (page.path().section(u'/', 2) == name) {
             return page;
         }
-        if (namesake.isEmpty() && page.fileName() == QFileInfo(pagePath).fileName()) {
+        // Translations lie in folders of their own, so the shorter path is the usual page.
+        const bool isShorter = namesake.isEmpty() || page.path().size() < namesake.path().size();
+        if (isShorter && page.fileName() == QFileInfo(pagePath).fileName()) {
             namesake = page;
         }
     }

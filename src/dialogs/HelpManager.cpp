@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/HelpManager.h"
 #include "app/AppRegistry.h"
+#include "app/Translations.h"
 #include "dialogs/AssistantClient.h"
 #include "dialogs/HelpCollection.h"
 #include "dialogs/HelpViewer.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,6 +16,15 @@
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString pathOf(const AppRegistry& registry, const QString& page)
+{
+    return QDir::cleanPath(HelpManager::HelpDirectory(registry) + u'/' + page);
+}
+
+} // namespace
 
 QString HelpManager::currentHelpPage = u"genericApplication.htm"_s;
 
@@ -28,7 +39,11 @@ HelpManager::HelpManager(const AppRegistry& suite, QObject* parent)
     connect(assistant, &AssistantClient::error, this, &HelpManager::slt_showError);
 }
 
-HelpManager::~HelpManager() = default;
+HelpManager::~HelpManager()
+{
+    // It reads from the collection.
+    delete viewer;
+}
 
 QString HelpManager::HelpDirectory(const AppRegistry& registry)
 {
@@ -67,19 +82,34 @@ bool HelpManager::eventFilter(QObject* /*object*/, QEvent* event)
     return true;
 }
 
-void HelpManager::slt_showHelp(const QString& helpPage, bool fullPath)
+QUrl HelpManager::find(const QString& helpPage)
 {
-    const QString page = fullPath ? helpPage : QDir::cleanPath(HelpDirectory(registry) + u'/' + helpPage);
     if (!collection) {
         collection = std::make_unique<HelpCollection>(profile(registry));
     }
-    const QUrl address(page);
-    const QUrl url = address.scheme() == "qthelp"_L1 ? address : collection->find(page);
+    const QString language = Translations::language();
+    const QUrl own = language.isEmpty() ? QUrl() : collection->find(pathOf(registry, language + u'/' + helpPage));
+    return own.isEmpty() ? collection->find(pathOf(registry, helpPage)) : own;
+}
+
+void HelpManager::slt_showHelp(const QString& helpPage, bool fullPath)
+{
+    const QUrl address(helpPage);
+    QUrl url = fullPath && address.scheme() == "qthelp"_L1 ? address : find(helpPage);
+    if (fullPath && url != address) {
+        url = collection->find(helpPage);
+    }
     if (url.isEmpty()) {
+        const QString page = fullPath ? helpPage : pathOf(registry, helpPage);
         slt_showError(tr("The help page %1 is not there. Install the suite's help again.").arg(page));
         return;
     }
     show(url);
+}
+
+void HelpManager::showPageOf(const QString& helpPage)
+{
+    slt_showHelp(find(helpPage).isEmpty() ? currentHelpPage : helpPage);
 }
 
 void HelpManager::show(const QUrl& page)
@@ -90,8 +120,14 @@ void HelpManager::show(const QUrl& page)
         assistant->showPage(page);
         return;
     }
+    // A window of another parent than the dialog that waits for an answer could not be used.
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* owner = modal ? modal : qobject_cast<QWidget*>(parent());
+    if (viewer && viewer->parentWidget() != owner) {
+        delete viewer;
+    }
     if (!viewer) {
-        viewer = std::make_unique<HelpViewer>(*collection, qobject_cast<QWidget*>(parent()));
+        viewer = new HelpViewer(*collection, owner);
     }
     viewer->showPage(page);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -11,6 +12,7 @@ class AppRegistry;
 class AssistantClient;
 class HelpCollection;
 class HelpViewer;
+class QUrl;
 
 /// Shows the suite's help: in Qt Assistant, or in a viewer of its own where that is not installed. Watches its parent
 /// for F1 and the Help key.
@@ -31,6 +33,8 @@ public:
     static QString currentHelpPage;
 
     bool eventFilter(QObject* object, QEvent* event) override;
+    /// Shows the page, or where the suite's help has none of that name the general one.
+    void showPageOf(const QString& helpPage);
 
 public Q_SLOTS:
     /// Shows a page below the help directory, or with fullPath the page as given.
@@ -40,10 +44,12 @@ public Q_SLOTS:
 
 private:
     static QString profile(const AppRegistry& registry);
+    /// The page below the help directory, in the user's language where there is one; empty when it is not there.
+    QUrl find(const QString& helpPage);
     void show(const QUrl& page);
 
     const AppRegistry& registry;
     std::unique_ptr<HelpCollection> collection;
     AssistantClient* assistant;
-    std::unique_ptr<HelpViewer> viewer;
+    QPointer<HelpViewer> viewer;
 };

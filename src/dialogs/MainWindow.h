@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+class QKeyEvent;
 class QWidget;
 
 /// The program's one main window: parent of boxes and dialogs that are opened from anywhere.
@@ -9,5 +10,7 @@ namespace MainWindow {
 /// None before the window is made and after it is gone.
 QWidget* current();
 void set(QWidget* window);
+/// Hands F1 and the Help key, pressed in another window, to the main window. True when it was such a key.
+bool takesHelpKey(const QKeyEvent& event);
 
 } // namespace MainWindow

@@ -27,6 +27,7 @@ constexpr qsizetype listedLines = 12;
 struct SharedBox
 {
     QPointer<QMessageBox> box;
+    QString addition;
     QStringList joined;
 };
 
@@ -54,12 +55,21 @@ void setAddition(QMessageBox& box, const QString& text)
     }
 }
 
+void prepare(QMessageBox& box, const QString& addition)
+{
+    box.setTextFormat(Qt::PlainText);
+    if (!addition.isEmpty()) {
+        setAddition(box, addition);
+    }
+    widen(box);
+}
+
 void join(SharedBox& shared, const QString& title, const QString& text, const QString& details)
 {
     shared.joined += title + u": "_s + text;
     const qsizetype unlisted = shared.joined.size() - listedLines;
-    QString list =
-        Text::tr("Meanwhile:") + u'\n' + shared.joined.first(std::min(shared.joined.size(), listedLines)).join(u'\n');
+    QString list = shared.addition + (shared.addition.isEmpty() ? QString() : u"\n\n"_s) + Text::tr("Meanwhile:") +
+                   u'\n' + shared.joined.first(std::min(shared.joined.size(), listedLines)).join(u'\n');
     if (unlisted > 0) {
         list += u'\n' + Text::tr("... and %n more", nullptr, int(unlisted));
     }
@@ -72,25 +82,20 @@ void join(SharedBox& shared, const QString& title, const QString& text, const QS
 bool MessageBox::ask(QWidget* parent, const QString& title, const QString& text, const QString& addition)
 {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Yes | QMessageBox::No, parent);
-    box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Yes);
-    if (!addition.isEmpty()) {
-        setAddition(box, addition);
-    }
-    widen(box);
+    prepare(box, addition);
     return box.exec() == QMessageBox::Yes;
 }
 
-void MessageBox::warn(QWidget* parent, const QString& title, const QString& text, const QString& details)
+void MessageBox::warn(QWidget* parent, const QString& title, const QString& text, const QString& addition)
 {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
-    box.setDetailedText(details);
-    box.setTextFormat(Qt::PlainText);
-    widen(box);
+    prepare(box, addition);
     box.exec();
 }
 
-void MessageBox::warnTogether(QWidget* parent, const QString& title, const QString& text, const QString& details)
+void MessageBox::warnTogether(QWidget* parent, const QString& title, const QString& text, const QString& addition,
+                              const QString& details)
 {
     SharedBox& shared = sharedBox();
     if (shared.box) {
@@ -99,8 +104,8 @@ void MessageBox::warnTogether(QWidget* parent, const QString& title, const QStri
     }
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, parent);
     box.setDetailedText(details);
-    box.setTextFormat(Qt::PlainText);
-    widen(box);
+    prepare(box, addition);
+    shared.addition = addition;
     shared.joined.clear();
     shared.box = &box;
     box.exec();

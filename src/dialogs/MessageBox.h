@@ -11,10 +11,12 @@ namespace MessageBox {
 /// A warning with Yes (the default) and No; true for Yes. What the question is about may stand below it.
 bool ask(QWidget* parent, const QString& title, const QString& text, const QString& addition = {});
 
-/// A warning with an Ok button. Details stay behind a button until the user asks for them.
-void warn(QWidget* parent, const QString& title, const QString& text, const QString& details = {});
+/// A warning with an Ok button. Below the text may stand on what it failed, the system's reason and what to do.
+void warn(QWidget* parent, const QString& title, const QString& text, const QString& addition = {});
 
-/// The same, but while such a box is open, further ones join it as lines of a list.
-void warnTogether(QWidget* parent, const QString& title, const QString& text, const QString& details = {});
+/// The same, but while such a box is open, further ones join it as lines of a list. Details stay behind a button until
+/// the user asks for them.
+void warnTogether(QWidget* parent, const QString& title, const QString& text, const QString& addition,
+                  const QString& details = {});
 
 } // namespace MessageBox

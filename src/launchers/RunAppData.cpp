@@ -104,7 +104,7 @@ void RunAppData::Activate()
     const Result<QStringList> arguments = LauncherArguments::prepare(exeargs, page);
     if (!arguments.ok()) {
         windowLock.unlock();
-        MessageBox::warn(MainWindow::current(), title(), arguments.problem);
+        MessageBox::warnTogether(MainWindow::current(), title(), arguments.problem, {});
         return;
     }
     awaitingEnd = true;
@@ -224,7 +224,8 @@ void RunAppData::showFailure(const QString& text)
 {
     readOutput();
     readErrors();
-    MessageBox::warnTogether(MainWindow::current(), title(), text, RunReport::details(process, output));
+    MessageBox::warnTogether(MainWindow::current(), title(), text, RunReport::reason(process),
+                             RunReport::details(process, output));
 }
 
 void RunAppData::markRunning(bool isRunning)

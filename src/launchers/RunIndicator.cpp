@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -101,7 +102,8 @@ void RunIndicator::place()
     const int height = std::min(stopHeight, area.height() - 2);
     const int width = std::min(stop->sizeHint().width(), area.width() / 2);
     const int top = std::max(area.top() + 1, area.bottom() - barHeight - margin - height + 1);
-    stop->setGeometry(area.right() - margin - width, top, width, height);
+    const QRect place(area.right() - margin - width, top, width, height);
+    stop->setGeometry(QStyle::visualRect(button->layoutDirection(), area, place));
     bar->setGeometry(area.left() + margin, area.bottom() - margin - barHeight + 2, area.width() - 2 * margin,
                      barHeight);
 }

@@ -4,6 +4,7 @@
 #include "launchers/LauncherOutput.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +38,22 @@ QString RunReport::failure(const QProcess& process)
     default:
         return Text::tr("Process Failed") + u" ["_s + QString::number(process.exitCode()) + u']';
     }
+}
+
+QString RunReport::reason(const QProcess& process)
+{
+    const QString program = QDir::toNativeSeparators(process.program());
+    if (process.error() == QProcess::FailedToStart) {
+        return Text::tr("%1: %2\nInstall the suite again, or correct its definitions file.")
+            .arg(program, process.errorString());
+    }
+    if (process.error() == QProcess::Crashed) {
+        return Text::tr("%1 ended unexpectedly. What it said is in the details.").arg(program);
+    }
+    return process.exitCode() == 0 ? QString()
+                                   : Text::tr("%1 ended with exit code %2. What it said is in the details.")
+                                         .arg(program)
+                                         .arg(process.exitCode());
 }
 
 QString RunReport::details(const QProcess& process, const LauncherOutput& output)

@@ -64,26 +64,28 @@ void WizardState::SetAnalyser(bool isC)
     defaultPersonalityLocation = EnvironmentValue(ProductNames::of(isC).personalitiesVariable, false);
 }
 
+std::optional<bool> WizardState::onlyAnalyser(const ProjectCreatorData* creator, const QString& cInstallDir,
+                                              const QString& cppInstallDir) const
+{
+    // The only installed analyser wins over whatever was asked for.
+    if (cInstallDir.isEmpty() != cppInstallDir.isEmpty()) {
+        return cppInstallDir.isEmpty();
+    }
+    if (cAvailable != cppAvailable) {
+        return cAvailable;
+    }
+    if (creator && creator->orvcProject != creator->orvcppProject) {
+        return creator->orvcProject;
+    }
+    return {};
+}
+
 void WizardState::decideAnalyser(const QString& cInstallDir, const QString& cppInstallDir)
 {
-    const auto fix = [this](bool isC) {
-        SetAnalyser(isC);
-        analyserFixed = true;
-    };
-    analyserFixed = false;
-    if (cAvailable != cppAvailable) {
-        fix(cAvailable);
-    } else if (projectCreator && projectCreator->orvcProject != projectCreator->orvcppProject) {
-        fix(projectCreator->orvcProject);
+    const std::optional<bool> only = onlyAnalyser(projectCreator, cInstallDir, cppInstallDir);
+    analyserFixed = only.has_value();
+    if (only) {
+        SetAnalyser(*only);
     }
     noAnalyserInstalled = cInstallDir.isEmpty() && cppInstallDir.isEmpty();
-    if (noAnalyserInstalled) {
-        return;
-    }
-    // The only installed analyser wins over whatever was asked for.
-    if (cInstallDir.isEmpty()) {
-        fix(false);
-    } else if (cppInstallDir.isEmpty()) {
-        fix(true);
-    }
 }

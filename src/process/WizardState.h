@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <optional>
+
 enum class ConfigurationKind;
 struct ProjectCreatorData;
 
@@ -40,6 +42,10 @@ struct WizardState
     /// Chooses the analyser and the folder in which its configuration files are browsed for. Values that are still the
     /// conversion type's presets for the other analyser are forgotten.
     void SetAnalyser(bool isC);
+    /// The only analyser, C or not, that what is installed, asked for and served by a conversion type leaves; none when
+    /// the user has to choose. Folders as discovered.
+    std::optional<bool> onlyAnalyser(const ProjectCreatorData* creator, const QString& cInstallDir,
+                                     const QString& cppInstallDir) const;
     /// Decides the analyser from what is installed and what the conversion type serves; folders as discovered.
     void decideAnalyser(const QString& cInstallDir, const QString& cppInstallDir);
 };

@@ -64,7 +64,6 @@ ActionPage::ActionPage(ApplicationWindow* owner)
     grid->addWidget(logLabel, 3, 0, 1, 2);
     // Nobody shall stop the conversion by pressing Enter once too often.
     stopButton->setAutoDefault(false);
-    setTabOrder(outputView, stopButton);
 
     flushTimer.setInterval(flushInterval);
     connect(&flushTimer, &QTimer::timeout, this, &ActionPage::flushOutput);
@@ -128,6 +127,11 @@ void ActionPage::cleanupPage()
     if (window->testOption(QWizard::NoCancelButton)) {
         window->setOption(QWizard::NoCancelButton, false);
     }
+}
+
+QWidget* ActionPage::firstField() const
+{
+    return outputView;
 }
 
 void ActionPage::ReadReady()

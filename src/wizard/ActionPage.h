@@ -28,6 +28,8 @@ public:
     void cleanupPage() override;
     bool validatePage() override { return true; }
     bool isComplete() const override { return finished; }
+    /// Not Stop: a key pressed once too often must not stop the conversion.
+    QWidget* firstField() const override;
     bool isConverting() const { return run.isRunning(); }
     /// The file with the output of the last run.
     QString logFileName() const { return log.fileName(); }

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/AppPage.h"
 #include "wizard/ApplicationWindow.h"
+#include "wizard/PageSequence.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -14,4 +19,42 @@ AppPage::AppPage(ApplicationWindow* owner, int id)
 int AppPage::nextId() const
 {
     return window->NextPage(pageId);
+}
+
+QString AppPage::helpPage() const
+{
+    switch (pageId) {
+    case StartPageId:
+        return u"startPage.htm"_s;
+    case SetProductPageId:
+        return u"analyserSelection.htm"_s;
+    case XmlPageId:
+        return u"conversionInformation.htm"_s;
+    case ConfPageId:
+        return u"configuration.htm"_s;
+    case ActionPageId:
+        return u"conversionRun.htm"_s;
+    default:
+        return u"followUpTools.htm"_s;
+    }
+}
+
+void AppPage::completeControls()
+{
+    if (helpLink || !window->offersHelp()) {
+        return;
+    }
+    helpLink = new QPushButton(tr("Help on this page"));
+    helpLink->setFlat(true);
+    helpLink->setAutoDefault(false);
+    helpLink->setCursor(Qt::PointingHandCursor);
+    QFont font = helpLink->font();
+    font.setUnderline(true);
+    helpLink->setFont(font);
+    connect(helpLink, &QPushButton::clicked, this, [this] { window->showHelpPage(helpPage()); });
+    if (auto* column = qobject_cast<QBoxLayout*>(layout())) {
+        column->addWidget(helpLink, 0, Qt::AlignLeft);
+    } else if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
+        grid->addWidget(helpLink, grid->rowCount(), 0, 1, grid->columnCount(), Qt::AlignLeft);
+    }
 }

@@ -4,6 +4,7 @@
 #include "wizard/OrvBasicWizardPage.h"
 
 class ApplicationWindow;
+class QPushButton;
 
 /// A page of this wizard: reads and stores the wizard's state, and asks the window which page comes next.
 class AppPage : public OrvBasicWizardPage
@@ -14,7 +15,15 @@ public:
     AppPage(ApplicationWindow* owner, int pageId);
 
     int nextId() const override;
+    /// Adds the link to the page's help, where there is help.
+    void completeControls() override;
 
 protected:
+    /// The file name of the help page that the link opens.
+    virtual QString helpPage() const;
+
     ApplicationWindow* window;
+
+private:
+    QPushButton* helpLink = nullptr;
 };

@@ -126,12 +126,17 @@ Result<void> ApplicationWindow::openTools(const QString& projectFile)
     return {};
 }
 
+QString ApplicationWindow::noConversionText()
+{
+    return tr("This project type declares nothing to convert: Finish closes the wizard, and no project is created.");
+}
+
 void ApplicationWindow::showConversionOutput()
 {
     const QString log = actionPage->logFileName();
     if (!log.isEmpty() && QFileInfo(log).size() == 0) {
         MessageBox::warn(this, tr("Output of the conversion"), tr("The conversion program printed nothing."));
-    } else if (log.isEmpty() || !DisplayDialog::showFile(*appRegistry, tr("Output of the conversion"), log)) {
+    } else if (log.isEmpty() || !DisplayDialog::showFile(*appRegistry, tr("Output of the conversion"), log).ok()) {
         MessageBox::warn(this, tr("Output of the conversion"),
                          tr("The output could not be kept: the temporary folder %1 is full or can not be written. "
                             "Make room there and convert again.")
@@ -198,6 +203,15 @@ OrvWizardWindow::Consent ApplicationWindow::confirmInterruption()
                                         runningText(running));
     // A conversion that ended behind the question has a result, which the user shall see.
     return agreed && actionPage->isConverting() ? Consent::Given : Consent::Refused;
+}
+
+QString ApplicationWindow::forgottenText() const
+{
+    // A project that was opened came without anything that could be remembered.
+    return currentId() != DisplayOptionsPageId || !toolsFile.isEmpty()
+               ? QString()
+               : tr("The project is there, but what you have entered on the pages before will be forgotten. Finish "
+                    "keeps it for the next time.");
 }
 
 void ApplicationWindow::presetFromLastProject()

@@ -33,6 +33,8 @@ public:
     Result<void> openTools(const QString& projectFile);
     /// The project given to openTools(), until another one is to be converted; empty otherwise.
     const QString& openedProject() const { return toolsFile; }
+    /// For the page on which a type that asks for nothing ends the wizard.
+    static QString noConversionText();
     /// Shows what the conversion program printed.
     void showConversionOutput();
 
@@ -43,6 +45,7 @@ public Q_SLOTS:
 
 protected:
     Consent confirmInterruption() override;
+    QString forgottenText() const override;
 
 private:
     void presetFromLastProject();

@@ -131,11 +131,17 @@ bool ConfPage::isComplete() const
     return !firstMissing();
 }
 
-const QLabel* ConfPage::firstMissing() const
+QWidget* ConfPage::fieldToMend() const
+{
+    const Field* missing = firstMissing();
+    return missing ? missing->widgets.lineEdit() : nullptr;
+}
+
+const ConfPage::Field* ConfPage::firstMissing() const
 {
     for (const Field& field : fields) {
         if (!field.label->isHidden() && !field.widgets.isValid()) {
-            return field.label;
+            return &field;
         }
     }
     return nullptr;
@@ -143,8 +149,8 @@ const QLabel* ConfPage::firstMissing() const
 
 void ConfPage::updateHint()
 {
-    const QLabel* missing = firstMissing();
-    hint->setText(missing ? tr("To continue, name an existing file as \"%1\".").arg(missing->text().chopped(1))
+    const Field* missing = firstMissing();
+    hint->setText(missing ? tr("To continue, name an existing file as \"%1\".").arg(missing->label->text().chopped(1))
                           : QString());
 }
 
@@ -191,10 +197,11 @@ void ConfPage::ComplianceChanged(int /*index*/)
 
 void ConfPage::apply(SelectFileWidgets& field, const QString& moduleFile)
 {
-    if (QFile::exists(moduleFile)) {
-        field.SetReadOnly(true);
+    if (moduleFile.isEmpty()) {
+        return;
     }
-    if (!moduleFile.isEmpty()) {
-        field.lineEdit()->setText(QDir::toNativeSeparators(moduleFile));
-    }
+    const QString path = QDir::toNativeSeparators(moduleFile);
+    field.lineEdit()->setText(path);
+    // One that was refused has brought the old text back, which is the user's to change.
+    field.SetReadOnly(QFile::exists(moduleFile) && field.lineEdit()->text() == path);
 }

@@ -22,6 +22,7 @@ public:
     void initializePage() override;
     bool validatePage() override;
     bool isComplete() const override;
+    QWidget* fieldToMend() const override;
 
 public Q_SLOTS:
     void CPersonalityChanged(const QString& fileName);
@@ -42,7 +43,7 @@ private:
     void apply(SelectFileWidgets& field, const QString& moduleFile);
     void accept(const SelectFileWidgets& field, QString& stateField, const QString& fileName);
     void updateHint();
-    const QLabel* firstMissing() const;
+    const Field* firstMissing() const;
 
     SelectFileWidgets compilerField;
     SelectFileWidgets analyserField;

@@ -114,6 +114,12 @@ PageData* DisplayOptionsPage::launcherPage()
     return pages.empty() ? nullptr : pages.front().get();
 }
 
+QString DisplayOptionsPage::helpPage() const
+{
+    const PageData* launchers = launcherPage();
+    return launchers && !launchers->helpPage.isEmpty() ? launchers->helpPage : AppPage::helpPage();
+}
+
 void DisplayOptionsPage::initializePage()
 {
     window->setOption(QWizard::NoBackButtonOnLastPage, true);

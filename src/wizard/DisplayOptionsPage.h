@@ -25,6 +25,10 @@ public:
     bool validatePage() override { return true; }
     bool isComplete() const override { return true; }
 
+protected:
+    /// The launcher page's own, if it names one.
+    QString helpPage() const override;
+
 private:
     void createNotes(QLayout& layout);
     void showNotes();

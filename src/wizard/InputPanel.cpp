@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/InputPanel.h"
 #include "dialogs/PlainText.h"
+#include "wizard/ColumnBox.h"
 #include "wizard/FieldEdit.h"
 #include "wizard/SelectFileWidgets.h"
 
@@ -8,12 +9,14 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -27,7 +30,8 @@ QString shownName(const QString& name, const QWidget& control)
 {
     constexpr int longest = 40;
     const QFontMetrics metrics = control.fontMetrics();
-    return PlainText::withoutMnemonic(metrics.elidedText(name, Qt::ElideMiddle, longest * metrics.averageCharWidth()));
+    const int width = std::min(longest * metrics.averageCharWidth(), control.screen()->availableSize().width() / 5);
+    return PlainText::withoutMnemonic(metrics.elidedText(name, Qt::ElideMiddle, width));
 }
 
 /// The whole name, where it was cut, and the help.
@@ -45,9 +49,8 @@ QString toolTipOf(const QString& name, const QString& help, const QWidget& contr
 class GroupBuilder
 {
 public:
-    GroupBuilder(const QString& title, bool forC, const std::function<void()>& onChange)
-        : box(new QGroupBox)
-        , grid(new QGridLayout(box))
+    GroupBuilder(const QString& title, int columns, bool forC, const std::function<void()>& onChange)
+        : box(new ColumnBox(columns))
         , isC(forC)
         , changed(onChange)
     {
@@ -56,23 +59,17 @@ public:
         box->setToolTip(toolTipOf(title, {}, *box));
     }
 
-    QGroupBox* build(const ArgumentDefinitions& definitions, int columns)
+    QGroupBox* build(const ArgumentDefinitions& definitions)
     {
-        int row = 0;
-        int column = 0;
         for (const auto& definition : definitions) {
             if (definition->inputType == InputType::Group) {
-                grid->addWidget(InputPanel::BuildGroup(definition->children, definition->displayName,
-                                                       definition->columns, isC, changed),
-                                row, column);
+                box->add(InputPanel::BuildGroup(definition->children, definition->displayName, definition->columns, isC,
+                                                changed));
             } else {
-                grid->addWidget(buildField(*definition), row, column, 1, oneToFive(definition->columns));
-            }
-            if (++column == columns) {
-                ++row;
-                column = 0;
+                box->add(buildField(*definition), oneToFive(definition->columns));
             }
         }
+        alignLabels();
         return box;
     }
 
@@ -91,6 +88,7 @@ private:
             label->setToolTip(toolTipOf(definition.displayName, definition.hoverHelp, *label));
             row->addWidget(label);
             definition.widgets += label;
+            labels += label;
         }
         QWidget* control = definition.isSwitch() ? buildSwitch(definition, *row) : buildText(definition, *row);
         control->setToolTip(toolTipOf(definition.displayName, definition.hoverHelp, *control));
@@ -148,8 +146,20 @@ private:
         return definition.button;
     }
 
-    QGroupBox* box;
-    QGridLayout* grid;
+    // So that the fields begin in one line.
+    void alignLabels() const
+    {
+        int widest = 0;
+        for (const QLabel* label : labels) {
+            widest = std::max(widest, label->sizeHint().width());
+        }
+        for (QLabel* label : labels) {
+            label->setMinimumWidth(widest);
+        }
+    }
+
+    ColumnBox* box;
+    QList<QLabel*> labels;
     QButtonGroup* radios = nullptr;
     bool isC;
     const std::function<void()>& changed;
@@ -160,5 +170,5 @@ private:
 QGroupBox* InputPanel::BuildGroup(const ArgumentDefinitions& definitions, const QString& title, int columns, bool isC,
                                   const std::function<void()>& changed)
 {
-    return GroupBuilder(title, isC, changed).build(definitions, oneToFive(columns));
+    return GroupBuilder(title, oneToFive(columns), isC, changed).build(definitions);
 }

@@ -17,6 +17,12 @@ public:
 
     /// Called for custom button 1 while this page is shown.
     virtual void CustomButtonAction() {}
+    /// Called whenever the page is entered, before it is seen.
+    virtual void completeControls() {}
+    /// The field that Next is waiting for, or on whose account the page was refused; null when there is none.
+    virtual QWidget* fieldToMend() const { return nullptr; }
+    /// The control that the focus begins in where it is not the first one.
+    virtual QWidget* firstField() const { return nullptr; }
 
 public Q_SLOTS:
     /// Browses for a file, or a folder, and puts its native path into fileEdit, or dirEdit.

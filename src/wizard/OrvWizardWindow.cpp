@@ -6,17 +6,17 @@
 #include "dialogs/MessageBox.h"
 #include "launchers/PageData.h"
 #include "process/StrayProcesses.h"
+#include "wizard/Logo.h"
 #include "wizard/OrvBasicWizardPage.h"
+#include "wizard/PageFocus.h"
+#include "wizard/ScreenFit.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QPixmap>
-#include <QRadioButton>
-#include <QScreen>
 #include <QShowEvent>
-#include <QStyle>
 
 #include <algorithm>
 #include <utility>
@@ -25,41 +25,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Of buttons that exclude each other the checked one gets the focus: the other would seem to be chosen.
-void focusChecked(const QWidget& focused)
+// Enter, or the letter of Next: while Next waits for something, they ask what for.
+bool asksForNext(const QKeyEvent& event, const QAbstractButton& next)
 {
-    const auto* radio = qobject_cast<const QRadioButton*>(&focused);
-    if (!radio || radio->isChecked()) {
-        return;
-    }
-    const auto siblings = radio->parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
-    for (QRadioButton* sibling : siblings) {
-        if (sibling->isChecked()) {
-            sibling->setFocus();
-        }
-    }
-}
-
-// A position and a size may have been stored for a screen that is gone or was larger, and a page may want more room
-// than there is. The frame is not known before the window is shown.
-void fitOnScreen(QWidget& window)
-{
-    const QScreen* screen = QGuiApplication::screenAt(window.geometry().center());
-    const QRect available = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    const QSize frame = window.frameGeometry().size() - window.size();
-    const int title = std::max(frame.height(), window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    const QSize most = available.size() - QSize(frame.width(), title);
-    // A maximised window is the window manager's to fit.
-    if (!window.isMaximized() && window.size() != window.size().boundedTo(most)) {
-        window.resize(window.size().boundedTo(most));
-    }
-    const QPoint last(available.right() + 1 - window.width() - frame.width(),
-                      available.bottom() + 1 - window.height() - title);
-    const QPoint place(std::clamp(window.x(), available.left(), std::max(available.left(), last.x())),
-                       std::clamp(window.y(), available.top(), std::max(available.top(), last.y())));
-    if (!window.isMaximized() && place != window.pos()) {
-        window.move(place);
-    }
+    const QKeySequence mnemonic = QKeySequence::mnemonic(next.text());
+    const bool isMnemonic =
+        event.modifiers() == Qt::AltModifier && !mnemonic.isEmpty() && int(mnemonic[0].key()) == event.key();
+    return isMnemonic || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 } // namespace
@@ -71,9 +43,9 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     MainWindow::set(this);
     HelpManager::currentHelpPage = helpPage;
     setWizardStyle(QWizard::ModernStyle);
-    // With their formats named, Qt does not load every plugin to find out.
+    // With its format named, Qt does not load every plugin to find out.
     setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
-    setPixmap(QWizard::LogoPixmap, QPixmap(u":/logo_shadow.jpg"_s, "JPG"));
+    setPixmap(QWizard::LogoPixmap, Logo::on(palette().color(QPalette::Base)));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowMaximizeButtonHint);
     setOptions(QWizard::HaveCustomButton1 | QWizard::NoBackButtonOnLastPage | QWizard::NoBackButtonOnStartPage);
@@ -87,10 +59,10 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     connect(this, &QWizard::customButtonClicked, this, &OrvWizardWindow::CustomButtonClicked);
     connect(this, &QWizard::helpRequested, this, &OrvWizardWindow::ShowHelp);
     connect(this, &QDialog::finished, this, &OrvWizardWindow::Finished);
-    connect(this, &QWizard::currentIdChanged, this, &OrvWizardWindow::focusPage);
+    connect(this, &QWizard::currentIdChanged, this, &OrvWizardWindow::enterPage);
     // Queued: by then the page has its size.
     connect(
-        this, &QWizard::currentIdChanged, this, [this] { fitOnScreen(*this); }, Qt::QueuedConnection);
+        this, &QWizard::currentIdChanged, this, [this] { ScreenFit::apply(*this); }, Qt::QueuedConnection);
     resize(appRegistry->windowSize);
     move(appRegistry->windowPos);
 }
@@ -99,16 +71,53 @@ bool OrvWizardWindow::validateCurrentPage()
 {
     const bool isLastPage = nextId() == -1;
     const bool valid = QWizard::validateCurrentPage();
+    if (!valid) {
+        leadToMistake();
+    }
     // On the last page only what still runs may refuse Finish.
     return isLastPage ? CanClose() : valid;
+}
+
+void OrvWizardWindow::leadToMistake()
+{
+    const auto* page = qobject_cast<OrvBasicWizardPage*>(currentPage());
+    if (QWidget* field = page ? page->fieldToMend() : nullptr) {
+        PageFocus::lead(*field);
+    }
 }
 
 void OrvWizardWindow::reject()
 {
     // Who has agreed to one question is not asked another.
-    const Consent consent = confirmInterruption();
-    if (consent == Consent::Given || (consent == Consent::NotNeeded && confirmStop(&PageData::ProgramsRunning))) {
+    const QString lost = forgottenText();
+    Consent consent = confirmInterruption();
+    if (consent == Consent::NotNeeded) {
+        consent = confirmStop(&PageData::ProgramsRunning, lost);
+    }
+    if (consent == Consent::NotNeeded && !lost.isEmpty()) {
+        const QString question = lost + u'\n' + tr("Do you wish to close the wizard?");
+        consent = MessageBox::ask(this, windowTitle(), question) ? Consent::Given : Consent::Refused;
+    }
+    if (consent != Consent::Refused) {
         QWizard::reject();
+    }
+}
+
+void OrvWizardWindow::keyPressEvent(QKeyEvent* event)
+{
+    const QAbstractButton& next = *button(QWizard::NextButton);
+    if (next.isVisible() && !next.isEnabled() && asksForNext(*event, next)) {
+        leadToMistake();
+        return;
+    }
+    QWizard::keyPressEvent(event);
+}
+
+void OrvWizardWindow::changeEvent(QEvent* event)
+{
+    QWizard::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        setPixmap(QWizard::LogoPixmap, Logo::on(palette().color(QPalette::Base)));
     }
 }
 
@@ -129,6 +138,11 @@ void OrvWizardWindow::ShowHelp()
     help->slt_showHelp(HelpManager::currentHelpPage);
 }
 
+void OrvWizardWindow::showHelpPage(const QString& page)
+{
+    help->showPageOf(page);
+}
+
 void OrvWizardWindow::Finished(int result)
 {
     if (result == QDialog::Rejected) {
@@ -143,7 +157,7 @@ void OrvWizardWindow::showEvent(QShowEvent* event)
 {
     QWizard::showEvent(event);
     if (!event->spontaneous()) {
-        fitOnScreen(*this);
+        ScreenFit::apply(*this);
     }
 }
 
@@ -158,16 +172,21 @@ void OrvWizardWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(consent == Consent::NotNeeded && CanClose());
 }
 
-bool OrvWizardWindow::confirmStop(bool (PageData::*isBusy)() const)
+OrvWizardWindow::Consent OrvWizardWindow::confirmStop(bool (PageData::*isBusy)() const, const QString& addition)
 {
     const auto& pages = appRegistry->definitions.applicationPages;
     const bool running = std::ranges::any_of(pages, [&](const auto& page) { return (page.get()->*isBusy)(); });
     const bool anyStray = !pages.empty() && StrayProcesses::any();
-    return (!running && !anyStray) ||
-           MessageBox::ask(this, tr("Child Applications Still Running"),
-                           tr("Closing this application will kill child applications.\nDo you wish to "
-                              "close this application?"),
-                           runningText(runningNames()));
+    if (!running && !anyStray) {
+        return Consent::NotNeeded;
+    }
+    QStringList additions{runningText(runningNames()), addition};
+    additions.removeAll(QString());
+    const bool agreed = MessageBox::ask(this, tr("Child Applications Still Running"),
+                                        tr("Closing this application will kill child applications.\nDo you wish to "
+                                           "close this application?"),
+                                        additions.join(u'\n'));
+    return agreed ? Consent::Given : Consent::Refused;
 }
 
 QStringList OrvWizardWindow::runningNames() const
@@ -192,7 +211,7 @@ QString OrvWizardWindow::runningText(const QStringList& names)
 
 bool OrvWizardWindow::CanClose()
 {
-    if (!confirmStop(&PageData::ApplicationsRunning)) {
+    if (confirmStop(&PageData::ApplicationsRunning) == Consent::Refused) {
         return false;
     }
     stopChildren();
@@ -207,26 +226,19 @@ void OrvWizardWindow::stopChildren()
     appRegistry->ShutDown();
 }
 
-// A page that hides fields may have the focus in one of them.
-void OrvWizardWindow::focusPage()
+void OrvWizardWindow::enterPage()
 {
-    QWidget* page = currentPage();
-    const QWidget* focused = focusWidget();
+    auto* page = qobject_cast<OrvBasicWizardPage*>(currentPage());
     if (!page) {
         return;
     }
-    if (focused && page->isAncestorOf(focused) && focused->isVisible()) {
-        focusChecked(*focused);
-        return;
+    page->completeControls();
+    QList<QWidget*> buttons;
+    for (const auto which : {CustomButton1, BackButton, NextButton, FinishButton, CancelButton}) {
+        buttons += button(which);
     }
-    for (QWidget* widget = page->nextInFocusChain(); widget != page; widget = widget->nextInFocusChain()) {
-        if (page->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() && !widget->focusProxy() &&
-            (widget->focusPolicy() & Qt::TabFocus) != 0) {
-            widget->setFocus();
-            focusChecked(*widget);
-            return;
-        }
-    }
+    PageFocus::order(*page, buttons);
+    PageFocus::enter(*page);
 }
 
 void OrvWizardWindow::saveState()

@@ -20,6 +20,10 @@ public:
     /// Asks before a running conversion or tool is given up.
     void reject() override;
 
+    bool offersHelp() const { return help; }
+    /// Shows a page of the suite's help, or the general one where there is none of that name.
+    void showHelpPage(const QString& page);
+
 public Q_SLOTS:
     virtual void CustomButtonClicked(int which);
     void ShowHelp();
@@ -27,12 +31,16 @@ public Q_SLOTS:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     /// True when the window may go; what still runs has been stopped then.
     virtual bool CanClose();
     enum class Consent { NotNeeded, Given, Refused };
     /// Asks whether what the current page is doing may be given up, if it does something.
     virtual Consent confirmInterruption() { return Consent::NotNeeded; }
+    /// What is lost when the wizard is left now without Finish, where a user would not expect it; empty otherwise.
+    virtual QString forgottenText() const { return {}; }
     /// What runs besides the current page, and what windows are open, for the user.
     QStringList runningNames() const;
     /// The line that tells it below a question; empty when there is nothing to tell.
@@ -47,11 +55,12 @@ protected:
 
 private:
     void saveState();
-    /// True when no launcher page is busy, or the user agrees to stop what runs.
-    bool confirmStop(bool (PageData::*isBusy)() const);
+    /// Asks, when a launcher page is busy, whether what runs may be stopped.
+    Consent confirmStop(bool (PageData::*isBusy)() const, const QString& addition = {});
     void stopChildren();
-    /// Gives the focus to the current page's first visible field, unless it is in one.
-    void focusPage();
+    void enterPage();
+    /// Gives the focus to what the current page is waiting for.
+    void leadToMistake();
 
     HelpManager* help = nullptr;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/OutputView.h"
+#include "dialogs/Contrast.h"
 
 #include <QScrollBar>
 #include <QTextCursor>
@@ -26,7 +27,9 @@ void OutputView::appendLines(const QStringList& lines)
 void OutputView::appendMessage(const QString& text, const QColor& colour)
 {
     QTextCharFormat format;
-    if (colour != QColor(Qt::black)) {
+    if (colour == QColor(Qt::red)) {
+        format.setForeground(Contrast::alarm(palette().color(QPalette::Base)));
+    } else if (colour != QColor(Qt::black)) {
         format.setForeground(colour);
     }
     insertAtEnd(text, format);

@@ -2,6 +2,7 @@
 #include "wizard/QuietCombo.h"
 #include "dialogs/PlainText.h"
 
+#include <QKeyEvent>
 #include <QWheelEvent>
 
 namespace {
@@ -28,5 +29,15 @@ void QuietCombo::wheelEvent(QWheelEvent* event)
         QComboBox::wheelEvent(event);
     } else {
         event->ignore();
+    }
+}
+
+void QuietCombo::keyPressEvent(QKeyEvent* event)
+{
+    // A shortcut that does nothing here would choose what begins with its letter.
+    if (event->modifiers() == Qt::AltModifier && !event->text().isEmpty() && event->text().at(0).isPrint()) {
+        event->ignore();
+    } else {
+        QComboBox::keyPressEvent(event);
     }
 }

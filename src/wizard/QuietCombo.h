@@ -4,7 +4,7 @@
 #include <QComboBox>
 
 /// A list of choices that long names do not widen, their tool tips hold the whole, and that the wheel changes only
-/// while it has the focus: on the way down a page it would choose something else.
+/// while it has the focus: on the way down a page it would choose something else. Alt and a letter choose nothing.
 class QuietCombo : public QComboBox
 {
     Q_OBJECT
@@ -13,5 +13,6 @@ public:
     explicit QuietCombo(QWidget* parent = nullptr);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 };

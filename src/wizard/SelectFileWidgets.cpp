@@ -1,30 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/SelectFileWidgets.h"
 #include "app/AppRegistry.h"
+#include "dialogs/Contrast.h"
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/FindDialog.h"
 #include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
-#include "wizard/FieldEdit.h"
+#include "wizard/FieldButton.h"
+#include "wizard/PathEdit.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
-#include <QStyleOptionButton>
-#include <QStylePainter>
-#include <QToolTip>
-#include <QUrl>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QVBoxLayout>
 
+#include <algorithm>
 #include <initializer_list>
 
 using namespace Qt::StringLiterals;
@@ -33,29 +36,6 @@ namespace {
 
 /// Characters of a path that must be seen to recognise it.
 constexpr int usableLength = 20;
-
-/// Underlines its letter only while the shortcut works: with the focus in its own field.
-class FieldButton : public QPushButton
-{
-public:
-    FieldButton(const QString& text, QWidget* parent)
-        : QPushButton(text, parent)
-    {
-        connect(qApp, &QApplication::focusChanged, this, qOverload<>(&QWidget::update));
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QStyleOptionButton option;
-        initStyleOption(&option);
-        const QWidget* focused = QApplication::focusWidget();
-        if (!focused || !parentWidget()->isAncestorOf(focused)) {
-            option.text.remove(u'&');
-        }
-        QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
-    }
-};
 
 } // namespace
 
@@ -66,16 +46,17 @@ SelectFileWidgets::SelectFileWidgets(const QString& fieldCaption, const QString&
     , caption(fieldCaption)
     , filter(fileFilter)
     , startFolder(options.startFolder)
+    , folders(fieldCaption)
 {
     historyCombo = new QComboBox(frameWidget);
-    edit = new FieldEdit(frameWidget);
+    edit = new PathEdit(folderMode, frameWidget);
     // With several columns the buttons would take all the room.
-    edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * usableLength);
+    edit->setMinimumWidth(std::min(edit->fontMetrics().averageCharWidth() * usableLength,
+                                   frameWidget->screen()->availableSize().width() / 4));
     normalColour = edit->palette().brush(edit->foregroundRole()).color();
     createButtons();
     layOut(options);
     connect(edit, &QLineEdit::textChanged, this, &SelectFileWidgets::ValChanged);
-    connect(edit, &QLineEdit::editingFinished, this, &SelectFileWidgets::takeForeignForm);
     connect(editButton, &QPushButton::clicked, this, qOverload<>(&SelectFileWidgets::EditFile));
     connect(browseButton, &QPushButton::clicked, this, &SelectFileWidgets::GetAFile);
     connect(findButton, &QPushButton::clicked, this, &SelectFileWidgets::FindAFile);
@@ -86,6 +67,11 @@ SelectFileWidgets::~SelectFileWidgets()
     if (frameWidget && !frameWidget->parent()) {
         delete frameWidget;
     }
+}
+
+QLineEdit* SelectFileWidgets::lineEdit() const
+{
+    return edit;
 }
 
 void SelectFileWidgets::createButtons()
@@ -102,6 +88,15 @@ void SelectFileWidgets::createButtons()
         button->setAccessibleName(button->text().remove(u'&').remove(u"..."_s) + u": "_s + caption);
         button->setShortcut(QKeySequence());
     }
+    // A field without its buttons can still be looked into.
+    viewAction = edit->addAction(editButton->icon(), QLineEdit::TrailingPosition);
+    viewAction->setText(tr("Show the file"));
+    viewAction->setShortcut(QKeySequence::Open);
+    viewAction->setShortcutContext(Qt::WidgetShortcut);
+    viewAction->setToolTip(viewAction->text() + u" ("_s + viewAction->shortcut().toString(QKeySequence::NativeText) +
+                           u')');
+    viewAction->setVisible(false);
+    connect(viewAction, &QAction::triggered, this, qOverload<>(&SelectFileWidgets::EditFile));
     for (QWidget* widget : std::initializer_list<QWidget*>{edit, editButton, browseButton, findButton}) {
         widget->installEventFilter(this);
     }
@@ -109,10 +104,17 @@ void SelectFileWidgets::createButtons()
 
 void SelectFileWidgets::layOut(const Options& options)
 {
-    auto* row = new QHBoxLayout(frameWidget);
+    auto* column = new QVBoxLayout(frameWidget);
+    auto* row = new QHBoxLayout;
     if (!options.inGroupBox) {
-        row->setContentsMargins(0, 0, 0, 0);
+        column->setContentsMargins(0, 0, 0, 0);
     }
+    column->addLayout(row);
+    reasonLabel = new QLabel(frameWidget);
+    reasonLabel->setTextFormat(Qt::PlainText);
+    reasonLabel->setWordWrap(true);
+    reasonLabel->hide();
+    column->addWidget(reasonLabel);
     if (options.withHistory) {
         historyCombo->setEditable(true);
         historyCombo->setInsertPolicy(QComboBox::InsertAtTop);
@@ -154,6 +156,7 @@ void SelectFileWidgets::SetValue(const QString& text)
 void SelectFileWidgets::SetReadOnly(bool readOnly)
 {
     edit->setReadOnly(readOnly);
+    viewAction->setVisible(readOnly);
     updateLook();
     editButton->setVisible(!readOnly);
     browseButton->setVisible(!readOnly);
@@ -171,26 +174,24 @@ void SelectFileWidgets::ValChanged(const QString& text)
 // Colour is never the only sign.
 void SelectFileWidgets::updateLook()
 {
+    const QScopedValueRollback guard(updating, true);
     QPalette palette;
-    palette.setBrush(QPalette::All, edit->foregroundRole(), QBrush(valid ? normalColour : QColor(Qt::red)));
     if (edit->isReadOnly()) {
         palette.setBrush(QPalette::Base, palette.brush(QPalette::Window));
     }
+    const QColor wrong = Contrast::alarm(palette.color(QPalette::Base));
+    palette.setBrush(QPalette::All, edit->foregroundRole(), QBrush(valid ? normalColour : wrong));
     edit->setPalette(palette);
-    reason = valid || edit->text().isEmpty() ? QString() : tr("There is no file or folder of this name.");
-    edit->setAccessibleDescription(reason);
+    edit->setAccessibleDescription(edit->fault());
+    updateReason();
 }
 
-// What a shell or a file manager calls a path.
-void SelectFileWidgets::takeForeignForm()
+// While a path is being typed it is wrong all the time, which nobody needs to be told.
+void SelectFileWidgets::updateReason()
 {
-    const QString text = edit->text().trimmed();
-    const QUrl url(text, QUrl::StrictMode);
-    if (text.startsWith("file://"_L1) && url.isLocalFile()) {
-        edit->setText(QDir::toNativeSeparators(url.toLocalFile()));
-    } else if (text == u'~' || text.startsWith("~/"_L1)) {
-        edit->setText(QDir::toNativeSeparators(QDir::homePath() + text.mid(1)));
-    }
+    const QString text = edit->fault();
+    reasonLabel->setText(text);
+    reasonLabel->setVisible(!text.isEmpty() && (!edit->hasFocus() || !reasonLabel->isHidden()));
 }
 
 void SelectFileWidgets::GetAFile()
@@ -204,6 +205,7 @@ void SelectFileWidgets::GetAFile()
 void SelectFileWidgets::takeChosen(const QString& path)
 {
     if (!path.isEmpty()) {
+        folders.choose(folderMode ? path : QFileInfo(path).absolutePath());
         SetValue(path);
     }
 }
@@ -211,16 +213,21 @@ void SelectFileWidgets::takeChosen(const QString& path)
 void SelectFileWidgets::EditFile()
 {
     const QString name = edit->text();
+    const QString path = QDir::toNativeSeparators(QFileInfo(name).absoluteFilePath());
     if (!QFile::exists(name)) {
-        MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not edit file, the file does not exist"));
+        MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not edit file, the file does not exist"),
+                         tr("%1\nCheck the name, or choose another file.").arg(path));
         return;
     }
     if (emitEditSignal) {
         Q_EMIT EditFile(name);
         return;
     }
-    if (!DisplayDialog::showFile(*appRegistry, name, name)) {
-        MessageBox::warn(MainWindow::current(), tr("Edit failed"), tr("Can not open file"));
+    const Result<void> shown = DisplayDialog::showFile(*appRegistry, name, name);
+    if (!shown.ok()) {
+        MessageBox::warn(
+            MainWindow::current(), tr("Edit failed"), tr("Can not open file"),
+            tr("%1: %2\nChoose another file, or ask for the right to read this one.").arg(path, shown.problem));
     }
 }
 
@@ -237,35 +244,29 @@ void SelectFileWidgets::FindAFile()
 
 QString SelectFileWidgets::browseStart() const
 {
-    return edit->text().isEmpty() ? startFolder : edit->text();
+    if (!edit->text().isEmpty()) {
+        return edit->text();
+    }
+    const QString folder = folders.last();
+    return folder.isEmpty() ? startFolder : folder;
 }
 
-// The tool tip goes on with what is wrong; a file that is dropped is its path.
-bool SelectFileWidgets::editFilter(QEvent* event)
+void SelectFileWidgets::watchEdit(const QEvent& event)
 {
-    if (event->type() == QEvent::ToolTip && !reason.isEmpty()) {
-        const QString help = edit->toolTip();
-        const QString line = Qt::mightBeRichText(help) ? u"<br>"_s : u"\n"_s;
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), help.isEmpty() ? reason : help + line + reason,
-                           edit);
-        return true;
+    if (event.type() == QEvent::FocusOut) {
+        // By then the focus has gone.
+        QMetaObject::invokeMethod(this, &SelectFileWidgets::updateReason, Qt::QueuedConnection);
+    } else if (event.type() == QEvent::PaletteChange && !updating) {
+        normalColour = QApplication::palette(edit).color(edit->foregroundRole());
+        updateLook();
     }
-    if (event->type() != QEvent::Drop || edit->isReadOnly()) {
-        return false;
-    }
-    const QList<QUrl> urls = static_cast<QDropEvent*>(event)->mimeData()->urls();
-    if (urls.isEmpty() || !urls.first().isLocalFile()) {
-        return false;
-    }
-    SetValue(urls.first().toLocalFile());
-    return true;
 }
 
 // The shortcut is claimed before the window's own, then it arrives as a key press.
 bool SelectFileWidgets::eventFilter(QObject* object, QEvent* event)
 {
-    if (object == edit && editFilter(event)) {
-        return true;
+    if (object == edit) {
+        watchEdit(*event);
     }
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(object, event);

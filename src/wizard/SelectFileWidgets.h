@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "wizard/FolderMemory.h"
+
 #include <QColor>
 #include <QObject>
 #include <QPointer>
@@ -9,7 +11,10 @@
 #include <memory>
 
 class FindDialog;
+class PathEdit;
+class QAction;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -40,12 +45,12 @@ public:
 
     /// Sets the native form of the text and puts it first in the history; an empty text brings back the last value.
     void SetValue(const QString& text);
-    /// A read-only field has no buttons.
+    /// A read-only field has no buttons, but can be looked into.
     void SetReadOnly(bool readOnly);
     void SetStartFolder(const QString& folder) { startFolder = folder; }
 
     QWidget* frame() const { return frameWidget; }
-    QLineEdit* lineEdit() const { return edit; }
+    QLineEdit* lineEdit() const;
     /// The trimmed text names something on disk; true as long as nothing was entered.
     bool isValid() const { return valid; }
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -63,9 +68,9 @@ public Q_SLOTS:
 private:
     void createButtons();
     void layOut(const Options& options);
-    bool editFilter(QEvent* event);
+    void watchEdit(const QEvent& event);
     void updateLook();
-    void takeForeignForm();
+    void updateReason();
     void takeChosen(const QString& path);
     QPushButton* buttonFor(int key) const;
     QString browseStart() const;
@@ -79,12 +84,14 @@ private:
     std::unique_ptr<FindDialog> findDialog;
     QPointer<QWidget> frameWidget;
     QComboBox* historyCombo;
-    QLineEdit* edit;
+    PathEdit* edit;
     QString caption;
     QString filter;
     QString startFolder;
-    /// What is wrong with the text, in words; empty when nothing is.
-    QString reason;
+    FolderMemory folders;
+    QLabel* reasonLabel = nullptr;
+    QAction* viewAction = nullptr;
     QColor normalColour;
+    bool updating = false;
     bool valid = true;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/SetProductPage.h"
+#include "dialogs/AlarmLabel.h"
 #include "wizard/ApplicationWindow.h"
+#include "wizard/ColumnBox.h"
 #include "wizard/PageScrollArea.h"
 #include "wizard/PageSequence.h"
 
@@ -14,6 +16,7 @@ SetProductPage::SetProductPage(ApplicationWindow* owner)
     : AppPage(owner, SetProductPageId)
     , cRadio(new QRadioButton(tr("Orv C [Project is 'C' Code Only]")))
     , cppRadio(new QRadioButton(tr("Orv C++ [Project contains 'C++' Code]")))
+    , endNote(new QLabel)
     , warningBox(std::make_unique<QGroupBox>())
 {
     setTitle(tr("Select KOVRA Analyser Tool"));
@@ -29,18 +32,23 @@ SetProductPage::SetProductPage(ApplicationWindow* owner)
     auto* explanationBox = new QGroupBox;
     (new QHBoxLayout(explanationBox))->addWidget(explanation);
 
-    auto* analyserBox = new QGroupBox(tr("KOVRA Analyser"));
-    auto* analysers = new QHBoxLayout(analyserBox);
-    analysers->addWidget(cRadio);
-    analysers->addWidget(cppRadio);
+    // Side by side, or where a large font takes too much room for that, below each other.
+    auto* analyserBox = new ColumnBox(2);
+    analyserBox->setTitle(tr("KOVRA Analyser"));
+    analyserBox->add(cRadio);
+    analyserBox->add(cppRadio);
 
     auto* grid = new QGridLayout(PageScrollArea::fill(*this));
     grid->addWidget(explanationBox, 0, 0);
     grid->addWidget(analyserBox, 1, 0);
+    grid->addWidget(endNote, 2, 0);
+    grid->setRowStretch(3, 1);
+    endNote->setWordWrap(true);
+    endNote->setText(owner->noConversionText());
 
-    auto* warning = new QLabel(tr("<font color='red'><U>WARNING</U><P>There are no KOVRA Analysers installed on this "
-                                  "machine.</font>"));
-    warning->setWordWrap(true);
+    auto* warning =
+        new AlarmLabel(tr("<font color='red'><U>WARNING</U><P>There are no KOVRA Analysers installed on this "
+                          "machine.</font>"));
     (new QHBoxLayout(warningBox.get()))->addWidget(warning);
     warningBox->setWindowTitle(owner->windowTitle());
     warningBox->setWindowIcon(owner->windowIcon());
@@ -55,6 +63,7 @@ SetProductPage::~SetProductPage() = default;
 void SetProductPage::initializePage()
 {
     (window->isORVC ? cRadio : cppRadio)->setChecked(true);
+    endNote->setVisible(nextId() == NoPageId);
     // Hidden first, so that it comes to the front again.
     warningBox->hide();
     warningBox->setVisible(window->noAnalyserInstalled);

@@ -6,6 +6,7 @@
 #include <memory>
 
 class QGroupBox;
+class QLabel;
 class QRadioButton;
 
 /// The choice between the C and the C++ analyser.
@@ -26,6 +27,8 @@ public:
 private:
     QRadioButton* cRadio;
     QRadioButton* cppRadio;
+    /// Says that the wizard ends here without a conversion.
+    QLabel* endNote;
     /// A window of its own beside the wizard.
     std::unique_ptr<QGroupBox> warningBox;
 };

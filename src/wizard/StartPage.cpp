@@ -2,6 +2,7 @@
 #include "wizard/StartPage.h"
 #include "app/AppRegistry.h"
 #include "app/StartupWarnings.h"
+#include "dialogs/AlarmLabel.h"
 #include "dialogs/MessageBox.h"
 #include "project/ProjectTarget.h"
 #include "wizard/ApplicationWindow.h"
@@ -15,6 +16,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -23,19 +25,47 @@ StartPage::StartPage(ApplicationWindow* owner)
     , location(tr("Select Directory"), tr("*"), {.selectFiles = false, .startFolder = QDir::currentPath()})
     , nameEdit(new FieldEdit)
     , typeCombo(new QuietCombo)
-    , errorLabel(new QLabel)
+    , errorLabel(new AlarmLabel(errorText()))
     , hint(new QLabel)
     , warnings(new QLabel)
 {
     setTitle(tr("Project Information"));
     setSubTitle(tr("Specify new project name and conversion project type"));
 
+    layOut();
+    warnings->setTextFormat(Qt::PlainText);
+    warnings->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    warnings->setWordWrap(true);
+    warnings->setText(StartupWarnings::all(*appRegistry).join(u'\n'));
+    warnings->setVisible(!warnings->text().isEmpty());
+    hint->setWordWrap(true);
+
+    errorLabel->hide();
+    fillTypes();
+
+    connect(nameEdit, &QLineEdit::textChanged, this, &StartPage::completeChanged);
+    connect(this, &StartPage::completeChanged, this, &StartPage::updateHint);
+    connect(location.lineEdit(), &QLineEdit::textChanged, this, &StartPage::completeChanged);
+    connect(typeCombo, &QComboBox::currentIndexChanged, this, [this] {
+        // Undecided until Next is pressed.
+        window->projectCreator = nullptr;
+        window->analyserFixed = false;
+        updateButtons();
+    });
+}
+
+void StartPage::layOut()
+{
     auto* nameLabel = new QLabel(tr("Name of project to be created:"));
     nameLabel->setBuddy(nameEdit);
     auto* locationLabel = new QLabel(tr("Location for new project file:"));
     locationLabel->setBuddy(location.lineEdit());
     auto* typeLabel = new QLabel(tr("Original project type:"));
     typeLabel->setBuddy(typeCombo);
+    for (QLabel* label : {nameLabel, locationLabel, typeLabel}) {
+        // In a large font they leave the fields no room.
+        label->setWordWrap(label->sizeHint().width() > window->screen()->availableSize().width() / 3);
+    }
     nameEdit->setAccessibleName(nameLabel->text());
     location.lineEdit()->setAccessibleName(locationLabel->text());
     typeCombo->setAccessibleName(typeLabel->text());
@@ -50,31 +80,15 @@ StartPage::StartPage(ApplicationWindow* owner)
     grid->addWidget(errorLabel, 3, 0, 1, 6);
     grid->addWidget(hint, 4, 0, 1, 6);
     grid->addWidget(warnings, 5, 0, 1, 6);
-    warnings->setTextFormat(Qt::PlainText);
-    warnings->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    warnings->setWordWrap(true);
-    warnings->setText(StartupWarnings::all(*appRegistry).join(u'\n'));
-    warnings->setVisible(!warnings->text().isEmpty());
-    hint->setWordWrap(true);
+}
 
+QString StartPage::errorText()
+{
     const QString message =
         tr("<P>An error has occured:<P>For this application to operate successfully it requires an xml data file:"
            "<P><b><i>%1</i></b>.<P>This file is not of the correct format or could not be located.")
             .arg(appRegistry->DefinitionsFileName().toHtmlEscaped());
-    errorLabel->setWordWrap(true);
-    errorLabel->setText(u"<font color='%1'>%2</font>"_s.arg(u"red"_s, message));
-    errorLabel->hide();
-    fillTypes();
-
-    connect(nameEdit, &QLineEdit::textChanged, this, &StartPage::completeChanged);
-    connect(this, &StartPage::completeChanged, this, &StartPage::updateHint);
-    connect(location.lineEdit(), &QLineEdit::textChanged, this, &StartPage::completeChanged);
-    connect(typeCombo, &QComboBox::currentIndexChanged, this, [this] {
-        // Undecided until Next is pressed.
-        window->projectCreator = nullptr;
-        window->analyserFixed = false;
-        updateButtons();
-    });
+    return u"<font color='%1'>%2</font>"_s.arg(u"red"_s, message);
 }
 
 void StartPage::fillTypes()
@@ -100,7 +114,28 @@ void StartPage::initializePage()
 void StartPage::updateHint()
 {
     const bool isNamed = !nameEdit->text().isEmpty() && !location.lineEdit()->text().isEmpty();
-    hint->setText(isNamed || !errorLabel->isHidden() ? QString() : tr("To continue, name the project and its folder."));
+    if (!errorLabel->isHidden()) {
+        hint->clear();
+    } else if (!isNamed) {
+        hint->setText(tr("To continue, name the project and its folder."));
+    } else {
+        hint->setText(endsHere() ? window->noConversionText() : QString());
+    }
+}
+
+bool StartPage::endsHere() const
+{
+    const auto* creator = typeCombo->currentData().value<ProjectCreatorData*>();
+    return creator && creator->inputData.empty() &&
+           window->onlyAnalyser(creator, appRegistry->cInstallDir, appRegistry->cppInstallDir).has_value();
+}
+
+QWidget* StartPage::fieldToMend() const
+{
+    if (nameEdit->text().isEmpty()) {
+        return nameEdit;
+    }
+    return location.lineEdit()->text().isEmpty() ? location.lineEdit() : mistaken;
 }
 
 bool StartPage::isComplete() const
@@ -133,6 +168,7 @@ bool StartPage::makeFolder()
     if (QDir(window->fileDir).exists()) {
         return true;
     }
+    mistaken = location.lineEdit();
     const QString title = u"Directory does not exist"_s;
     if (!MessageBox::ask(
             window, title,
@@ -140,25 +176,30 @@ bool StartPage::makeFolder()
                "directory?\n"))) {
         return false;
     }
-    if (!ProjectTarget::createFolder(window->fileDir)) {
-        MessageBox::warn(window, title, tr("The selected location can not be created.\n"));
-        return false;
+    const Result<void> created = ProjectTarget::createFolder(window->fileDir);
+    if (!created.ok()) {
+        MessageBox::warn(window, title, tr("The selected location can not be created.\n"),
+                         tr("%1: %2\nChoose another folder, or one in which you may create folders.")
+                             .arg(QDir::toNativeSeparators(window->fileDir), created.problem));
     }
-    return true;
+    return created.ok();
 }
 
 bool StartPage::checkProjectFile()
 {
+    mistaken = nameEdit;
     const QString file = window->ProjectFile();
     const bool existed = QFile::exists(file);
     if (existed && !MessageBox::ask(window, tr("Project file already exists"),
                                     tr("Do you want to overwrite this file?") + u'\n' + file)) {
         return false;
     }
-    if (!ProjectTarget::isWritable(file)) {
+    const Result<void> writable = ProjectTarget::checkWritable(file);
+    if (!writable.ok()) {
         const QString text = existed ? tr("Can not overwrite file:") : tr("Can not create file:");
-        MessageBox::warn(window, tr("Project File can not be created"), text + u'\n' + file);
-        return false;
+        MessageBox::warn(
+            window, tr("Project File can not be created"), text + u'\n' + file,
+            tr("%1\nChoose another name, or a folder in which you may create files.").arg(writable.problem));
     }
-    return true;
+    return writable.ok();
 }

@@ -4,6 +4,7 @@
 #include "wizard/AppPage.h"
 #include "wizard/SelectFileWidgets.h"
 
+class AlarmLabel;
 class QLabel;
 class QLineEdit;
 class QuietCombo;
@@ -19,20 +20,27 @@ public:
     void initializePage() override;
     bool validatePage() override;
     bool isComplete() const override;
+    QWidget* fieldToMend() const override;
 
 private:
+    static QString errorText();
+    void layOut();
     void fillTypes();
     void updateButtons();
     void updateHint();
+    /// The chosen type leads to no conversion.
+    bool endsHere() const;
     bool makeFolder();
     bool checkProjectFile();
 
     SelectFileWidgets location;
     QLineEdit* nameEdit;
     QuietCombo* typeCombo;
-    QLabel* errorLabel;
+    AlarmLabel* errorLabel;
     /// Says what Next is waiting for.
     QLabel* hint;
     /// What went wrong while everything was loaded.
     QLabel* warnings;
+    /// On whose account the page was refused.
+    QWidget* mistaken = nullptr;
 };

@@ -119,6 +119,19 @@ bool XmlPage::isComplete() const
     return window->projectCreator && !firstIncomplete();
 }
 
+QWidget* XmlPage::fieldToMend() const
+{
+    const ArgumentDefinition* missing = window->projectCreator ? firstIncomplete() : nullptr;
+    // Of a group it is the first thing in it.
+    while (missing && !missing->lineEdit && !missing->button && !missing->children.empty()) {
+        missing = missing->children.front().get();
+    }
+    if (!missing) {
+        return nullptr;
+    }
+    return missing->lineEdit ? static_cast<QWidget*>(missing->lineEdit) : missing->button;
+}
+
 QString XmlPage::Value(ArgumentDefinition& definition, bool store) const
 {
     const FieldSource source = [this](const ArgumentDefinition& field) { return fieldState(field); };

@@ -22,6 +22,7 @@ public:
     void cleanupPage() override;
     bool validatePage() override;
     bool isComplete() const override;
+    QWidget* fieldToMend() const override;
 
     /// The field's current value; with store the controls' values are remembered in the records.
     QString Value(ArgumentDefinition& definition, bool store) const;

@@ -5,6 +5,7 @@
 #include "Installation.h"
 #include "launchers/PageData.h"
 #include "launchers/RunAppData.h"
+#include "Readability.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -179,25 +180,46 @@ private Q_SLOTS:
         QCOMPARE(launchers.tool(1).button->size(), size);
     }
 
-    void canBeReadOnADarkDesktop_data()
+    void canBeRead_data()
     {
-        const TestRows<QByteArray, QColor> row("colour", "text");
-        row("usual", "", Qt::black);
-        row("light", "<colour>lightgreen</colour>", Qt::black);
-        row("dark", "<colour>navy</colour>", Qt::white);
+        const TestRows<QByteArray, QColor, Qt::LayoutDirection> row("colour", "window", "direction");
+        row("usual", "", QColor(40, 40, 40), Qt::LeftToRight);
+        row("dark", "navy", Qt::white, Qt::LeftToRight);
+        row("neither dark nor light", "red", Qt::black, Qt::RightToLeft);
+        row("grey", "#7c7c7c", QColor(40, 40, 40), Qt::RightToLeft);
     }
 
-    void canBeReadOnADarkDesktop()
+    // On any desktop; and the arrow beside it points the way that is read.
+    void canBeRead()
     {
         QFETCH(const QByteArray, colour);
-        QFETCH(const QColor, text);
+        QFETCH(const QColor, window);
+        QFETCH(const Qt::LayoutDirection, direction);
+        const LauncherPage page({""}, "<colour>" + colour + "</colour><leftimage>arrow</leftimage>");
         const QPalette usual = QApplication::palette();
-        QApplication::setPalette(QPalette(QColor(40, 40, 40)));
-        const LauncherPage page({""}, colour + "<leftimage>arrow</leftimage>");
-        QCOMPARE(page.tool(1).button->palette().color(QPalette::Active, QPalette::ButtonText), text);
+        QApplication::setPalette(QPalette(window));
+        QApplication::setLayoutDirection(direction);
+        // Windows learn of their palette as of any event.
+        QCoreApplication::processEvents();
+        QPushButton& button = *page.tool(1).button;
+        const double contrast = paintedContrast(button);
+        button.setEnabled(false);
+        const double greyContrast = paintedContrast(button);
         const QImage arrow = page.window.findChild<QLabel*>()->pixmap().toImage();
-        QCOMPARE(arrow.pixelColor(arrow.rect().center()), QApplication::palette().color(QPalette::WindowText));
+        const QColor text = QApplication::palette().color(QPalette::WindowText);
         QApplication::setPalette(usual);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        QVERIFY2(contrast >= Contrast::least, qPrintable(QString::number(contrast)));
+        QVERIFY2(greyContrast >= Contrast::least, qPrintable(QString::number(greyContrast)));
+        QCOMPARE(arrow.pixelColor(arrow.rect().center()), text);
+        // Its head is where most of its ink is.
+        qsizetype ink[2] = {};
+        for (int x = 0; x < arrow.width(); ++x) {
+            for (int y = 0; y < arrow.height(); ++y) {
+                ink[x < arrow.width() / 2 ? 0 : 1] += arrow.pixelColor(x, y).alpha() > 0 ? 1 : 0;
+            }
+        }
+        QCOMPARE(ink[0] > ink[1], direction == Qt::LeftToRight);
     }
 };
 

@@ -146,6 +146,14 @@ Möchten Sie den Assistenten schließen?</translation>
         <source>the conversion</source>
         <translation>die Konvertierung</translation>
     </message>
+    <message>
+        <source>This project type declares nothing to convert: Finish closes the wizard, and no project is created.</source>
+        <translation>Diese Projektart sieht nichts zu konvertieren vor: Abschließen beendet den Assistenten, ohne dass ein Projekt entsteht.</translation>
+    </message>
+    <message>
+        <source>The project is there, but what you have entered on the pages before will be forgotten. Finish keeps it for the next time.</source>
+        <translation>Das Projekt ist erstellt, aber Ihre Eingaben auf den vorigen Seiten werden vergessen. Mit Abschließen bleiben sie für das nächste Mal erhalten.</translation>
+    </message>
 </context>
 <context>
     <name>ArgumentSubstitution</name>
@@ -312,14 +320,6 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
         <translation>-prj: %1 existiert bereits; -overwrite ersetzt die Datei</translation>
     </message>
     <message>
-        <source>-prj: the folder %1 can not be created</source>
-        <translation>-prj: Der Ordner %1 kann nicht erstellt werden</translation>
-    </message>
-    <message>
-        <source>-prj: can not create file %1</source>
-        <translation>-prj: Die Datei %1 kann nicht erstellt werden</translation>
-    </message>
-    <message>
         <source>%1: this conversion type or installation allows only the other analyser</source>
         <translation>%1: diese Konvertierungsart oder Installation erlaubt nur den anderen Analysator</translation>
     </message>
@@ -353,6 +353,14 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
     <message>
         <source>%1 was left by a conversion that failed</source>
         <translation>%1 stammt von einer Konvertierung, die gescheitert ist</translation>
+    </message>
+    <message>
+        <source>-prj: can not create file %1: %2</source>
+        <translation>-prj: Die Datei %1 kann nicht erstellt werden: %2</translation>
+    </message>
+    <message>
+        <source>-prj: the folder %1 can not be created: %2</source>
+        <translation>-prj: Der Ordner %1 kann nicht erstellt werden: %2</translation>
     </message>
 </context>
 <context>
@@ -707,6 +715,14 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
         <source>No browser could be started. The report is in %1; open it with a program of your choice.</source>
         <translation>Es konnte kein Browser gestartet werden. Der Bericht steht in %1; öffnen Sie ihn mit einem Programm Ihrer Wahl.</translation>
     </message>
+    <message>
+        <source>it is no file that holds text</source>
+        <translation>das ist keine Datei mit Text</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Finden...</translation>
+    </message>
 </context>
 <context>
     <name>DisplayOptionsPage</name>
@@ -809,6 +825,20 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
         <source>Find Files</source>
         <translation>Dateien suchen</translation>
     </message>
+    <message>
+        <source>Shown: %1.</source>
+        <translation>Angezeigt: %1.</translation>
+    </message>
+    <message>
+        <source>Show only paths with these words</source>
+        <translation>Nur Pfade mit diesen Wörtern zeigen</translation>
+    </message>
+    <message>
+        <source>%1
+Name a folder, or choose one with Browse.</source>
+        <translation>%1
+Nennen Sie einen Ordner, oder wählen Sie einen mit Durchsuchen.</translation>
+    </message>
 </context>
 <context>
     <name>HelpManager</name>
@@ -892,6 +922,10 @@ Möchten Sie diese Anwendung schließen?</translation>
     <message>
         <source>Still open: %1</source>
         <translation>Noch offen: %1</translation>
+    </message>
+    <message>
+        <source>Do you wish to close the wizard?</source>
+        <translation>Möchten Sie den Assistenten schließen?</translation>
     </message>
 </context>
 <context>
@@ -1111,6 +1145,20 @@ Möchten Sie diese Anwendung schließen?</translation>
         <source>The end of its error output:</source>
         <translation>Das Ende der Fehlerausgabe:</translation>
     </message>
+    <message>
+        <source>%1 ended unexpectedly. What it said is in the details.</source>
+        <translation>%1 wurde unerwartet beendet. Die Ausgabe steht in den Details.</translation>
+    </message>
+    <message>
+        <source>%1: %2
+Install the suite again, or correct its definitions file.</source>
+        <translation>%1: %2
+Installieren Sie die Suite neu, oder berichtigen Sie ihre Definitionsdatei.</translation>
+    </message>
+    <message>
+        <source>%1 ended with exit code %2. What it said is in the details.</source>
+        <translation>%1 endete mit dem Rückgabewert %2. Die Ausgabe steht in den Details.</translation>
+    </message>
 </context>
 <context>
     <name>RunIndicator</name>
@@ -1129,10 +1177,6 @@ Möchten Sie diese Anwendung schließen?</translation>
 </context>
 <context>
     <name>SelectFileWidgets</name>
-    <message>
-        <source>There is no file or folder of this name.</source>
-        <translation>Es gibt keine Datei und keinen Ordner dieses Namens.</translation>
-    </message>
     <message>
         <source>Edit the specified file</source>
         <translation>Die angegebene Datei bearbeiten</translation>
@@ -1168,6 +1212,22 @@ Möchten Sie diese Anwendung schließen?</translation>
     <message>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>%1
+Check the name, or choose another file.</source>
+        <translation>%1
+Prüfen Sie den Namen, oder wählen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>%1: %2
+Choose another file, or ask for the right to read this one.</source>
+        <translation>%1: %2
+Wählen Sie eine andere Datei, oder bitten Sie um das Recht, diese zu lesen.</translation>
+    </message>
+    <message>
+        <source>Show the file</source>
+        <translation>Datei anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1285,6 +1345,18 @@ Möchten Sie diesen Ordner erstellen?
         <source>To continue, name the project and its folder.</source>
         <translation>Um fortzufahren, geben Sie Namen und Ordner des Projekts an.</translation>
     </message>
+    <message>
+        <source>%1: %2
+Choose another folder, or one in which you may create folders.</source>
+        <translation>%1: %2
+Wählen Sie einen anderen Ordner, oder einen, in dem Sie Ordner anlegen dürfen.</translation>
+    </message>
+    <message>
+        <source>%1
+Choose another name, or a folder in which you may create files.</source>
+        <translation>%1
+Wählen Sie einen anderen Namen, oder einen Ordner, in dem Sie Dateien anlegen dürfen.</translation>
+    </message>
 </context>
 <context>
     <name>Startup</name>
@@ -1362,6 +1434,59 @@ Möchten Sie diesen Ordner erstellen?
     <message>
         <source>To continue, fill in &quot;%1&quot;.</source>
         <translation>Um fortzufahren, füllen Sie „%1“ aus.</translation>
+    </message>
+</context>
+<context>
+    <name>PathEdit</name>
+    <message>
+        <source>There is no file or folder of this name.</source>
+        <translation>Es gibt keine Datei und keinen Ordner dieses Namens.</translation>
+    </message>
+    <message>
+        <source>This is a file. A folder is asked for.</source>
+        <translation>Das ist eine Datei. Gefragt ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>This is a folder. A file is asked for.</source>
+        <translation>Das ist ein Ordner. Gefragt ist eine Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Went on at the beginning.</source>
+        <translation>Am Anfang fortgesetzt.</translation>
+    </message>
+    <message>
+        <source>Went on at the end.</source>
+        <translation>Am Ende fortgesetzt.</translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation>Nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>Im Text suchen</translation>
+    </message>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>S&amp;uchen:</translation>
+    </message>
+</context>
+<context>
+    <name>AppPage</name>
+    <message>
+        <source>Help on this page</source>
+        <translation>Hilfe zu dieser Seite</translation>
     </message>
 </context>
 </TS>
