@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "wizard/PathEdit.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QFocusEvent>
 #include <QMimeData>
 #include <QTextDocument>
 #include <QToolTip>
@@ -60,6 +62,16 @@ void PathEdit::offerCompletion()
     model->setRootPath(QDir::rootPath());
     paths->setModel(model);
     setCompleter(paths);
+}
+
+// A folder that is read late would bring its proposals up over another field, and take the keys meant for that.
+void PathEdit::focusOutEvent(QFocusEvent* event)
+{
+    FieldEdit::focusOutEvent(event);
+    if (completer() && event->reason() != Qt::PopupFocusReason) {
+        completer()->popup()->hide();
+        completer()->setWidget(nullptr);
+    }
 }
 
 void PathEdit::takeForeignForm()

@@ -17,6 +17,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:

@@ -85,6 +85,7 @@ void BoxAnswers::answer()
     }
     texts += box->windowTitle() + u'|' + box->text();
     details += box->detailedText();
+    additions += box->informativeText();
     // An unexpected box must not hang the test: it gets the answer that changes least.
     const QMessageBox::StandardButton choice = answers.isEmpty() ? QMessageBox::NoButton : answers.takeFirst();
     if (QAbstractButton* button = box->button(choice)) {

@@ -41,6 +41,8 @@ public:
     QStringList texts;
     /// What stands behind the "Show Details" of each box.
     QStringList details;
+    /// What stands below the text of each.
+    QStringList additions;
 
 private:
     void answer();
