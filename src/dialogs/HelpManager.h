@@ -33,6 +33,9 @@ public:
     static QString currentHelpPage;
 
     bool eventFilter(QObject* object, QEvent* event) override;
+    /// Where a page below the help directory is shown from, in the user's language where there is one; empty when it is
+    /// not there.
+    QUrl find(const QString& helpPage);
     /// Shows the page, or where the suite's help has none of that name the general one.
     void showPageOf(const QString& helpPage);
 
@@ -44,8 +47,6 @@ public Q_SLOTS:
 
 private:
     static QString profile(const AppRegistry& registry);
-    /// The page below the help directory, in the user's language where there is one; empty when it is not there.
-    QUrl find(const QString& helpPage);
     void show(const QUrl& page);
 
     const AppRegistry& registry;

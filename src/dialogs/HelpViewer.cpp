@@ -3,6 +3,8 @@
 #include "dialogs/HelpCollection.h"
 
 #include <QDialogButtonBox>
+#include <QIcon>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QUrl>
@@ -39,6 +41,8 @@ HelpViewer::HelpViewer(const HelpCollection& collection, QWidget* parent)
     , browser(new HelpBrowser(collection))
 {
     setWindowTitle(tr("Help"));
+    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
+    browser->setAccessibleName(windowTitle());
     resize(700, 550);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QPushButton* back = buttons->addButton(tr("Back"), QDialogButtonBox::ActionRole);

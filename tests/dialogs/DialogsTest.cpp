@@ -4,6 +4,7 @@
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/FileSearch.h"
 #include "dialogs/FindDialog.h"
+#include "dialogs/MainWindow.h"
 #include "Installation.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -67,6 +69,23 @@ struct Find : Installation
     const QString searched = path(u"work"_s);
     const QString closed = searched + u"/closed"_s;
     std::unique_ptr<FindDialog> dialog;
+};
+
+/// Counts the help keys that reach the main window.
+struct HelpKeys : QObject
+{
+    explicit HelpKeys(QWidget& window)
+    {
+        MainWindow::set(&window);
+        window.installEventFilter(this);
+    }
+    ~HelpKeys() override { MainWindow::set(nullptr); }
+    bool eventFilter(QObject* /*window*/, QEvent* event) override
+    {
+        count += int(event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1);
+        return false;
+    }
+    int count = 0;
 };
 
 } // namespace
@@ -140,6 +159,53 @@ private Q_SLOTS:
         QCOMPARE(printed(html), QByteArray("%PDF-"));
         // Printing does not leave out what was still to be shown.
         QCOMPARE(document.characterCount(), text.size() + 100 + 1);
+    }
+
+    void findsWordsInAText()
+    {
+        const Installation suite;
+        AppRegistry registry;
+        QWidget wizard;
+        HelpKeys helpKeys(wizard);
+        DisplayDialog dialog(registry, u"t"_s, DisplayDialog::Text, 600, 600);
+        dialog.SetText(u"one\ntwo one"_s);
+        dialog.show();
+        QTest::keyClick(&dialog, Qt::Key_F, Qt::ControlModifier);
+        QLineEdit& words = controlCalled<QLineEdit>(dialog, u"Find in the text"_s);
+        const auto& view = *dialog.findChild<QPlainTextEdit*>();
+        words.setText(u"ONE"_s);
+        QList<int> places;
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClick(&words, Qt::Key_Return);
+            places += view.textCursor().selectionStart();
+        }
+        QCOMPARE(places, (QList{0, 8, 0}));
+        QVERIFY(findControl(dialog, u"Went on at the beginning."_s));
+        words.setText(u"three"_s);
+        QTest::keyClick(&words, Qt::Key_Return);
+        QVERIFY(findControl(dialog, u"Not found."_s));
+        QTest::keyClick(&words, Qt::Key_F1);
+        QCOMPARE(helpKeys.count, 1);
+        // Escape closes the bar first.
+        QTest::keyClick(&words, Qt::Key_Escape);
+        QVERIFY(dialog.isVisible());
+        QVERIFY(!words.isVisible());
+    }
+
+    void filtersWhatItFound()
+    {
+        const Find find;
+        QWidget wizard;
+        HelpKeys helpKeys(wizard);
+        find.search(u"*.*"_s);
+        QLineEdit& filter = controlCalled<QLineEdit>(*find.dialog, u"Show only paths with these words"_s);
+        filter.setText(u"DEEPER"_s);
+        QTRY_VERIFY(findControl(*find.dialog, u"Files found: 5. Shown: 1."_s));
+        QVERIFY(find.list().isRowHidden(find.list().row(find.list().findItems(u"a.c"_s, Qt::MatchEndsWith).first())));
+        filter.clear();
+        QTRY_VERIFY(findControl(*find.dialog, u"Files found: 5."_s));
+        QTest::keyClick(&filter, Qt::Key_F1);
+        QCOMPARE(helpKeys.count, 1);
     }
 
     void findsFiles_data()

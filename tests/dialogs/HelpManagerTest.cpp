@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/HelpManager.h"
 #include "app/AppRegistry.h"
+#include "app/Translations.h"
 #include "dialogs/AssistantClient.h"
 #include "dialogs/HelpCollection.h"
 #include "dialogs/HelpViewer.h"
@@ -12,6 +13,7 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTextBrowser>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
@@ -89,6 +91,29 @@ private Q_SLOTS:
         HelpViewer viewer(collection);
         viewer.showPage(page);
         QVERIFY(viewer.findChild<QTextBrowser*>()->toPlainText().startsWith("The configuration files"_L1));
+    }
+
+    void speaksTheUsersLanguage_data()
+    {
+        const TestRows<QString, QString, QString> row("language", "page", "shown");
+        row("German", u"de"_s, u"startPage.htm"_s, space + u"de/startPage.htm"_s);
+        row("English", u"en"_s, u"startPage.htm"_s, space + u"startPage.htm"_s);
+        row("no translation", u"fr"_s, u"startPage.htm"_s, space + u"startPage.htm"_s);
+        row("no page", u"de"_s, u"gone.htm"_s, {});
+    }
+
+    void speaksTheUsersLanguage()
+    {
+        QFETCH(const QString, language);
+        QFETCH(const QString, page);
+        Installation suite;
+        installHelp(suite);
+        Translations::install(QLocale(language));
+        HelpManager manager(suite.start(), nullptr);
+        const QUrl found = manager.find(page);
+        Translations::install(QLocale::c());
+        qDeleteAll(qApp->findChildren<QTranslator*>());
+        QTEST(found.toString(), "shown");
     }
 
     void tellsTheViewerWhatToShow()

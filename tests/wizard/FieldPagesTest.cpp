@@ -46,6 +46,8 @@ public:
       <compliance_module><name>Module</name><location>%ORVC%</location>
         <compilerpersonality>%ORVC%/personalities/module.p_c</compilerpersonality>
         <messagepersonality>%ORVC%/personalities/gone.p_s</messagepersonality></compliance_module>
+      <compliance_module><name>Foreign</name><location>%ORVC%</location>
+        <compilerpersonality>%ORVCPP%/personalities/cpp.p_c</compilerpersonality></compliance_module>
       <compliance_module><name>Not installed</name><location>/nowhere</location></compliance_module>
       <compliance_module><product>ORVCPP</product><name>Other</name><location>/</location></compliance_module>)");
         start();
@@ -271,15 +273,21 @@ private Q_SLOTS:
     void modulesLockFields()
     {
         const Suite suite;
-        const WizardDriver wizard;
+        WizardDriver wizard;
         suite.passInputs(wizard, true);
+        QVERIFY(QTest::qWaitForWindowActive(&wizard.window));
         QComboBox& modules = wizard.combo(u"Compliance Modules:"_s);
         QLineEdit& field = wizard.edit(compiler);
-        QCOMPARE(modules.count(), 2);
+        QCOMPARE(modules.count(), 3);
         modules.setCurrentText(u"Module"_s);
         QCOMPARE(field.text(), suite.ofModule);
         QVERIFY(field.isReadOnly());
         QVERIFY(!wizard.has(u"Browse: Select Compiler Configuration Options"_s));
+        // Locked, it can still be looked into.
+        BoxAnswers boxes({QMessageBox::Ok});
+        field.setFocus();
+        QTest::keyClick(&field, Qt::Key_O, Qt::ControlModifier);
+        QTRY_COMPARE(boxes.texts, QStringList{suite.ofModule + u"|-ss+\n"_s});
         // A file that is missing is named, but can be replaced.
         QCOMPARE(wizard.edit(message).text(), suite.path(u"orvc/personalities/gone.p_s"_s));
         QVERIFY(!wizard.edit(message).isReadOnly());
@@ -287,6 +295,11 @@ private Q_SLOTS:
         modules.setCurrentIndex(0);
         QVERIFY(!field.isReadOnly());
         QCOMPARE(field.text(), suite.ofModule);
+        // One that is refused locks nothing.
+        modules.setCurrentText(u"Foreign"_s);
+        QCOMPARE(boxes.texts.size(), 2);
+        QCOMPARE(field.text(), suite.ofModule);
+        QVERIFY(!field.isReadOnly());
         // A blank around a path is no fault.
         wizard.edit(message).setText(u' ' + suite.ofMessages + u' ');
         QVERIFY(wizard.canGoOn());

@@ -721,7 +721,7 @@ oder die Ausgabe konnte nicht geschrieben werden, 2 falsche Argumente.
     </message>
     <message>
         <source>&amp;Find...</source>
-        <translation>&amp;Finden...</translation>
+        <translation>S&amp;uchen...</translation>
     </message>
 </context>
 <context>
@@ -1479,7 +1479,7 @@ Wählen Sie einen anderen Namen, oder einen Ordner, in dem Sie Dateien anlegen d
     </message>
     <message>
         <source>F&amp;ind:</source>
-        <translation>S&amp;uchen:</translation>
+        <translation>Such&amp;text:</translation>
     </message>
 </context>
 <context>
