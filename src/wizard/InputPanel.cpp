@@ -25,12 +25,15 @@ int oneToFive(int columns)
     return columns < 1 || columns > 5 ? 1 : columns;
 }
 
-/// What a control shows of a name: one long name would widen all of the page. Its tool tip holds the whole.
+/// What a control shows of a name: one long name would widen all of the page. Its tool tip holds the whole. A label has
+/// to leave room for the field beside it.
 QString shownName(const QString& name, const QWidget& control)
 {
     constexpr int longest = 40;
     const QFontMetrics metrics = control.fontMetrics();
-    const int width = std::min(longest * metrics.averageCharWidth(), control.screen()->availableSize().width() / 5);
+    const int width =
+        std::min(longest * metrics.averageCharWidth(),
+                 control.screen()->availableSize().width() / (qobject_cast<const QLabel*>(&control) ? 4 : 2));
     return PlainText::withoutMnemonic(metrics.elidedText(name, Qt::ElideMiddle, width));
 }
 
@@ -91,7 +94,8 @@ private:
             labels += label;
         }
         QWidget* control = definition.isSwitch() ? buildSwitch(definition, *row) : buildText(definition, *row);
-        control->setToolTip(toolTipOf(definition.displayName, definition.hoverHelp, *control));
+        const QWidget& named = label ? static_cast<const QWidget&>(*label) : *control;
+        control->setToolTip(toolTipOf(definition.displayName, definition.hoverHelp, named));
         control->setAccessibleName(definition.displayName);
         definition.widgets += control;
         if (label) {

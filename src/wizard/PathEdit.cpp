@@ -68,7 +68,9 @@ void PathEdit::offerCompletion()
 void PathEdit::focusOutEvent(QFocusEvent* event)
 {
     FieldEdit::focusOutEvent(event);
-    if (completer() && event->reason() != Qt::PopupFocusReason) {
+    const bool isOtherWindow =
+        event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (completer() && !isOtherWindow) {
         completer()->popup()->hide();
         completer()->setWidget(nullptr);
     }

@@ -80,6 +80,7 @@ void StartPage::layOut()
     grid->addWidget(errorLabel, 3, 0, 1, 6);
     grid->addWidget(hint, 4, 0, 1, 6);
     grid->addWidget(warnings, 5, 0, 1, 6);
+    grid->setRowStretch(6, 1);
 }
 
 QString StartPage::errorText()

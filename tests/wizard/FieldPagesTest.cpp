@@ -2,9 +2,12 @@
 #include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
+#include "wizard/FolderMemory.h"
 #include "WizardDriver.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
+#include <QCompleter>
 
 using namespace Qt::StringLiterals;
 
@@ -268,6 +271,7 @@ private Q_SLOTS:
         wizard.edit(compiler).setText(suite.path(name));
         wizard.button(u"Edit: Select Compiler Configuration Options"_s).click();
         QCOMPARE(boxes.texts, QStringList{u"Edit failed|"_s + says});
+        QVERIFY2(boxes.additions[0].startsWith(suite.path(name)), qPrintable(boxes.additions[0]));
     }
 
     void modulesLockFields()
@@ -307,6 +311,35 @@ private Q_SLOTS:
         wizard.press(QWizard::NextButton);
         QCOMPARE(wizard.window.compilerPersonality, suite.ofModule);
         QCOMPARE(wizard.window.messagePersonality, suite.ofMessages);
+    }
+
+    void helpsWithPaths()
+    {
+        const Suite suite;
+        const QString folder = suite.path(u"work"_s);
+        {
+            WizardDriver wizard;
+            suite.passToInputs(wizard, true);
+            QVERIFY(QTest::qWaitForWindowActive(&wizard.window));
+            QLineEdit& source = wizard.edit(u"Source"_s);
+            source.setFocus();
+            source.setText(folder);
+            QTest::keyClicks(&source, u"/make f"_s);
+            QTRY_VERIFY(source.completer()->popup()->isVisible());
+            QCOMPARE(source.completer()->currentCompletion(), suite.source);
+            // A folder is there, but is no file; below the field stands so as soon as it is left.
+            source.setText(folder);
+            const QString fault = u"This is a folder. A file is asked for."_s;
+            QVERIFY(!wizard.labels().contains(fault));
+            wizard.edit(u"Word"_s).setFocus();
+            QTRY_VERIFY(wizard.labels().contains(fault));
+            QCOMPARE(source.accessibleDescription(), fault);
+        }
+        FolderMemory memory(u"a/b"_s);
+        QCOMPARE(memory.last(), QString());
+        memory.choose(folder);
+        appRegistry->WriteRegistry();
+        QCOMPARE(FolderMemory(u"a/b"_s).last(), folder);
     }
 
     // With all files given there is nothing to ask for.

@@ -156,14 +156,15 @@ private Q_SLOTS:
         suite.write(u"help/wendle.adp"_s, "");
         suite.start();
         WizardDriver wizard;
-        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok});
+        const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok});
         // From the first press, and once per press, wherever the focus is.
         QTest::keyClick(&wizard.edit(u"Name of project to be created:"_s), Qt::Key_F1);
         QCOMPARE(boxes.texts.size(), 1);
         QVERIFY(boxes.texts.first().startsWith("Assistant Error|The help page "_L1));
         wizard.window.ShowHelp();
         QTest::keyClick(&wizard.window, Qt::Key_Help);
-        QCOMPARE(boxes.texts.size(), 3);
+        wizard.button(u"Help on this page"_s).click();
+        QCOMPARE(boxes.texts.size(), 4);
     }
 
     void decidesTheAnalyser_data()
