@@ -4,16 +4,31 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QDir>
+#include <QDirIterator>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QFileSystemModel>
 #include <QFocusEvent>
 #include <QMimeData>
+#include <QStringListModel>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostProposals = 1000;
+
+// "~/x" as a shell reads it.
+QString inHome(const QString& path)
+{
+    return path == u'~' || path.startsWith("~/"_L1) ? QDir::homePath() + path.mid(1) : path;
+}
+
+} // namespace
 
 PathEdit::PathEdit(bool forFolders, QWidget* parent)
     : FieldEdit(parent)
@@ -48,23 +63,31 @@ bool PathEdit::event(QEvent* event)
     return true;
 }
 
-// Nothing on disk is read before somebody types.
-void PathEdit::offerCompletion()
+// Only the folder that is being typed in is read, and of a crowded one the beginning.
+void PathEdit::offerCompletion(const QString& typed)
 {
-    if (completer()) {
+    const qsizetype end = std::max(typed.lastIndexOf(u'/'), typed.lastIndexOf(QDir::separator())) + 1;
+    const QString folder = typed.first(end);
+    if (folder == listed) {
         return;
     }
-    auto* paths = new QCompleter(this);
-    auto* model = new QFileSystemModel(paths);
-    model->setFilter((foldersOnly ? QDir::Dirs : QDir::AllEntries) | QDir::AllDirs | QDir::NoDotAndDotDot);
-    model->setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
-    model->setOption(QFileSystemModel::DontWatchForChanges);
-    model->setRootPath(QDir::rootPath());
-    paths->setModel(model);
-    setCompleter(paths);
+    listed = folder;
+    if (!completer()) {
+        auto* paths = new QCompleter(new QStringListModel(this), this);
+        paths->setModelSorting(QCompleter::CaseSensitivelySortedModel);
+        setCompleter(paths);
+    }
+    QStringList entries;
+    QDirIterator names(inHome(folder), (foldersOnly ? QDir::Dirs : QDir::AllEntries) | QDir::NoDotAndDotDot);
+    while (!folder.isEmpty() && names.hasNext() && entries.size() < mostProposals) {
+        names.next();
+        entries += folder + names.fileName();
+    }
+    entries.sort();
+    static_cast<QStringListModel*>(completer()->model())->setStringList(entries);
 }
 
-// A folder that is read late would bring its proposals up over another field, and take the keys meant for that.
+// Its proposals must not stay over another field and take the keys meant for that.
 void PathEdit::focusOutEvent(QFocusEvent* event)
 {
     FieldEdit::focusOutEvent(event);
@@ -82,8 +105,8 @@ void PathEdit::takeForeignForm()
     const QUrl url(path, QUrl::StrictMode);
     if (path.startsWith("file://"_L1) && url.isLocalFile()) {
         setText(QDir::toNativeSeparators(url.toLocalFile()));
-    } else if (path == u'~' || path.startsWith("~/"_L1)) {
-        setText(QDir::toNativeSeparators(QDir::homePath() + path.mid(1)));
+    } else if (inHome(path) != path) {
+        setText(QDir::toNativeSeparators(inHome(path)));
     }
 }
 

@@ -21,8 +21,10 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void offerCompletion();
+    void offerCompletion(const QString& typed);
     void takeForeignForm();
 
     bool foldersOnly;
+    /// The folder whose entries are proposed.
+    QString listed;
 };

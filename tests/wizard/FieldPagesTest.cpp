@@ -327,6 +327,7 @@ private Q_SLOTS:
             QTest::keyClicks(&source, u"/make f"_s);
             QTRY_VERIFY(source.completer()->popup()->isVisible());
             QCOMPARE(source.completer()->currentCompletion(), suite.source);
+            QTest::keyClick(source.completer()->popup(), Qt::Key_Escape);
             // A folder is there, but is no file; below the field stands so as soon as it is left.
             source.setText(folder);
             const QString fault = u"This is a folder. A file is asked for."_s;
