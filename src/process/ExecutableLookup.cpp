@@ -22,6 +22,11 @@ QString FindExecutable(const QString& program, const QStringList& folders)
         if (QFile::exists(candidate)) {
             return candidate;
         }
+        // Windows' own suffixes.
+        candidate = QStandardPaths::findExecutable(program, {folder});
+        if (!candidate.isEmpty()) {
+            return candidate;
+        }
     }
     return {};
 }

@@ -39,9 +39,7 @@ struct SlowSuite : Installation
 {
     SlowSuite()
     {
-        const QString script =
-            writeScript(u"slow"_s, "echo half > \"$1\"\n"
-                                   "while [ -e \"$0\" ] && [ ! -e \"$0.go\" ]; do sleep 0.02; done\n");
+        const QString script = writeChild(u"slow"_s, "write $1 half; await $0.go");
         define("<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" + script.toUtf8() +
                "</exe><exeargs>%PF</exeargs></projectCreator>");
     }
@@ -142,8 +140,7 @@ private Q_SLOTS:
         QFETCH(const QString, output);
         const SlowSuite suite;
         suite.write(u"slow.go"_s, "");
-        suite.writeScript(u"slow"_s, "echo > \"$1\"\n"
-                                     "printf '[1/3] a\\nabove\\n\\n[2/3] bcdefghij\\nbroken off'\n");
+        suite.write(u"slow.verbs"_s, "write $1 x; put '[1/3] a\nabove\n\n[2/3] bcdefghij\nbroken off'");
         QStringList words{QStringLiteral(PROGRAM)};
         for (const QString& word : suite.arguments(more)) {
             words += u'\'' + word + u'\'';

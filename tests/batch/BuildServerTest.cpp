@@ -17,14 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A suite with one conversion type "T" for C projects, whose script gets the project file and the input "E", one with
+/// A suite with one conversion type "T" for C projects, whose child gets the project file and the input "E", one with
 /// a compliance module and a launcher each, and the program installed in it by a link.
 struct BatchSuite : Installation
 {
-    explicit BatchSuite(const QByteArray& script = "echo new > \"$1\"\n")
+    explicit BatchSuite(const QByteArray& script = "write $1 new")
     {
-        const QByteArray program = writeScript(u"convert"_s, script).toUtf8();
-        const QByteArray tool = writeScript(u"tool"_s, "echo \"tool $*\"; exit ${TOOL_STATUS:-0}\n").toUtf8();
+        const QByteArray program = writeChild(u"convert"_s, script).toUtf8();
+        const QByteArray tool = writeChild(u"tool"_s, "print tool $*; exit $TOOL_STATUS").toUtf8();
         const QByteArray file = write(u"m.p_s"_s, "-x\n").toUtf8();
         define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + program +
                "</exe><exeargs>%PF %E</exeargs><messagePersonality TYPE=\"C\"></messagePersonality>"
@@ -66,12 +66,12 @@ private Q_SLOTS:
     {
         const TestRows<QByteArray, QString, int, QByteArray, QString> row("script", "outcome", "status", "project",
                                                                           "says");
-        row("created", "echo new > \"$1\"", u"created"_s, 0, "new\n", {});
-        row("failed beside a file", "echo half > \"$1\"; exit 3", u"createdButFailed"_s, 1, "half\n", u"exit code 3"_s);
-        row("failed beside an empty file", ": > \"$1\"; exit 1", u"notCreated"_s, 1, "old", u"is empty"_s);
-        row("not created", "echo why >&2; exit 4", u"notCreated"_s, 1, "old", u"exit code 4"_s);
-        row("crashed", "echo half > \"$1\"; kill -SEGV $$", u"crashed"_s, 1, "old", u"crashed"_s);
-        row("takes too long", "echo half > \"$1\"; sleep 1000", u"timedOut"_s, 1, "old", u"longer than"_s);
+        row("created", "write $1 new", u"created"_s, 0, "new\n", {});
+        row("failed beside a file", "write $1 half; exit 3", u"createdButFailed"_s, 1, "half\n", u"exit code 3"_s);
+        row("failed beside an empty file", "write $1; exit 1", u"notCreated"_s, 1, "old", u"is empty"_s);
+        row("not created", "print-error why; exit 4", u"notCreated"_s, 1, "old", u"exit code 4"_s);
+        row("crashed", "write $1 half; crash", u"crashed"_s, 1, "old", u"crashed"_s);
+        row("takes too long", "write $1 half; hang", u"timedOut"_s, 1, "old", u"longer than"_s);
     }
 
     void statusTellsHowItEnded()
@@ -95,7 +95,7 @@ private Q_SLOTS:
 
     void jsonTellsWhatRan()
     {
-        const BatchSuite suite("echo chatter; echo new > \"$1\"\n");
+        const BatchSuite suite("print chatter; write $1 new");
         const QJsonObject json = suite.converted({u"-input"_s, u"E=some file"_s});
         QCOMPARE(json[u"project"].toString(), suite.project());
         QCOMPARE(json[u"type"].toString(), u"T"_s);
@@ -108,11 +108,11 @@ private Q_SLOTS:
 
     void quietRunsSpeakOnlyOfFailures()
     {
-        const BatchSuite good("echo chatter; echo new > \"$1\"\n");
+        const BatchSuite good("print chatter; write $1 new");
         const ProgramResult silent = good.convert({u"-quiet"_s});
         QCOMPARE(silent.status, 0);
         QCOMPARE(silent.output + silent.errors, QString());
-        const BatchSuite bad("echo reason; exit 3\n");
+        const BatchSuite bad("print reason; exit 3");
         const ProgramResult loud = bad.convert({u"-quiet"_s});
         QCOMPARE(loud.status, 1);
         QCOMPARE(loud.output, QString());
@@ -214,7 +214,7 @@ private Q_SLOTS:
 
     void warnsOfValuesThatAreReplaced()
     {
-        const BatchSuite suite("printf '%s' \"$2\" > \"$1\"");
+        const BatchSuite suite("write $1 $2");
         QVERIFY(suite.convert({u"-input"_s, u"E=plain"_s}).errors.isEmpty());
         suite.write(u"work/rates%E"_s, {});
         const ProgramResult result =
@@ -256,7 +256,7 @@ private Q_SLOTS:
     // in turn.
     void oneOfManyWins()
     {
-        const BatchSuite suite("echo begin >> \"$0.log\"; sleep 1; echo $$ > \"$1\"; echo end >> \"$0.log\"\n");
+        const BatchSuite suite("append $0.log begin; pause 1000; mark $1; append $0.log end");
         suite.write(u"work/p.prj"_s, "old");
         std::vector<std::unique_ptr<QProcess>> runs;
         for (int i = 0; i < 20; ++i) {

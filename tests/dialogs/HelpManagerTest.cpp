@@ -120,7 +120,7 @@ private Q_SLOTS:
     {
         const Installation suite;
         const QUrl page(u"qthelp://ns/folder/ä.htm"_s);
-        AssistantClient client(suite.writeScript(u"viewer"_s, "{ echo \"$@\"; cat; } > \"$0.heard\""));
+        AssistantClient client(suite.writeChild(u"viewer"_s, "write $0.heard $*; copy-input $0.heard"));
         client.setArguments({u"-profile"_s, u"p"_s});
         client.showPage(page);
         client.showPage(page);
@@ -131,8 +131,8 @@ private Q_SLOTS:
     void reportsABrokenViewer_data()
     {
         const TestRows<QByteArray, QString> row("script", "reason");
-        row("does not like its profile", "echo 'Unknown option'; exit 255", u"Unknown option"_s);
-        row("dies", "kill -KILL $$", {});
+        row("does not like its profile", "print Unknown option; exit 255", u"Unknown option"_s);
+        row("dies", "die", {});
         row("is not there", {}, {});
     }
 
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, script);
         QFETCH(const QString, reason);
         const Installation suite;
-        const QString viewer = script.isEmpty() ? u"/gone"_s : suite.writeScript(u"viewer"_s, script);
+        const QString viewer = script.isEmpty() ? u"/gone"_s : suite.writeChild(u"viewer"_s, script);
         AssistantClient client(viewer);
         const QSignalSpy errors(&client, &AssistantClient::error);
         client.showPage(QUrl(u"qthelp://ns/folder/page.htm"_s));

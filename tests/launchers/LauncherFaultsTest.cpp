@@ -27,8 +27,7 @@ struct FaultyTool : Installation
 {
     explicit FaultyTool(const QByteArray& script, const QByteArray& output)
     {
-        program = write(u"tool/tool"_s, script.startsWith("#!") ? script : "#!/bin/sh\n" + script);
-        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        program = writeChild(u"tool/tool"_s, script);
         define("<applicationPage><application name='Tool'><exe>" + program.toUtf8() + "</exe><displayoutput>" + output +
                "</displayoutput><runFromExeDir>1</runFromExeDir></application></applicationPage>");
         start().values.useMessageViewerMessages = false;
@@ -78,65 +77,63 @@ private Q_SLOTS:
     {
         const TestRows<QByteArray, QByteArray, Ending, QString, QString> row("script", "output", "ending", "says",
                                                                              "holds");
-        // What a script starts it tells in work/pids, seen from the folder it runs in.
-        const auto self = [](const QByteArray& rest) { return "echo $$ >> ../work/pids\n" + rest; };
-        const auto child = [](const QByteArray& command, const QByteArray& rest) {
-            return command + " & echo $! >> ../work/pids\n" + rest;
-        };
+        // What a child starts it tells in work/pids, seen from the folder it runs in.
         using enum Ending;
         row("missing", "missing", "none", ByItself, u"Failed to Start"_s, u"Command: "_s);
-        row("not executable", "locked", "none", ByItself, u"Failed to Start"_s, u"Permission"_s);
-        row("no interpreter", "#!/no/such/interpreter\n", "none", ByItself, u"Failed to Start"_s, u"tool/tool"_s);
-        row("empty program", "#!/bin/sh", "none", ByItself, {}, {});
-        row("crash", "kill -SEGV $$", "text", ByItself, u"Process Crashed"_s, u"crashed"_s);
-        row("killed", "echo last; kill -KILL $$", "none", ByItself, u"Process Crashed"_s, u"last"_s);
-        row("kills its group", child("sleep 1000", "kill -TERM 0"), "none", ByItself, u"Process Crashed"_s, {});
+        row("empty program", "", "none", ByItself, {}, {});
+        row("crash", "crash", "text", ByItself, u"Process Crashed"_s, u"crashed"_s);
+        row("killed", "print last; die", "none", ByItself, u"Process Crashed"_s, u"last"_s);
         row("exit code", "exit 255", "none", ByItself, u"Process Failed [255]"_s, u"Exit code: 255"_s);
-        row("reason on standard output", "echo no licence; exit 3", "none", ByItself, u"Process Failed [3]"_s,
+        row("reason on standard output", "print no licence; exit 3", "none", ByItself, u"Process Failed [3]"_s,
             u"output:\nno licence"_s);
-        row("reason on both channels", "echo one; echo two >&2; exit 3", "text", ByItself, u"Process Failed [3]"_s,
+        row("reason on both channels", "print one; print-error two; exit 3", "text", ByItself, u"Process Failed [3]"_s,
             u"output:\none\n\nThe end of its error output:\ntwo"_s);
-        row("reason behind a flood", "yes | head -c 9000000; echo reason; exit 3", "text", ByItself,
-            u"Process Failed [3]"_s, u"y\nreason"_s);
+        row("reason behind a flood", "flood 9000000 y; print reason; exit 3", "text", ByItself, u"Process Failed [3]"_s,
+            u"y\nreason"_s);
         row("nothing printed", "exit 0", "text", ByItself, u"No data returned from process"_s, u"Exit code: 0"_s);
-        row("only errors printed", "echo reason >&2", "html", ByItself, u"No data returned from process"_s,
+        row("only errors printed", "print-error reason", "html", ByItself, u"No data returned from process"_s,
             u"reason"_s);
-        row("hangs", self("sleep 1000"), "none", Stopped, {}, {});
-        row("hangs while the program closes", self("sleep 1000"), "none", ProgramCloses, {}, {});
-        row("hangs with the window locked", self("sleep 1000"), "text", Stopped, {}, {});
-        row("ignores being asked", self("trap '' TERM; while :; do sleep 1; done"), "none", Stopped, {}, {});
-        row("stopped by a signal", self("kill -STOP $$"), "none", Stopped, {}, {});
-        row("child in its group", child("sleep 1000", "wait"), "none", Stopped, {}, {});
-        row("deaf child in its group", child("sh -c 'trap \"\" TERM; sleep 1000'", "wait"), "none", Stopped, {}, {});
-        row("child in a session of its own", child("setsid sleep 1000", "wait"), "none", ProgramCloses, {}, {});
-        row("daemon", "setsid sh -c 'echo $$ >> ../work/pids; exec sleep 1000' >/dev/null 2>&1 </dev/null &", "none",
-            ByItself, {}, {});
-        row("deaf daemon",
-            "setsid sh -c 'trap \"\" TERM; echo $$ >> ../work/pids; while :; do sleep 1; done' >/dev/null 2>&1 &",
-            "none", ByItself, {}, {});
-        row("child that keeps the output open", child("sleep 1000", "echo done"), "text", ByItself, {}, u"done"_s);
-        row("flood", "yes | head -c 60000000", "text", ByItself, {}, u"y\ny\n"_s);
-        row("flood that nobody wants", "yes | head -c 60000000", "none", ByItself, {}, {});
-        row("flood of errors", "yes | head -c 60000000 >&2; echo x", "text", ByItself, {}, u"x"_s);
-        row("endless flood", self("exec yes"), "none", Stopped, {}, {});
-        row("one long line", "head -c 30000000 /dev/zero | tr '\\0' x", "text", ByItself, {}, u"xxxx"_s);
-        row("long message", "head -c 300000 /dev/zero | tr '\\0' x", "message", ByItself, {}, u"is in "_s);
-        row("html without a blank", "head -c 1000000 /dev/zero | tr '\\0' x", "html", ByItself, {}, u"is in "_s);
-        row("html of many rows", "echo '<table>'; yes '<tr><td>cell</td></tr>' | head -n 400000", "html", ByItself, {},
+        row("hangs", "mark ../work/pids; hang", "none", Stopped, {}, {});
+        row("hangs while the program closes", "mark ../work/pids; hang", "none", ProgramCloses, {}, {});
+        row("hangs with the window locked", "mark ../work/pids; hang", "text", Stopped, {}, {});
+        row("ignores being asked", "ignore-requests; mark ../work/pids; hang", "none", Stopped, {}, {});
+        row("child in its group", "start { mark ../work/pids; hang }; wait", "none", Stopped, {}, {});
+        row("deaf child in its group", "start { ignore-requests; mark ../work/pids; hang }; wait", "none", Stopped, {},
+            {});
+        row("child in a session of its own", "start-session { mark ../work/pids; hang }; wait", "none", ProgramCloses,
+            {}, {});
+        row("daemon", "start-daemon { close-output; mark ../work/pids; hang }", "none", ByItself, {}, {});
+        row("deaf daemon", "start-daemon { ignore-requests; close-output; mark ../work/pids; hang }", "none", ByItself,
+            {}, {});
+        row("child that keeps the output open", "start { mark ../work/pids; hang }; print done", "text", ByItself, {},
+            u"done"_s);
+        row("flood", "flood 60000000 y", "text", ByItself, {}, u"y\ny\n"_s);
+        row("flood that nobody wants", "flood 60000000 y", "none", ByItself, {}, {});
+        row("flood of errors", "flood-error 60000000 y; print x", "text", ByItself, {}, u"x"_s);
+        row("endless flood", "mark ../work/pids; flood 0 y", "none", Stopped, {}, {});
+        row("one long line", "long-line 30000000", "text", ByItself, {}, u"xxxx"_s);
+        row("long message", "long-line 300000", "message", ByItself, {}, u"is in "_s);
+        row("html without a blank", "long-line 1000000", "html", ByItself, {}, u"is in "_s);
+        row("html of many rows", "print <table>; flood 10000000 <tr><td>cell</td></tr>", "html", ByItself, {},
             u"is in "_s);
-        row("html cut in a tag", "printf '<p>text<table'", "html", ByItself, {}, u"text"_s);
-        row("bad text", "printf 'a\\377b\\0c'", "text", ByItself, {}, u"a\uFFFDb"_s);
-        row("markup as text", "echo '<b>&amp;'", "message", ByItself, {}, u"<b>&amp;"_s);
-        row("nonsense as progress", "echo '[9/3]'; echo '[99999999999/1]'; echo '[/]'", "text", ByItself, {},
-            u"[9/3]"_s);
-        row("progress without an end", self("printf '[1/2] '; yes | tr -d '\\n' | head -c 9000000; sleep 1000"), "none",
-            Stopped, {}, {});
-        row("closes its output", "exec >&- 2>&-; sleep 0.2", "none", ByItself, {}, {});
-        row("reads its input", "cat; echo read", "text", ByItself, {}, u"read"_s);
-        row("deletes its folder", "rm -rf ../tool; echo gone", "text", ByItself, {}, u"gone"_s);
-        row("a thousand exits", "for i in $(seq 1000); do (exit 3) & done; wait; echo all", "text", ByItself, {},
-            u"all"_s);
-        row("full temporary folder", "rm -r \"$TMPDIR\"; yes | head -c 60000000", "text", ByItself, {}, u"y\ny\n"_s);
+        row("html cut in a tag", "put <p>text<table", "html", ByItself, {}, u"text"_s);
+        row("bad text", "put a\\xb\\0c", "text", ByItself, {}, u"a\uFFFDb"_s);
+        row("markup as text", "print '<b>&amp;'", "message", ByItself, {}, u"<b>&amp;"_s);
+        row("nonsense as progress", "print [9/3]; print [99999999999/1]; print [/]", "text", ByItself, {}, u"[9/3]"_s);
+        row("progress without an end", "mark ../work/pids; put '[1/2] '; long-line 9000000; hang", "none", Stopped, {},
+            {});
+        row("closes its output", "close-output; pause 200", "none", ByItself, {}, {});
+        row("reads its input", "copy-input; print read", "text", ByItself, {}, u"read"_s);
+        row("many exits", "repeat 200 { start { exit 3 } }; wait; print all", "text", ByItself, {}, u"all"_s);
+#ifdef Q_OS_UNIX
+        row("not executable", "locked", "none", ByItself, u"Failed to Start"_s, u"Permission"_s);
+        row("no interpreter", "#!\n", "none", ByItself, u"Failed to Start"_s, u"tool/tool"_s);
+        row("kills its group", "#!sleep 1000 & echo $! >> ../work/pids\nkill -TERM 0", "none", ByItself,
+            u"Process Crashed"_s, {});
+        row("stopped by a signal", "#!echo $$ >> ../work/pids\nkill -STOP $$", "none", Stopped, {}, {});
+        row("deletes its folder", "remove ../tool; print gone", "text", ByItself, {}, u"gone"_s);
+        row("full temporary folder", "remove $TMPDIR; flood 60000000 y", "text", ByItself, {}, u"y\ny\n"_s);
+#endif
     }
 
     void leavesNothingBehind()
@@ -153,8 +150,11 @@ private Q_SLOTS:
         RunAppData& tool = suite.launcher();
         if (script == "missing") {
             QVERIFY(QFile::remove(suite.program));
-        } else if (script == "locked") {
-            QVERIFY(QFile::setPermissions(suite.program, QFile::ReadOwner));
+        } else if (script == "locked" || script == "#!\n") {
+            QVERIFY(QFile::remove(suite.program));
+            suite.write(u"tool/tool"_s, "#!/no/such/interpreter\n");
+            QFile::setPermissions(suite.program,
+                                  script == "locked" ? QFile::ReadOwner : QFile::ReadOwner | QFile::ExeOwner);
         }
         const BoxAnswers boxes({QMessageBox::Ok});
         tool.button->click();

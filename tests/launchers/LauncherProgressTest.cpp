@@ -19,14 +19,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Launchers that run scripts, on a page that is shown.
+/// Launchers that run children, on a page that is shown.
 struct LauncherPage : Installation
 {
     explicit LauncherPage(const QByteArrayList& scripts, const QByteArray& more = {}, const QByteArray& ofPage = {})
     {
         QByteArray applications = ofPage;
         for (qsizetype i = 0; i < scripts.size(); ++i) {
-            const QString program = writeScript(u"tool%1"_s.arg(i + 1), scripts[i]);
+            const QString program = writeChild(u"tool%1"_s.arg(i + 1), scripts[i]);
             applications += "<application name='Tool " + QByteArray::number(i + 1) + "'><exe>" + program.toUtf8() +
                             "</exe>" + more + "</application>";
         }
@@ -46,12 +46,6 @@ struct LauncherPage : Installation
     QWidget window;
 };
 
-// Goes on when the test has seen it.
-QByteArray awaitGo()
-{
-    return "while [ ! -e \"$0.go\" ]; do sleep 0.02; done\n";
-}
-
 } // namespace
 
 class LauncherProgressTest : public QObject
@@ -61,8 +55,7 @@ class LauncherProgressTest : public QObject
 private Q_SLOTS:
     void showsItOnTheButton()
     {
-        const LauncherPage page({"echo '[34/151] a.c'\n" + awaitGo() + "printf '\\r[151/151] b.c' >&2\n" + awaitGo() +
-                                 "while [ ! -e \"$0.end\" ]; do sleep 0.02; done"});
+        const LauncherPage page({"print [34/151] a.c; await $0.go; put-error '\r[151/151] b.c'; await $0.end"});
         RunAppData& tool = page.tool(1);
         const auto* bar = page.window.findChild<QProgressBar*>();
         QVERIFY(!bar);
@@ -82,7 +75,7 @@ private Q_SLOTS:
 
     void stopsOnTheButton()
     {
-        const LauncherPage page({"echo '[1/3] a'; exec sleep 1000"});
+        const LauncherPage page({"print [1/3] a; hang"});
         RunAppData& tool = page.tool(1);
         tool.button->click();
         QTRY_COMPARE(tool.button->text(), u"Tool 1\n1 of 3"_s);
@@ -103,9 +96,8 @@ private Q_SLOTS:
 
     void showsItInTheBusyWindow()
     {
-        const LauncherPage page(
-            {"echo '[1/3] first.c' >&2\n" + awaitGo() + "echo '[2/3] second.c' >&2; exec sleep 1000"},
-            "<displayoutput>text</displayoutput>");
+        const LauncherPage page({"print-error [1/3] first.c; await $0.go; print-error [2/3] second.c; hang"},
+                                "<displayoutput>text</displayoutput>");
         RunAppData& tool = page.tool(1);
         tool.button->click();
         const auto busy = [] { return qobject_cast<BusyDialog*>(QApplication::activeWindow()); };
@@ -128,7 +120,7 @@ private Q_SLOTS:
 
     void tellsManyFailuresInOneBox()
     {
-        const LauncherPage page(QByteArrayList(14, awaitGo() + "echo reason of $0 >&2; exit 7"));
+        const LauncherPage page(QByteArrayList(14, "await $0.go; print-error reason of $0; exit 7"));
         for (int number = 1; number <= 14; ++number) {
             page.tool(number).button->click();
             page.write(u"tool%1.go"_s.arg(number), "");

@@ -31,7 +31,7 @@ namespace {
 // A child that says who it is and does not listen.
 QByteArray deaf()
 {
-    return "sh -c 'trap \"\" TERM; echo $$ > \"$0\"; while :; do sleep 1; done' \"$0.pid\" &\n";
+    return "{ ignore-requests; mark $0.pid; hang }\n";
 }
 
 /// A launcher page with buttons, on a project that does not exist.
@@ -56,7 +56,7 @@ struct Launchers : Installation
     {
         const QString name = u"tool%1"_s.arg(number);
         return "<application name='Tool\\n" + QByteArray::number(number) + "'><exe>" +
-               writeScript(name, script).toUtf8() + "</exe>" + more + "</application>";
+               writeChild(name, script).toUtf8() + "</exe>" + more + "</application>";
     }
 
     std::unique_ptr<QWidget> holder;
@@ -87,14 +87,15 @@ private Q_SLOTS:
     void readsLaunchers()
     {
         Launchers suite;
+        suite.writeChild(u"bin/there"_s, "");
         PageData& page = suite.define(R"(<columns>3</columns>
             <application name="A\nB"><exe TYPE="ORVC">missing/c</exe><dependency>no such program</dependency>
               <exeargs>
                 %PF</exeargs><columnspan>4</columnspan><rowspan>2</rowspan><displayoutput>text</displayoutput><displayoutput>pdf</displayoutput>
               <leftimage>arrow</leftimage><runFromExeDir>1</runFromExeDir><runFromExeDir>0</runFromExeDir></application>
-            <application name="R"><exe>sh</exe><description>&lt;b&gt;</description><colour>nonsense</colour>
+            <application name="R"><exe>there</exe><description>&lt;b&gt;</description><colour>nonsense</colour>
               <condition name="G" action="disable"/><condition name="G" action="enable"/></application>
-            <application><exe TYPE="ORVC">sh</exe></application>)");
+            <application><exe TYPE="ORVC">there</exe></application>)");
         RunAppData& first = *page.applications.at(0);
         const RunAppData& second = *page.applications.at(1);
         QCOMPARE(page.applications.size(), size_t(3));
@@ -128,16 +129,17 @@ private Q_SLOTS:
     {
         Installation suite;
         suite.start();
-        const QString tool = suite.writeScript(u"orvcpp/bin/onlyhere"_s, "");
+        const QString tool = suite.writeChild(u"orvcpp/bin/onlyhere"_s, "");
         QCOMPARE(FindExecutable(u"onlyhere"_s, appRegistry->executableFolders()), tool);
-        QVERIFY(FindExecutable(u"sh"_s, {}).endsWith("/sh"_L1));
+        qputenv("PATH", suite.path(u"elsewhere"_s).toLocal8Bit());
+        QCOMPARE(FindExecutable(u"inpath"_s, {}), suite.writeChild(u"elsewhere/inpath"_s, ""));
     }
 
     void onlySuccessEnablesTheNext_data()
     {
         const TestRows<QByteArray, QStringList> row("script", "boxes");
-        row("success", "echo text", {});
-        row("failure", "echo reason >&2; exit 3", {u"Tool 1|Process Failed [3]"_s});
+        row("success", "print text", {});
+        row("failure", "print-error reason; exit 3", {u"Tool 1|Process Failed [3]"_s});
         row("failed start", {}, {u"Tool 1|Failed to Start"_s});
     }
 
@@ -168,7 +170,7 @@ private Q_SLOTS:
     void nothingStartsWithoutItsFiles()
     {
         Launchers suite;
-        const PageData& page = suite.define(suite.application(1, "touch \"$0.ran\""));
+        const PageData& page = suite.define(suite.application(1, "write $0.ran"));
         const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
         const QByteArray folder = qgetenv("TMPDIR");
         qputenv("TMPDIR", suite.write(u"work/file"_s, "").toLocal8Bit());
@@ -198,8 +200,8 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, mode);
         Launchers suite;
-        const PageData& page = suite.define(suite.application(1, "yes '<p>word</p>' | head -c 100000000",
-                                                              "<displayoutput>" + mode + "</displayoutput>"));
+        const PageData& page = suite.define(
+            suite.application(1, "flood 100000000 <p>word</p>", "<displayoutput>" + mode + "</displayoutput>"));
         page.applications[0]->button->click();
         QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), 1, 60000);
         const QDialog& dialog = *appRegistry->openDialogs[0];
@@ -230,9 +232,9 @@ private Q_SLOTS:
         QFETCH(const ProjectType, project);
         QFETCH(const QByteArray, messages);
         Launchers suite;
-        PageData& page = suite.define(
-            suite.application(1, "pwd > \"$0.out\"; echo \"$ORVCPPPATH\" >> \"$0.out\"; tail -n 1 \"$4\" >> \"$0.out\"",
-                              "<runFromExeDir>1</runFromExeDir><exeargs>%P+</exeargs>"));
+        PageData& page =
+            suite.define(suite.application(1, "append $0.out $cwd; append $0.out $ORVCPPPATH; copy $4 $0.list",
+                                           "<runFromExeDir>1</runFromExeDir><exeargs>%P+</exeargs>"));
         appRegistry->values.useMessageViewerMessages = true;
         appRegistry->values.cMessages = {u"7"_s};
         appRegistry->values.cppMessages = {u"8"_s};
@@ -240,16 +242,18 @@ private Q_SLOTS:
         appRegistry->values.project.projectType = project;
         page.applications[0]->button->click();
         QTRY_VERIFY(!page.applications[0]->isRunning());
-        QCOMPARE(suite.read(u"tool1.out"_s), suite.path(u"."_s).chopped(2).toUtf8() + '\n' +
-                                                 suite.path(u"orvcpp"_s).toUtf8() + '\n' + messages + '\n');
+        QCOMPARE(QDir::fromNativeSeparators(QString::fromUtf8(suite.read(u"tool1.out"_s))),
+                 suite.path(u"."_s).chopped(2) + u'\n' + suite.path(u"orvcpp"_s) + u'\n');
+        QCOMPARE(suite.read(u"tool1.list"_s).trimmed().split('\n').constLast(), messages);
     }
 
     void stopsAllWhenItsPageIsReset()
     {
         Launchers suite;
         const PageData& page = suite.define(
-            suite.application(1, "trap '' TERM\n" + deaf() + "wait\n", "<condition name='G' action='finish'/>") +
-            suite.application(2, "echo hello",
+            suite.application(1, "ignore-requests; start " + deaf() + "wait\n",
+                              "<condition name='G' action='finish'/>") +
+            suite.application(2, "print hello",
                               "<displayoutput>message</displayoutput><condition name='G' action='disable'/>"));
         RunAppData& tool = *page.applications[0];
         RunAppData& other = *page.applications[1];
@@ -275,8 +279,8 @@ private Q_SLOTS:
     void endsWhatItLeftBehind_data()
     {
         const TestRows<QByteArray, bool> row("script", "counts");
-        row("detached", "setsid " + deaf(), false);
-        row("in the background", "sleep 1000 & echo $! > \"$0.pid\"", true);
+        row("detached", "start-session " + deaf(), false);
+        row("in the background", "start { mark $0.pid; hang }", true);
     }
 
     // It stays for the user, but not longer than the program, wherever it went.

@@ -33,7 +33,7 @@ struct Conversion : Installation
     bool start(const QByteArray& script)
     {
         output.clear();
-        return run.start(writeScript(u"convert"_s, script), {project}, project);
+        return run.start(writeChild(u"convert"_s, script), {project}, project);
     }
 
     QString output;
@@ -87,8 +87,8 @@ private Q_SLOTS:
     void takesWhatItPrints()
     {
         Conversion conversion;
-        QVERIFY(conversion.start("cat; printf 'caf\\303'; sleep 0.1; printf '\\251 <b>'; echo problem >&2\n"
-                                 "printf '\\377\\n'; echo new > \"$1\"\n"));
+        QVERIFY(conversion.start("copy-input; put caf\xc3; pause 100; put '\xa9 <b>'; print-error problem\n"
+                                 "print \\x; write $1 new"));
         QTRY_COMPARE(conversion.ended.size(), 1);
         QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::Created);
         QCOMPARE(conversion.output, u"café <b>problem\n\uFFFD\n"_s);
@@ -100,7 +100,7 @@ private Q_SLOTS:
     {
         Conversion conversion;
         QVERIFY(QDir().mkpath(conversion.project + u"/x"_s));
-        QVERIFY(!conversion.start("exit 0"));
+        QVERIFY(!conversion.start(""));
         QCOMPARE(conversion.ended.size(), 1);
         QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::NotStarted);
         QVERIFY(QFile::exists(conversion.project + u"/x"_s));
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QVERIFY(earlier.waitForStarted());
         StrayProcesses::adopt();
         // One that waits for the end of what it has detached must see it end.
-        QVERIFY(conversion.start("(sh -c 'echo $$ > \"$0\"; exec sleep 0.1' \"$0.pid\" &)\nsleep 0.05\n"
+        QVERIFY(conversion.start("#!(sh -c 'echo $$ > \"$0\"; exec sleep 0.1' \"$0.pid\" &)\nsleep 0.05\n"
                                  "while kill -0 $(cat \"$0.pid\"); do sleep 0.05; done\necho new > \"$1\"\n"));
         QTRY_COMPARE(conversion.ended.size(), 1);
         QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::Created);

@@ -21,7 +21,7 @@ enum class Act { Wait, Stop, Destroy };
 
 const QDateTime oldTime = QDateTime::fromSecsSinceEpoch(1'000'000'000);
 
-/// Scripts write the process ids of all that they start here, one a line.
+/// Children write the process ids of all that they start here, one a line.
 QString pidFile(const Installation& suite)
 {
     return suite.path(u"pids"_s);
@@ -39,10 +39,14 @@ QStringList hiddenFiles(const QString& folder)
     return QDir(folder).entryList({u".kovra*"_s, u".old*"_s}, QDir::Files | QDir::Hidden | QDir::System);
 }
 
-// $1 is the project, $2 the file for process ids; "mark" notes the id of the last background process.
-QByteArray preamble()
+// What the system says of a program that is not there.
+QString missingReason()
 {
-    return "mark() { echo $! >> \"$M\"; }\nP=$1\nexport M=$2\necho $$ >> \"$M\"\n";
+#ifdef Q_OS_WIN
+    return {};
+#else
+    return u"No such file"_s;
+#endif
 }
 
 } // namespace
@@ -62,54 +66,56 @@ private Q_SLOTS:
     {
         using enum ConversionRun::Outcome;
         const TestRows<QByteArray, Outcome, Act, QString> row("script", "outcome", "act", "detail");
-        row("missing", "#missing", NotStarted, Act::Wait, u"No such file"_s);
-        row("not executable", "#not executable", NotStarted, Act::Wait, u"denied"_s);
+        row("missing", "#missing", NotStarted, Act::Wait, missingReason());
         row("no program format", "#no format", NotStarted, Act::Wait, {});
-        row("writes nothing", "exit 0", NotCreated, Act::Wait, u"kept"_s);
-        row("exit code, nothing written", "echo why >&2; exit 3", NotCreated, Act::Wait, u"exit code 3"_s);
+        row("writes nothing", "", NotCreated, Act::Wait, u"kept"_s);
+        row("exit code, nothing written", "print-error why; exit 3", NotCreated, Act::Wait, u"exit code 3"_s);
         row("exit code 255", "exit 255", NotCreated, Act::Wait, u"exit code 255"_s);
-        row("crash", "echo half > \"$P\"; kill -SEGV $$", Failed, Act::Wait, u"crashed"_s);
-        row("killed", "echo half > \"$P\"; kill -KILL $$", Failed, Act::Wait, u"crashed"_s);
-        row("full disk, killed", "ulimit -c 0; ulimit -f 0; exec sh -c 'echo x > \"$0\"; echo y >> \"$0\"' \"$P\"",
-            Failed, Act::Wait, u"crashed"_s);
-        row("folder as result", "mkdir -p \"$P/sub\"; echo x > \"$P/sub/x\"", NotCreated, Act::Wait, u"a folder"_s);
-        row("link as result", "echo x > \"$M.x\"; ln -s \"$M.x\" \"$P\"", NotCreated, Act::Wait, u"a link"_s);
-        row("link to nowhere", "ln -s /nowhere \"$P\"", NotCreated, Act::Wait, u"a link"_s);
-        row("pipe as result", "mkfifo \"$P\"", NotCreated, Act::Wait, u"regular"_s);
-        row("deletes its folder", "rm -rf \"${P%/*}\"", NotCreated, Act::Wait, u"kept"_s);
-        row("deletes hidden files", "rm -f \"${P%/*}\"/.k*", NotCreated, Act::Wait, u"kept"_s);
-        row("closes its output", "exec >&- 2>&-; exit 4", NotCreated, Act::Wait, u"exit code 4"_s);
-        row("closes its output and hangs", "echo r; exec >&- 2>&-; exec sleep 1000", Stopped, Act::Stop, {});
-        row("reads its input", "cat; read x; exit 5", NotCreated, Act::Wait, u"exit code 5"_s);
-        row("floods", "yes | head -c 20000000", NotCreated, Act::Wait, {});
-        row("one long line", "head -c 5000000 /dev/zero | tr '\\0' x", NotCreated, Act::Wait, {});
-        row("bad text", "head -c 100000 /dev/urandom", NotCreated, Act::Wait, {});
-        row("late file", "(sleep 1; echo LATE > \"$P\") & mark; exit 0", NotCreated, Act::Wait, {});
-        row("late file of a daemon", "setsid sh -c 'echo $$ >> \"$M\"; sleep 1; echo LATE > \"$0\"' \"$P\" & sleep 0.2",
+        row("crash", "write $1 half; crash", Failed, Act::Wait, u"crashed"_s);
+        row("killed", "write $1 half; die", Failed, Act::Wait, u"crashed"_s);
+        row("folder as result", "folder $1/sub; write $1/sub/x x", NotCreated, Act::Wait, u"a folder"_s);
+        row("deletes its folder", "remove $1/..", NotCreated, Act::Wait, u"kept"_s);
+        row("deletes hidden files", "remove $1/../.k*", NotCreated, Act::Wait, u"kept"_s);
+        row("closes its output", "close-output; exit 4", NotCreated, Act::Wait, u"exit code 4"_s);
+        row("closes its output and hangs", "print r; close-output; hang", Stopped, Act::Stop, {});
+        row("reads its input", "copy-input; exit 5", NotCreated, Act::Wait, u"exit code 5"_s);
+        row("floods", "flood 20000000 y", NotCreated, Act::Wait, {});
+        row("one long line", "long-line 5000000", NotCreated, Act::Wait, {});
+        row("bad text", "flood 100000 \\x\\0\\x", NotCreated, Act::Wait, {});
+        row("late file", "start { write $2.up; pause 1000; write $1 LATE }; await $2.up", NotCreated, Act::Wait, {});
+        row("late file of a daemon", "start-session { mark $2; write $2.up; pause 1000; write $1 LATE }; await $2.up",
             NotCreated, Act::Wait, {});
-        row("hangs", "echo half > \"$P\"; echo r; sleep 1000", Stopped, Act::Stop, u"stopped"_s);
-        row("ignores the request to end", "trap '' TERM HUP INT; echo half > \"$P\"; echo r; while :; do sleep 1; done",
-            Stopped, Act::Stop, u"stopped"_s);
-        row("ends politely", "trap 'echo done > \"$P\"; exit 0' TERM; echo r; while :; do sleep 0.1; done", Stopped,
-            Act::Stop, u"stopped"_s);
-        row("grandchild in the group", "sh -c 'trap \"\" TERM; echo r; sleep 1000' & mark; wait", Stopped, Act::Stop,
+        row("hangs", "write $1 half; print r; hang", Stopped, Act::Stop, u"stopped"_s);
+        row("ignores the request to end", "ignore-requests; write $1 half; print r; hang", Stopped, Act::Stop,
+            u"stopped"_s);
+        row("grandchild in the group", "start { ignore-requests; mark $2; print r; hang }; wait", Stopped, Act::Stop,
             {});
-        row("grandchild in another group", "set -m; sh -c 'trap \"\" TERM; echo r; sleep 1000' & mark; wait", Stopped,
+        row("grandchild in another group", "start-group { ignore-requests; mark $2; print r; hang }; wait", Stopped,
             Act::Stop, {});
-        row("grandchild in another session",
-            "setsid sh -c 'echo $$ >> \"$M\"; echo r; sleep 1; echo STALE > \"$0\"' \"$P\" & wait", Stopped, Act::Stop,
-            {});
-        row("daemon, deaf, without environment",
-            "(setsid env -i M=\"$M\" sh -c 'trap \"\" TERM HUP; echo $$ >> \"$M\"; echo r; sleep 1000; :' &) ; "
-            "sleep 1000",
+        row("grandchild in another session", "start-session { mark $2; print r; pause 1000; write $1 STALE }; wait",
             Stopped, Act::Stop, {});
+        row("deaf daemon", "start-daemon { ignore-requests; mark $2; print r; hang }; hang", Stopped, Act::Stop, {});
         row("daemons that start each other",
-            "(setsid sh -c 'trap \"\" TERM; (setsid sh -c \"trap \\\"\\\" TERM; echo \\$\\$ >> \\\"$M\\\"; sleep "
-            "1000\" &)"
-            "; echo $$ >> \"$M\"; sleep 0.2; echo r; sleep 1000' &); sleep 1000",
+            "start-daemon { start-daemon { ignore-requests; mark $2; print r; hang }; ignore-requests; mark $2; hang "
+            "}; "
+            "hang",
             Stopped, Act::Stop, {});
-        row("abandoned", "setsid sh -c 'echo $$ >> \"$M\"; sleep 1000' & echo half > \"$P\"; echo r; sleep 1000",
+        row("abandoned", "start-session { mark $2; write $2.up; hang }; await $2.up; write $1 half; print r; hang",
             Stopped, Act::Destroy, {});
+#ifdef Q_OS_UNIX
+        row("not executable", "#not executable", NotStarted, Act::Wait, u"denied"_s);
+        row("full disk, killed", "#!ulimit -c 0; ulimit -f 0; exec sh -c 'echo x > \"$0\"; echo y >> \"$0\"' \"$1\"",
+            Failed, Act::Wait, u"crashed"_s);
+        row("link as result", "#!echo x > \"$2.x\"; ln -s \"$2.x\" \"$1\"", NotCreated, Act::Wait, u"a link"_s);
+        row("link to nowhere", "#!ln -s /nowhere \"$1\"", NotCreated, Act::Wait, u"a link"_s);
+        row("pipe as result", "#!mkfifo \"$1\"", NotCreated, Act::Wait, u"regular"_s);
+        row("ends politely",
+            "#!trap 'echo done > \"$1\"; exit 0' TERM; echo half > \"$1\"; echo r; while :; do sleep 0.1; done",
+            Stopped, Act::Stop, u"stopped"_s);
+        row("daemon without environment",
+            "#!(setsid env -i M=\"$2\" sh -c 'trap \"\" TERM; echo $$ >> \"$M\"; echo r; sleep 1000; :' &); sleep 1000",
+            Stopped, Act::Stop, {});
+#endif
     }
 
     void keepsTheOldProject()
@@ -130,7 +136,6 @@ private Q_SLOTS:
             QCOMPARE(started, outcome != Outcome::NotStarted);
             if (act != Act::Wait) {
                 QTRY_VERIFY(!output.isEmpty());
-                QVERIFY(QFile::exists(pidFile(suite)));
                 QVERIFY(suite.read(project) != before);
             }
             if (act == Act::Stop) {
@@ -157,11 +162,11 @@ private Q_SLOTS:
     void takesTheNewProject_data()
     {
         const TestRows<QByteArray, int> row("script", "code");
-        row("plain", "echo new > \"$P\"", 0);
-        row("exit code 7", "echo new > \"$P\"; exit 7", 7);
-        row("renamed into place", "echo new > \"$P.tmp\"; mv \"$P.tmp\" \"$P\"", 0);
-        row("leaves a daemon", "echo new > \"$P\"; setsid sleep 1000 > /dev/null 2>&1 & mark; sleep 0.2", 0);
-        row("leaves a child with its output", "echo new > \"$P\"; sleep 1000 & mark", 0);
+        row("plain", "write $1 new", 0);
+        row("exit code 7", "write $1 new; exit 7", 7);
+        row("renamed into place", "write $1.tmp new; rename $1.tmp $1", 0);
+        row("leaves a daemon", "write $1 new; start-daemon { mark $2; write $2.up; hang }; await $2.up", 0);
+        row("leaves a child with its output", "write $1 new; start { mark $2; write $2.up; hang }; await $2.up", 0);
     }
 
     void takesTheNewProject()
@@ -200,8 +205,7 @@ private Q_SLOTS:
         ConversionRun run;
         run.setEmptyFile(rule);
         QSignalSpy ends(&run, &ConversionRun::ended);
-        QVERIFY(run.start(suite.writeScript(u"c"_s, "trap '' XFSZ; ulimit -f 0; echo x > \"$1\"; exit 1"), {project},
-                          project));
+        QVERIFY(run.start(suite.writeChild(u"c"_s, "write $1; exit 1"), {project}, project));
         QTRY_COMPARE(ends.size(), 1);
         QTEST(run.outcome(), "outcome");
         QCOMPARE(run.warning().contains("p.prj.old2"_L1), rule == ConversionRun::EmptyFile::Counts);
@@ -219,7 +223,7 @@ private Q_SLOTS:
         const QByteArray stray = viewer.readAll();
         ConversionRun run;
         QSignalSpy ends(&run, &ConversionRun::ended);
-        QVERIFY(run.start(suite.writeScript(u"convert"_s, "exit 0"), {}, suite.path(u"work/p.prj"_s)));
+        QVERIFY(run.start(suite.writeChild(u"convert"_s, ""), {}, suite.path(u"work/p.prj"_s)));
         QTRY_COMPARE(ends.size(), 1);
         QVERIFY(Installation::isAlive(stray));
         StrayProcesses::stop(500);
@@ -234,11 +238,11 @@ private Q_SLOTS:
         QVERIFY(QFile::link(target, project));
         ConversionRun run;
         QSignalSpy ends(&run, &ConversionRun::ended);
-        QVERIFY(run.start(suite.writeScript(u"convert"_s, "exit 0"), {}, project));
+        QVERIFY(run.start(suite.writeChild(u"convert"_s, ""), {}, project));
         QTRY_COMPARE(ends.size(), 1);
         QCOMPARE(QFileInfo(project).symLinkTarget(), target);
         // A new project takes the link's place and leaves the file it led to alone.
-        QVERIFY(run.start(suite.writeScript(u"convert"_s, "echo new > \"$1\""), {project}, project));
+        QVERIFY(run.start(suite.writeChild(u"new"_s, "write $1 new"), {project}, project));
         QTRY_COMPARE(ends.size(), 2);
         QVERIFY(!QFileInfo(project).isSymLink());
         QCOMPARE(suite.read(project), QByteArray("new\n"));
@@ -249,11 +253,11 @@ private Q_SLOTS:
     {
         const Installation suite;
         const QString project = suite.write(u"work/p.prj"_s, "old", oldTime);
-        const QString script = suite.writeScript(u"convert"_s, "exit 0");
+        const QString script = suite.writeChild(u"convert"_s, "");
         QString aside;
         {
             ConversionRun run;
-            QVERIFY(run.start(suite.writeScript(u"wait"_s, "sleep 1000"), {}, project));
+            QVERIFY(run.start(suite.writeChild(u"wait"_s, "hang"), {}, project));
             aside = suite.path(u"work/"_s) + hiddenFiles(suite.path(u"work"_s)).filter(u"old"_s).value(0);
             QVERIFY(QFile::copy(aside, suite.path(u"saved"_s)));
         }
@@ -282,7 +286,7 @@ private:
             QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
             return file;
         }
-        return suite.writeScript(u"convert"_s, preamble() + script);
+        return suite.writeChild(u"convert"_s, script.startsWith("#!") ? script : "mark $2\n" + script);
     }
 };
 

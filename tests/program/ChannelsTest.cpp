@@ -31,7 +31,7 @@ private Q_SLOTS:
         QFETCH(const QString, command);
         QFETCH(const int, status);
         const Installation suite;
-        install(suite, "echo chatter; echo chatter >&2; echo new > \"$1\"\n");
+        install(suite, "print chatter; print-error chatter; write $1 new");
         const ProgramResult result = runProgram(u"sh"_s, {u"-c"_s, command.arg(suite.path(u"bin/ProjectCreation"_s))},
                                                 {{u"LC_ALL"_s, u"C.UTF-8"_s}}, suite.path(u"work"_s));
         QCOMPARE(result.status, status);
@@ -44,8 +44,8 @@ private Q_SLOTS:
     void needsNoTerminal_data()
     {
         const TestRows<QByteArray> row("script");
-        row("writes under tostop", "echo chatter; echo new > \"$1\"\n");
-        row("asks for a password", "read x < /dev/tty; echo new > \"$1\"\n");
+        row("writes under tostop", "print chatter; write $1 new");
+        row("asks for a password", "#!read x < /dev/tty; echo new > \"$1\"");
     }
 
     void needsNoTerminal()
@@ -64,7 +64,7 @@ private Q_SLOTS:
     void keepsTheFilesOfOtherOptions()
     {
         const Installation suite;
-        install(suite, "echo new > \"$1\"\n");
+        install(suite, "write $1 new");
         const QByteArray before = suite.read(u"xml/settings.xml"_s);
         const QString file = suite.path(u"xml/settings.xml"_s);
         const ProgramResult result =
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void findsItsFilesThroughALink()
     {
         const Installation suite;
-        install(suite, "echo new > \"$1\"\n");
+        install(suite, "write $1 new");
         const QString link = suite.path(u"work/pc"_s);
         QVERIFY(QFile::link(suite.path(u"bin/ProjectCreation"_s), link));
         const ProgramResult result = runProgram(link, {u"-batch"_s, u"-list-types"_s});
@@ -87,8 +87,7 @@ private:
     static void install(const Installation& suite, const QByteArray& script)
     {
         suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" +
-                     suite.writeScript(u"convert"_s, script).toUtf8() +
-                     "</exe><exeargs>%PF</exeargs></projectCreator>");
+                     suite.writeChild(u"convert"_s, script).toUtf8() + "</exe><exeargs>%PF</exeargs></projectCreator>");
         suite.placeProgram(QStringLiteral(PROGRAM), u"bin/ProjectCreation"_s);
     }
 };

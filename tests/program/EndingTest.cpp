@@ -16,7 +16,7 @@ namespace {
 
 QList<QByteArray> survivors(const Installation& suite)
 {
-    QList<QByteArray> alive = suite.read(u"pids"_s).split('\n');
+    QList<QByteArray> alive = suite.read(u"convert.pids"_s).split('\n');
     alive.removeIf([](const QByteArray& pid) { return !Installation::isAlive(pid); });
     return alive;
 }
@@ -46,18 +46,15 @@ private Q_SLOTS:
         QFETCH(const int, signal);
         QFETCH(const bool, launches);
         const Installation suite;
-        const QByteArray pids = suite.path(u"pids"_s).toUtf8();
         const QByteArray script = suite
-                                      .writeScript(u"convert"_s, "M=" + pids + R"(
-echo $$ >> $M
-sleep 1000 & echo $! >> $M
-setsid sh -c "echo \$\$ >> $M; trap '' TERM HUP; sleep 1000; :" &
-(setsid sh -c "echo \$\$ >> $M; sleep 1000; :" &)
-while [ $(wc -l < $M) -lt 4 ]; do sleep 0.02; done
-echo up > "$M.up"
-case $1 in *p.prj) echo half > "$1" ;; esac
-wait
-)")
+                                      .writeChild(u"convert"_s, R"(
+mark $0.pids
+start { mark $0.pids; write $0.1; hang }; await $0.1
+start-session { mark $0.pids; write $0.2; ignore-requests; hang }; await $0.2
+start-daemon { mark $0.pids; write $0.3; hang }; await $0.3
+if-exists $0.converts { write $1 half }
+write $0.up
+hang)")
                                       .toUtf8();
         suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + script +
                      "</exe><exeargs>%PF</exeargs></projectCreator><applicationPage><application name='T'><exe>" +
@@ -65,6 +62,9 @@ wait
         const QByteArray old = "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n*project=ORVC\n"
                                "a.c\nEndContainedFilesMarker\nEndOfProjectFile\n";
         const QString project = suite.write(u"work/p.prj"_s, old, QDateTime::fromSecsSinceEpoch(1'000'000'000));
+        if (!launches) {
+            suite.write(u"convert.converts"_s, "");
+        }
         const auto temporaryFiles = [] { return QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}).size(); };
         suite.placeProgram(QStringLiteral(PROGRAM), u"bin/ProjectCreation"_s);
         QProcess program;
@@ -72,7 +72,7 @@ wait
         program.start(suite.path(u"bin/ProjectCreation"_s),
                       u"-batch -prj"_s.split(u' ') + QStringList{project} + task.split(u' '));
         QTRY_COMPARE(suite.read(project), launches ? old : QByteArray("half\n"));
-        QTRY_VERIFY(!suite.read(u"pids.up"_s).isEmpty());
+        QTRY_VERIFY(QFile::exists(suite.path(u"convert.up"_s)));
         QCOMPARE(temporaryFiles() > 0, launches);
         QCOMPARE(survivors(suite).size(), 4);
         ::kill(pid_t(program.processId()), signal);

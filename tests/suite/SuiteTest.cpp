@@ -220,7 +220,7 @@ private Q_SLOTS:
         const InstalledSuite suite;
         suite.define(
             "<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
-            suite.writeScript(u"slow"_s, "sleep 1000 & echo $! > \"$0.pid\"; echo half > \"$1\"; wait").toUtf8() +
+            suite.writeChild(u"slow"_s, "start { mark $0.pid; hang }; await $0.pid; write $1 half; hang").toUtf8() +
             "</exe><exeargs>%PF</exeargs></projectCreator>");
         QProcess program;
         program.setWorkingDirectory(suite.path(u"work"_s));

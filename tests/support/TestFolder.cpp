@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TestFolder.h"
+#include "SystemCalls.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,20 +20,28 @@ QString TestFolder::write(const QString& name, const QByteArray& contents, const
     return target;
 }
 
-QString TestFolder::writeScript(const QString& name, const QByteArray& body) const
+QString TestFolder::writeChild(const QString& name, const QByteArray& verbs) const
 {
-    const QString script = write(name, "#!/bin/sh\n" + body);
-    QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return script;
+    QFile::remove(path(name));
+    if (verbs.startsWith("#!")) {
+        const QString script = write(name, "#!/bin/sh\n" + verbs.mid(2));
+        QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return script;
+    }
+    write(name + u".verbs"_s, verbs);
+    return placeProgram(QStringLiteral(TESTCHILD), name);
 }
 
-void TestFolder::placeProgram(const QString& program, const QString& name) const
+QString TestFolder::placeProgram(const QString& program, const QString& name) const
 {
 #ifdef Q_OS_WIN
-    QFile::copy(program, path(name + u".exe"_s));
+    QString place = path(name + u".exe"_s);
+    QFile::copy(program, place);
 #else
-    QFile::link(program, path(name));
+    QString place = path(name);
+    QFile::link(program, place);
 #endif
+    return place;
 }
 
 QByteArray TestFolder::read(const QString& name) const
@@ -43,6 +52,10 @@ QByteArray TestFolder::read(const QString& name) const
 
 bool TestFolder::isAlive(const QByteArray& pid)
 {
+#ifdef Q_OS_WIN
+    return pid.trimmed().toInt() != 0 && ::kill(pid_t(pid.trimmed().toInt()), 0) == 0;
+#else
     QFile status(u"/proc/"_s + QString::fromLatin1(pid.trimmed()) + u"/stat"_s);
     return !pid.trimmed().isEmpty() && status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
+#endif
 }

@@ -13,10 +13,11 @@ public:
     QString path(const QString& name) const { return folder.filePath(name); }
     /// Writes a file below the folder, making its folders and giving it that time, if any; gives its path.
     QString write(const QString& name, const QByteArray& contents, const QDateTime& time = {}) const;
-    /// The same for a shell script that can be run.
-    QString writeScript(const QString& name, const QByteArray& body) const;
+    /// A program that does what these verbs of testchild say, or behind "#!" a shell script, for what is Unix' own;
+    /// gives its path, which ends with ".exe" on Windows.
+    QString writeChild(const QString& name, const QByteArray& verbs) const;
     /// Puts a program there under that name (on Windows with ".exe"): as a link, or as a copy where links are rare.
-    void placeProgram(const QString& program, const QString& name) const;
+    QString placeProgram(const QString& program, const QString& name) const;
     /// Reads a file below the folder, or anywhere by its absolute path; empty when it can not be read.
     QByteArray read(const QString& name) const;
     /// True while the process with this id, as a script wrote it, runs.

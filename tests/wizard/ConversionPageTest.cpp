@@ -18,7 +18,7 @@ namespace {
 // A suite whose only conversion runs a script that gets the project file as its argument.
 AppRegistry& startSuite(Installation& suite, const QByteArray& script, const QByteArray& more = {})
 {
-    const QString program = script.isEmpty() ? suite.path(u"missing"_s) : suite.writeScript(u"convert"_s, script);
+    const QString program = script.isEmpty() ? suite.path(u"missing"_s) : suite.writeChild(u"convert"_s, script);
     suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + program.toUtf8() +
                  "</exe><exeargs>%PF</exeargs><inputData><displayName>E</displayName></inputData></projectCreator>" +
                  more);
@@ -42,12 +42,10 @@ void convert(const WizardDriver& wizard, const Installation& suite)
     wizard.press(QWizard::NextButton);
 }
 
-// One that ends politely when told to has not done its work either.
 AppRegistry& startSlowSuite(Installation& suite)
 {
     suite.write(u"work/p.prj"_s, "old");
-    return startSuite(suite, "trap 'exit 143' TERM; echo half > \"$1\"; echo running; while :; do sleep 0.1; done\n",
-                      "<applicationPage/>");
+    return startSuite(suite, "write $1 half; print running; hang", "<applicationPage/>");
 }
 
 /// A suite whose follow-up page has a tool that goes on and one that opens a window.
@@ -55,9 +53,9 @@ struct FollowUp : Installation
 {
     FollowUp()
     {
-        startSuite(*this, "echo a warning; test -f \"$0.broken\" || echo $$ > \"$1\"\n",
-                   "<applicationPage>" + application(u"Long"_s, "echo $$ > \"$0.pid\"; exec sleep 1000") +
-                       "</application>" + application(u"Text"_s, "echo hello") +
+        startSuite(*this, "print a warning; if-exists $0.broken { exit }; mark $1",
+                   "<applicationPage>" + application(u"Long"_s, "mark $0.pid; hang") + "</application>" +
+                       application(u"Text"_s, "print hello") +
                        "<displayoutput>text</displayoutput></application></applicationPage>");
         wizard = std::make_unique<WizardDriver>();
     }
@@ -75,7 +73,7 @@ struct FollowUp : Installation
 private:
     QByteArray application(const QString& name, const QByteArray& script) const
     {
-        return "<application name='" + name.toUtf8() + "'><exe>" + writeScript(name, script).toUtf8() + "</exe>";
+        return "<application name='" + name.toUtf8() + "'><exe>" + writeChild(name, script).toUtf8() + "</exe>";
     }
 };
 
@@ -89,11 +87,12 @@ private Q_SLOTS:
     void reportsTheEnd_data()
     {
         const TestRows<QByteArray, QString, QString, QByteArray> row("script", "says", "lastLine", "leaves");
-        row("created", "echo '<b>50%</b> &amp; %1'; echo x > \"$1\"",
+        row("created", "print <b>50%</b> &amp'; %1'; write $1 x",
             u"Conversion Started\n\n<b>50%</b> &amp; %1\nConversion Complete"_s, u"New project file: %1"_s, "x\n");
-        row("not created", "echo no input >&2; exit 4", u"no input\nThe conversion program ended with exit code 4."_s,
-            u"Error: Project file [%1] not created"_s, "old");
-        row("crashed", "echo x > \"$1\"; kill -ABRT $$", u"crashed"_s, u"Error: Conversion Process Failed"_s, "old");
+        row("not created", "print-error no input; exit 4",
+            u"no input\nThe conversion program ended with exit code 4."_s, u"Error: Project file [%1] not created"_s,
+            "old");
+        row("crashed", "write $1 x; crash", u"crashed"_s, u"Error: Conversion Process Failed"_s, "old");
         // The old file goes when there is a new one.
         row("not there", {}, u"/missing: "_s, u"Error: Could not run conversion process"_s, "old");
     }
@@ -187,7 +186,7 @@ private Q_SLOTS:
     void opensNoWindowWithoutOutput()
     {
         Installation suite;
-        startSuite(suite, "echo x > \"$1\"\n", "<applicationPage/>");
+        startSuite(suite, "write $1 x", "<applicationPage/>");
         WizardDriver wizard;
         convert(wizard, suite);
         QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
@@ -199,8 +198,7 @@ private Q_SLOTS:
     void saysThatTheOutputCouldNotBeKept()
     {
         Installation suite;
-        startSuite(suite, "echo running; while [ ! -e \"$0.go\" ]; do sleep 0.02; done; echo x > \"$1\"\n",
-                   "<applicationPage/>");
+        startSuite(suite, "print running; await $0.go; write $1 x", "<applicationPage/>");
         WizardDriver wizard;
         convert(wizard, suite);
         QTRY_VERIFY(wizard.output().contains("running"_L1));
@@ -303,16 +301,16 @@ private Q_SLOTS:
     {
         Installation suite;
         // Long lines count by their length, and what only the view drops is told as well.
-        startSuite(suite, "seq 1 200000; head -c 500000 /dev/zero | tr '\\0' x; echo; echo x > \"$1\"\n");
+        startSuite(suite, "flood 1200000 12345; print last; long-line 500000; print; write $1 x");
         const WizardDriver wizard;
         convert(wizard, suite);
         QTRY_VERIFY_WITH_TIMEOUT(wizard.window.button(QWizard::FinishButton)->isEnabled(), 30000);
-        QVERIFY(wizard.output().contains("\n200000\nxxx"_L1));
+        QVERIFY(wizard.output().contains("\nlast\nxxx"_L1));
         QVERIFY(wizard.output().count(u'\n') < 6000);
         const QString label = wizard.labels().filter(u"Complete output"_s).value(0);
         QFile log(label.section(u": "_s, 1));
         QVERIFY2(log.open(QIODevice::ReadOnly), qPrintable(label));
-        QCOMPARE(log.readAll().count('\n'), 200001);
+        QCOMPARE(log.readAll().count('\n'), 200002);
     }
 };
 

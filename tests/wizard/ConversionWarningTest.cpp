@@ -14,7 +14,7 @@ namespace {
 AppRegistry& startSuite(Installation& suite, const QByteArray& script, const QByteArray& more = {})
 {
     suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" +
-                 suite.writeScript(u"convert"_s, script).toUtf8() +
+                 suite.writeChild(u"convert"_s, script).toUtf8() +
                  "</exe><exeargs>%PF %E</exeargs><inputData><displayName>E</displayName><argDef>%E</argDef></inputData>"
                  "</projectCreator>" +
                  more);
@@ -43,7 +43,7 @@ private Q_SLOTS:
     void remembersTheExitCode()
     {
         Installation suite;
-        startSuite(suite, "echo why >&2; echo x > \"$1\"; exit 7\n", "<applicationPage/>");
+        startSuite(suite, "print-error why; write $1 x; exit 7", "<applicationPage/>");
         WizardDriver wizard;
         wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
         wizard.press(QWizard::NextButton);
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void tellsOfReplacedValues()
     {
         Installation suite;
-        startSuite(suite, "echo x > \"$1\"\n");
+        startSuite(suite, "write $1 x");
         suite.write(u"work/a%E/here"_s, {});
         WizardDriver wizard;
         wizard.passStartPage(u"p"_s, suite.path(u"work/a%E"_s), u"T"_s);
@@ -91,8 +91,8 @@ private Q_SLOTS:
         QFETCH(const bool, byBack);
         StrayProcesses::adopt();
         Installation suite;
-        startSuite(suite, "setsid sh -c 'echo $$ > \"$0.pid\"; sleep 2; echo STALE > \"$0\"' \"$1\" &\n"
-                          "while ! [ -s \"$1.pid\" ]; do sleep 0.02; done\necho running; wait\n");
+        startSuite(suite,
+                   "start-session { mark $1.pid; pause 2000; write $1 STALE }; await $1.pid; print running; hang");
         WizardDriver wizard;
         wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
         wizard.press(QWizard::NextButton);

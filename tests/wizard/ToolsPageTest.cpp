@@ -32,8 +32,8 @@ QByteArray project(const QByteArray& analyser)
 /// A suite with a conversion that runs a script, and one tool that says on what it was started.
 AppRegistry& startSuite(Installation& suite, const QByteArray& script)
 {
-    const QString converter = suite.writeScript(u"convert"_s, script);
-    const QString tool = suite.writeScript(u"tool"_s, "echo \"$@\" > \"$0.out\"\n");
+    const QString converter = suite.writeChild(u"convert"_s, script);
+    const QString tool = suite.writeChild(u"tool"_s, "write $0.out $*");
     suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + converter.toUtf8() +
                  "</exe><exeargs>%PF</exeargs><inputData><displayName>E</displayName></inputData></projectCreator>"
                  "<applicationPage><application name='Tool'><exe>" +
@@ -89,7 +89,7 @@ private Q_SLOTS:
         QFETCH(const QString, name);
         QFETCH(const QByteArray, analyser);
         Installation suite;
-        startSuite(suite, "exit 0");
+        startSuite(suite, "");
         const QString file = suite.write(name, project(analyser));
         ApplicationWindow window(u"t"_s, u"h"_s, {u"ProjectCreation"_s});
         QCOMPARE(window.openTools(QDir::current().relativeFilePath(file)).problem, QString());
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QFETCH(const QString, name);
         QFETCH(const QString, says);
         Installation suite;
-        startSuite(suite, "exit 0");
+        startSuite(suite, "");
         suite.write(u"work/text.prj"_s, "just text\n");
         suite.write(u"work/empty.prj"_s, "");
         suite.write(u"work/cut.prj"_s, "VersionTag 45\n");
@@ -149,7 +149,7 @@ private Q_SLOTS:
     void tellsOfADoubtfulConversion()
     {
         Installation suite;
-        startSuite(suite, "echo x > \"$1\"");
+        startSuite(suite, "write $1 x");
         WizardDriver wizard;
         convert(wizard, suite);
         QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
@@ -162,8 +162,7 @@ private Q_SLOTS:
     void showsTheProgressOfAConversion()
     {
         Installation suite;
-        startSuite(suite, "printf '[1/3] first.c\\r'; while [ ! -e \"$0.go\" ]; do sleep 0.02; done\n"
-                          "echo '[3/3] last.c'; exec sleep 1000");
+        startSuite(suite, "put '[1/3] first.c\r'; await $0.go; print [3/3] last.c; hang");
         WizardDriver wizard;
         convert(wizard, suite);
         const auto& bar = *wizard.window.currentPage()->findChild<QProgressBar*>();
@@ -188,7 +187,7 @@ private Q_SLOTS:
     {
         StrayProcesses::adopt();
         Installation suite;
-        startSuite(suite, "(setsid sleep 1000 >/dev/null 2>&1 &) ; echo started; exec sleep 1000");
+        startSuite(suite, "start-daemon { hang }; print started; hang");
         WizardDriver wizard;
         convert(wizard, suite);
         QTRY_VERIFY(wizard.output().contains("started"_L1));
@@ -211,8 +210,8 @@ private Q_SLOTS:
     void namesWhatStillRuns()
     {
         Installation suite;
-        startSuite(suite, "exit 0");
-        suite.writeScript(u"tool"_s, "echo started; exec sleep 1000");
+        startSuite(suite, "");
+        suite.writeChild(u"tool"_s, "print started; hang");
         ApplicationWindow window(u"t"_s, u"h"_s, {u"ProjectCreation"_s});
         QCOMPARE(window.openTools(suite.write(u"work/p.prj"_s, project("ORVC"))).problem, QString());
         window.show();

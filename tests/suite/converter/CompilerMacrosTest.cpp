@@ -48,9 +48,8 @@ private Q_SLOTS:
     void asksEachOnce()
     {
         const ConvertedProject project;
-        const QString compiler = project.writeScript(
-            u"tools/gcc"_s,
-            "echo asked >> \"$0.log\"\necho '#define ASKED_WITH '\"$*\"\nread line && echo '#define INPUT' || true");
+        const QString compiler =
+            project.writeChild(u"tools/gcc"_s, "append $0.log asked; print #define ASKED_WITH $*; copy-input");
         QByteArray entries = "[";
         for (int i = 0; i < 20; ++i) {
             entries += (i == 0 ? "" : ",") + QByteArray(R"({"file": "s/)") + QByteArray::number(i) +
@@ -70,15 +69,13 @@ private Q_SLOTS:
         const TestRows<QString, QByteArray, QString, QString> row("program", "body", "says", "macro");
         row("not there", u"/opt/none/aarch64-linux-gnu-gcc-12"_s, {}, u"it is not on this system"_s,
             u"-d __aarch64__=1"_s);
-        row("refuses", u"%1/tools/gcc"_s, "echo no such option >&2; exit 1", u"it refused to answer: no such option"_s,
-            u"-d __BYTE_ORDER__=1234"_s);
-        row("never ends", u"%1/tools/cc"_s, "exec sleep 1000", u"it gave no answer in time"_s, u"-d __x86_64__=1"_s);
-        row("floods", u"%1/tools/clang"_s, "exec yes '#define A'", u"its answer is too long"_s, u"-d __clang__=1"_s);
-        row("says nothing", u"%1/tools/gcc-12"_s, "true", u"its answer holds no macros"_s, u"-d __linux__=1"_s);
-        row("not a compiler's name", u"%1/tools/clean"_s, "touch \"$0.ran\"", u"it has no option"_s,
-            u"-d __linux__=1"_s);
-        row("among the sources", u"%1/work/gcc"_s, "touch \"$0.ran\"", u"it lies among the sources"_s,
-            u"-d __linux__=1"_s);
+        row("refuses", u"%1/tools/gcc"_s, "print-error no such option; exit 1",
+            u"it refused to answer: no such option"_s, u"-d __BYTE_ORDER__=1234"_s);
+        row("never ends", u"%1/tools/cc"_s, "hang", u"it gave no answer in time"_s, u"-d __x86_64__=1"_s);
+        row("floods", u"%1/tools/clang"_s, "flood 0 #define A", u"its answer is too long"_s, u"-d __clang__=1"_s);
+        row("says nothing", u"%1/tools/gcc-12"_s, "exit", u"its answer holds no macros"_s, u"-d __linux__=1"_s);
+        row("not a compiler's name", u"%1/tools/clean"_s, "write $0.ran", u"it has no option"_s, u"-d __linux__=1"_s);
+        row("among the sources", u"%1/work/gcc"_s, "write $0.ran", u"it lies among the sources"_s, u"-d __linux__=1"_s);
         row("by a relative path", u"./gcc"_s, {}, u"it is named by a relative path"_s, u"-d __linux__=1"_s);
         row("cross compiler for Windows", u"/opt/none/i686-w64-mingw32-gcc"_s, {}, u"it is not on this system"_s,
             u"-d __SIZEOF_POINTER__=4"_s);
@@ -93,7 +90,7 @@ private Q_SLOTS:
         const ConvertedProject project;
         program.replace(u"%1"_s, project.path(u"work"_s).chopped(5));
         if (!body.isEmpty()) {
-            project.writeScript(program.mid(project.path(u"work"_s).size() - 4), body);
+            project.writeChild(program.mid(project.path(u"work"_s).size() - 4), body);
         }
         project.writeCommands({program + u" -c a.c"_s});
         const ProgramResult result = project.convertDatabase({u"--compiler-macros"_s, u"1"_s});
