@@ -126,7 +126,7 @@ int BatchLauncher::run(const QString& program, const QStringList& arguments, con
     connect(
         &process, &QProcess::finished, this, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
     appRegistry->Trace(program + u' ' + arguments.join(u' '));
-    process.start(program, arguments, QIODevice::ReadWrite);
+    process.launch(program, arguments);
     if (!process.waitForStarted(startWaitMs)) {
         BatchOutput::complain(tr("%1 can not be started: %2").arg(program, process.errorString()));
         return BatchMode::Failed;

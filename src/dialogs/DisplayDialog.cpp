@@ -54,8 +54,7 @@ DisplayDialog::DisplayDialog(AppRegistry& owner, const QString& title, int displ
     , registry(&owner)
     , mode(displayMode)
 {
-    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                   Qt::WindowMaximizeButtonHint);
+    setWindowFlags(MainWindow::frame());
     // It must not keep the program running once the wizard is gone.
     setAttribute(Qt::WA_QuitOnClose, false);
     registry->openDialogs += this;

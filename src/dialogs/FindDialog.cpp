@@ -106,8 +106,7 @@ FindDialog::FindDialog(const QString& searchStart, QWidget* parent)
     , okButton(new QPushButton(tr("&Ok")))
 {
     setWindowTitle(tr("Search for file"));
-    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                   Qt::WindowMaximizeButtonHint);
+    setWindowFlags(MainWindow::frame());
     setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
     setMinimumWidth(500);
     labelFiles(nameFilters.join(u' '));

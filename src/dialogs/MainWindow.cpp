@@ -33,6 +33,18 @@ bool MainWindow::takesHelpKey(const QKeyEvent& event)
     return true;
 }
 
+// Without its hint Windows greys the button that closes; elsewhere it is there all the same.
+Qt::WindowFlags MainWindow::frame()
+{
+    const Qt::WindowFlags given =
+        Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+#ifdef Q_OS_WIN
+    return given | Qt::WindowCloseButtonHint;
+#else
+    return given;
+#endif
+}
+
 void MainWindow::set(QWidget* window)
 {
     mainWindow() = window;

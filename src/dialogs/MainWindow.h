@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <Qt>
+
 class QKeyEvent;
 class QWidget;
 
@@ -12,5 +14,7 @@ QWidget* current();
 void set(QWidget* window);
 /// Hands F1 and the Help key, pressed in another window, to the main window. True when it was such a key.
 bool takesHelpKey(const QKeyEvent& event);
+/// What the frames of the program's windows hold.
+Qt::WindowFlags frame();
 
 } // namespace MainWindow

@@ -61,7 +61,7 @@ void TextPortions::show(std::unique_ptr<QIODevice> device)
 {
     restart();
     source = std::move(device);
-    decoder = QStringDecoder(QStringConverter::System);
+    decoder = {};
     appendPortion();
 }
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "process/OutputDecoder.h"
+
 #include <QIODevice>
 #include <QObject>
 #include <QString>
-#include <QStringDecoder>
 #include <QTimer>
 
 #include <memory>
@@ -23,7 +24,7 @@ public:
 
     /// Shows the beginning at once, in place of what the view holds.
     void show(const QString& text);
-    /// The same for what an open device holds, in the system's encoding.
+    /// The same for what an open device holds, as a program printed it.
     void show(std::unique_ptr<QIODevice> device);
     /// Adds all that is still missing.
     void finish();
@@ -42,7 +43,7 @@ private:
     QString pending;
     qsizetype position = 0;
     std::unique_ptr<QIODevice> source;
-    QStringDecoder decoder;
+    OutputDecoder decoder;
     qint64 characters = 0;
     qint64 lines = 0;
     qsizetype lineLength = 0;

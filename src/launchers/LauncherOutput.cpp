@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "launchers/LauncherOutput.h"
+#include "process/OutputDecoder.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -119,7 +120,7 @@ QString LauncherOutput::takeText()
         cut(size);
     }
     log.finish();
-    QString text = QString::fromLocal8Bit(std::exchange(output, {}));
+    QString text = OutputDecoder::text(std::exchange(output, {}));
     if (isCut) {
         text += mode == HtmlDisplay ? u"<p>"_s + cutNote().toHtmlEscaped() : u'\n' + cutNote();
     }

@@ -2,6 +2,7 @@
 #include "launchers/RunReport.h"
 #include "dialogs/PlainText.h"
 #include "launchers/LauncherOutput.h"
+#include "process/OutputDecoder.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -22,7 +23,7 @@ constexpr qsizetype longestLine = 500;
 
 QString channel(const QString& heading, const QByteArray& bytes)
 {
-    const QString text = QString::fromLocal8Bit(bytes).trimmed();
+    const QString text = OutputDecoder::text(bytes).trimmed();
     return text.isEmpty() ? QString() : u"\n\n"_s + heading + u'\n' + PlainText::withShortLines(text, longestLine);
 }
 

@@ -2,10 +2,10 @@
 #include "launchers/StartProcess.h"
 #include "app/AppRegistry.h"
 #include "app/ProcessEnvironment.h"
+#include "process/ChildProcess.h"
 #include "process/ExecutableLookup.h"
 
 #include <QFileInfo>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +31,7 @@ void traceStart(const QProcess& process, const QString& program, const QStringLi
 
 } // namespace
 
-bool StartProcess(QProcess& process, const QString& program, const QStringList& arguments, bool runInProgramFolder,
+bool StartProcess(ChildProcess& process, const QString& program, const QStringList& arguments, bool runInProgramFolder,
                   bool analyserVariables)
 {
     const QString found = FindExecutable(program, appRegistry->executableFolders());
@@ -42,7 +42,7 @@ bool StartProcess(QProcess& process, const QString& program, const QStringList& 
         process.setWorkingDirectory(QFileInfo(path).absolutePath());
     }
     traceStart(process, path, arguments);
-    process.start(path, arguments, QIODevice::ReadWrite);
+    process.launch(path, arguments);
     if (!process.waitForStarted(startWaitMs)) {
         process.kill();
         return false;

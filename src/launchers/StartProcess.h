@@ -4,9 +4,9 @@
 #include <QString>
 #include <QStringList>
 
-class QProcess;
+class ChildProcess;
 
 /// Starts a program of the suite with the analyser environment and waits until it has started. A program that can not
 /// be found is started as named.
-bool StartProcess(QProcess& process, const QString& program, const QStringList& arguments, bool runInProgramFolder,
+bool StartProcess(ChildProcess& process, const QString& program, const QStringList& arguments, bool runInProgramFolder,
                   bool analyserVariables);

@@ -21,9 +21,7 @@ ChildProcess::ChildProcess(ChildList* siblings, QObject* parent)
     if (list) {
         list->enter(this);
     }
-#ifdef Q_OS_UNIX
-    setChildProcessModifier(&ProcessGroup::becomeLeader);
-#endif
+    leadGroup();
     reaper.setInterval(reapInterval);
     connect(&reaper, &QTimer::timeout, this, &StrayProcesses::reap);
     connect(this, &QProcess::started, this, [this] {

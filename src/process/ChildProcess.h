@@ -24,6 +24,9 @@ public:
     /// Stops what still runs.
     ~ChildProcess() override;
 
+    /// Starts a program with arguments that reach it as given. On Windows also a batch file, and a file whose kind is
+    /// registered with an interpreter. Errors are told as by start().
+    void launch(const QString& program, const QStringList& arguments);
     /// True while all children are being stopped because the program closes.
     bool isClosingDown() const;
     void setLeftovers(Leftovers policy) { leftovers = policy; }
@@ -37,6 +40,9 @@ public:
     bool stop(int killMs, int graceMs = 500);
 
 private:
+    /// Makes the child the head of its group from its first moment on.
+    void leadGroup();
+
     QPointer<ChildList> list;
     Leftovers leftovers = Leftovers::Kill;
     ProcessGroup group;

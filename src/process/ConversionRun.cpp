@@ -37,7 +37,7 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
 {
     stop();
     projectFileName = projectFile;
-    decoder = QStringDecoder(QStringConverter::System);
+    decoder = {};
     running = true;
     stopping = false;
     code = -1;
@@ -51,7 +51,7 @@ bool ConversionRun::start(const QString& program, const QStringList& arguments, 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     Guardian::mark(environment);
     process.setProcessEnvironment(environment);
-    process.start(program, arguments, QIODevice::ReadWrite);
+    process.launch(program, arguments);
     Q_EMIT commandStarted(program + u' ' + arguments.join(u' '));
     if (process.waitForStarted(startWaitMs)) {
         // Nobody answers a converter that asks: it shall see the end of its input instead of waiting for ever.

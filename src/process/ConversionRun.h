@@ -2,11 +2,11 @@
 #pragma once
 
 #include "process/ChildProcess.h"
+#include "process/OutputDecoder.h"
 #include "process/ProjectPlace.h"
 
 #include <QObject>
 #include <QString>
-#include <QStringDecoder>
 #include <QStringList>
 
 #include <vector>
@@ -70,7 +70,7 @@ private:
     void addDetail(const QString& sentence);
 
     ChildProcess process;
-    QStringDecoder decoder;
+    OutputDecoder decoder;
     ProjectPlace place;
     QString projectFileName;
     QString detailText;

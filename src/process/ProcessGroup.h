@@ -13,9 +13,11 @@ public:
     ProcessGroup(const ProcessGroup&) = delete;
     ProcessGroup& operator=(const ProcessGroup&) = delete;
 
-    /// Runs in the child between fork and exec: makes it the leader of a session and its group. Does
-    /// nothing on Windows.
+    /// Unix: runs in the child between fork and exec, and makes it the leader of a session and its group.
     static void becomeLeader();
+    /// Windows: what to hand to CreateProcess() in place of this start-up information, with these flags, so that the
+    /// child is in the job before it runs.
+    void* startInside(const void* startup, unsigned long& flags);
 
     /// Takes hold of a process that has just been started.
     void adopt(long long processId);

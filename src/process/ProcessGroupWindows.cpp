@@ -5,10 +5,14 @@
 #include <windows.h>
 
 #include <memory>
+#include <vector>
 
 struct ProcessGroup::Handle
 {
     HANDLE job = nullptr;
+    /// For the next start; the system reads both only then.
+    STARTUPINFOEXW startup = {};
+    std::vector<char> attributes;
 };
 
 ProcessGroup::ProcessGroup()
@@ -26,6 +30,26 @@ ProcessGroup::~ProcessGroup()
 }
 
 void ProcessGroup::becomeLeader() {}
+
+// Taken into the job when it runs already, the child could have started others outside.
+void* ProcessGroup::startInside(const void* startup, unsigned long& flags)
+{
+    SIZE_T size = 0;
+    InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
+    handle->attributes.resize(size);
+    handle->startup = {};
+    handle->startup.StartupInfo = *static_cast<const STARTUPINFOW*>(startup);
+    handle->startup.StartupInfo.cb = sizeof(STARTUPINFOW);
+    auto* list = reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(handle->attributes.data());
+    if (InitializeProcThreadAttributeList(list, 1, 0, &size) &&
+        UpdateProcThreadAttribute(list, 0, PROC_THREAD_ATTRIBUTE_JOB_LIST, &handle->job, sizeof handle->job, nullptr,
+                                  nullptr)) {
+        handle->startup.StartupInfo.cb = sizeof handle->startup;
+        handle->startup.lpAttributeList = list;
+        flags |= EXTENDED_STARTUPINFO_PRESENT;
+    }
+    return &handle->startup;
+}
 
 void ProcessGroup::adopt(long long processId)
 {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "process/ProgressLine.h"
+#include "process/OutputDecoder.h"
 
 #include <QRegularExpression>
 
@@ -29,7 +30,7 @@ QString plainItem(QByteArrayView text)
 {
     // Colours and the like, which are meant for a terminal.
     static const QRegularExpression escape(u"\\x1b\\[[0-9;?]*[A-Za-z]?"_s);
-    QString item = QString::fromLocal8Bit(text).remove(escape);
+    QString item = OutputDecoder::text(text).remove(escape);
     item.removeIf([](QChar character) { return character.category() == QChar::Other_Control && character != u'\t'; });
     return item.simplified();
 }

@@ -118,8 +118,8 @@ Result<void> ProjectPlace::putAside()
         removeMade();
     } else if (isThere(projectFile)) {
         if (const std::error_code error = move(projectFile, aside)) {
-            return {Text::tr("The old project file can not be put aside: %1. Close programs that use it.")
-                        .arg(reason(error))};
+            return {Text::tr("The old project file %1 can not be put aside: %2. Close programs that use it.")
+                        .arg(QDir::toNativeSeparators(projectFile), reason(error))};
         }
         hasOld = true;
     }

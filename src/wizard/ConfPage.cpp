@@ -95,7 +95,7 @@ void ConfPage::initializePage()
     const ProjectCreatorData* creator = window->projectCreator;
     for (const Field& field : fields) {
         field.widgets.SetStartFolder(window->defaultPersonalityLocation);
-        field.widgets.lineEdit()->setText(window->configurationOrPreset(field.kind));
+        field.widgets.lineEdit()->setText(QDir::toNativeSeparators(window->configurationOrPreset(field.kind)));
         const bool asked = creator && creator->*factsOf(field.kind).asked;
         field.widgets.frame()->setVisible(asked);
         field.label->setVisible(asked);

@@ -46,8 +46,7 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     // With its format named, Qt does not load every plugin to find out.
     setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
     setPixmap(QWizard::LogoPixmap, Logo::on(palette().color(QPalette::Base)));
-    setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                   Qt::WindowMaximizeButtonHint);
+    setWindowFlags(MainWindow::frame());
     setOptions(QWizard::HaveCustomButton1 | QWizard::NoBackButtonOnLastPage | QWizard::NoBackButtonOnStartPage);
     if (HelpManager::HelpAvailable(*appRegistry)) {
         setOption(QWizard::HaveHelpButton);

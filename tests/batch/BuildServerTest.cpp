@@ -51,7 +51,7 @@ struct BatchSuite : Installation
     {
         return QJsonDocument::fromJson(convert(QStringList{u"--json"_s} + more).output.toUtf8()).object();
     }
-    QString project() const { return path(u"work/p.prj"_s); }
+    QString project() const { return nativePath(u"work/p.prj"_s); }
 };
 
 } // namespace
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(json[u"project"].toString(), suite.project());
         QCOMPARE(json[u"type"].toString(), u"T"_s);
         QCOMPARE(json[u"analyser"].toString(), u"ORVC"_s);
-        QCOMPARE(json[u"program"].toString(), suite.path(u"convert"_s));
+        QVERIFY(json[u"program"].toString().startsWith(suite.path(u"convert"_s)));
         QCOMPARE(json[u"arguments"].toArray(), (QJsonArray{suite.project(), u"some file"_s}));
         QCOMPARE(json[u"exitCode"].toInt(-1), 0);
         QVERIFY(json[u"duration"].toDouble(-1) >= 0);
@@ -125,8 +125,8 @@ private Q_SLOTS:
         suite.write(u"work/p.prj"_s, "old");
         const ProgramResult result = suite.convert({u"-dry-run"_s, u"-overwrite"_s});
         QCOMPARE(result.status, 0);
-        QVERIFY2(result.output.startsWith(suite.path(u"convert"_s) + u"\n  "_s + suite.project()),
-                 qPrintable(result.output));
+        QVERIFY2(result.output.startsWith(suite.path(u"convert"_s)), qPrintable(result.output));
+        QVERIFY2(result.output.contains(u"\n  "_s + suite.project()), qPrintable(result.output));
         QCOMPARE(suite.read(suite.project()), QByteArray("old"));
     }
 
@@ -195,12 +195,13 @@ private Q_SLOTS:
         const BatchSuite suite;
         suite.write(u"xml/broken.xml"_s, "<s><projectCreator><name>T</name></projectCreator>\n<a></b>\n");
         const QString broken = suite.run({u"-file"_s, u"/nowhere/broken.xml"_s, u"-list-types"_s}).errors;
-        QVERIFY2(broken.contains(suite.path(u"xml/broken.xml"_s) + u":2:"_s), qPrintable(broken));
-        QVERIFY2(broken.contains("no definitions file /nowhere/broken.xml"_L1), qPrintable(broken));
+        QVERIFY2(broken.contains(suite.nativePath(u"xml/broken.xml"_s) + u":2:"_s), qPrintable(broken));
+        QVERIFY2(broken.contains(u"no definitions file "_s + QDir::toNativeSeparators(u"/nowhere/broken.xml"_s)),
+                 qPrintable(broken));
         QCOMPARE(suite.run({u"-list-types"_s}).errors, QString());
         suite.write(u"work/settings.xml"_s, suite.read(u"xml/settings.xml"_s));
         const QString foreign = suite.run({u"-list-types"_s}).errors;
-        QVERIFY2(foreign.contains(suite.path(u"work/settings.xml"_s)), qPrintable(foreign));
+        QVERIFY2(foreign.contains(suite.nativePath(u"work/settings.xml"_s)), qPrintable(foreign));
         QCOMPARE(suite.run({u"-file"_s, suite.path(u"xml/settings.xml"_s), u"-list-types"_s}).errors, QString());
     }
 
@@ -209,7 +210,7 @@ private Q_SLOTS:
         const BatchSuite suite;
         const QString said = suite.run({u"-list-types"_s}, {{u"ORVCPATH"_s, u"/gone"_s}}).errors;
         QVERIFY2(said.contains("ORVCPATH"_L1), qPrintable(said));
-        QVERIFY2(said.contains("/gone"_L1), qPrintable(said));
+        QVERIFY2(said.contains(QDir::toNativeSeparators(u"/gone"_s)), qPrintable(said));
     }
 
     void warnsOfValuesThatAreReplaced()

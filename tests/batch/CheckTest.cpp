@@ -34,10 +34,10 @@ private Q_SLOTS:
             "<projectCreator><inputData><displayName>In</displayName><argDef>%X</argDef></inputData></projectCreator>",
             u"\"In\" reaches no argument"_s);
         row("missing program", "<projectCreator><name>N</name><exe>/no/program</exe></projectCreator>",
-            u"/no/program"_s);
+            QDir::toNativeSeparators(u"/no/program"_s));
         row("missing tool",
             "<applicationPage><application name='N'><exe>/no/tool</exe></application></applicationPage>",
-            u"/no/tool"_s);
+            QDir::toNativeSeparators(u"/no/tool"_s));
         row("unknown word of a launcher",
             "<applicationPage><application name='N'><colour>#fff</colour><color>red</color></application>"
             "</applicationPage>",
@@ -63,6 +63,7 @@ private Q_SLOTS:
     void findsNothingInAGoodFile()
     {
         const Installation suite;
+        suite.writeChild(u"tool"_s, "");
         const QString file = suite.write(
             u"my.xml"_s, "<settings><LINUX><projectCreator><name>N</name><exe>sh</exe><exeargs>%PF %CP+ %IN</exeargs>"
                          "<orvcProject>1</orvcProject><inputData><displayName>In</displayName>"

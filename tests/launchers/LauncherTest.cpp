@@ -122,7 +122,8 @@ private Q_SLOTS:
         page.SetIsORVC(true);
         ExecutableLookup lookup(appRegistry->executableFolders());
         QVERIFY(!first.ExecutablesFound(lookup));
-        QCOMPARE(first.disabledReason, u"Disabled, could not locate required executables: missing/c,no such program"_s);
+        QCOMPARE(first.disabledReason, u"Disabled, could not locate required executables: %1,no such program"_s.arg(
+                                           QDir::toNativeSeparators(u"missing/c"_s)));
     }
 
     void looksProgramsUp()
@@ -164,7 +165,7 @@ private Q_SLOTS:
         QTRY_COMPARE(answers.texts, boxes);
         QCOMPARE(next.isEnabled(), boxes.isEmpty());
         QCOMPARE(next.toolTip().isEmpty(), boxes.isEmpty());
-        QCOMPARE(answers.details.value(0).contains(tool.cppExe), !boxes.isEmpty());
+        QCOMPARE(answers.details.value(0).contains(QDir::toNativeSeparators(tool.cppExe)), !boxes.isEmpty());
     }
 
     void nothingStartsWithoutItsFiles()
@@ -279,7 +280,12 @@ private Q_SLOTS:
     void endsWhatItLeftBehind_data()
     {
         const TestRows<QByteArray, bool> row("script", "counts");
+#ifdef Q_OS_UNIX
         row("detached", "start-session " + deaf(), false);
+#else
+        // A job holds it, too.
+        row("detached", "start-session " + deaf(), true);
+#endif
         row("in the background", "start { mark $0.pid; hang }", true);
     }
 

@@ -7,6 +7,7 @@
 #include "process/ArgumentSubstitution.h"
 #include "process/ConversionRun.h"
 #include "process/OutputBuffer.h"
+#include "process/OutputDecoder.h"
 #include "process/StrayProcesses.h"
 #include "process/WizardState.h"
 #include "TestMain.h"
@@ -81,7 +82,8 @@ private Q_SLOTS:
         state.compilerPersonality = u"/c.p_c"_s;
         state.messagePersonality = u"/m.p_s"_s;
         QCOMPARE(conversionArguments(state).join(u'|'),
-                 u"ORVCPP|/w|new|/w/new.prj|-via|/c.p_c|/c.p_c||-via|/m.p_s|--in|a b.json|"_s);
+                 u"ORVCPP|/w|new|%1|-via|/c.p_c|/c.p_c||-via|/m.p_s|--in|a b.json|"_s.arg(
+                     QDir::toNativeSeparators(u"/w/new.prj"_s)));
     }
 
     void takesWhatItPrints()
@@ -91,7 +93,7 @@ private Q_SLOTS:
                                  "print \\x; write $1 new"));
         QTRY_COMPARE(conversion.ended.size(), 1);
         QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::Created);
-        QCOMPARE(conversion.output, u"café <b>problem\n\uFFFD\n"_s);
+        QCOMPARE(conversion.output, u"café <b>problem\n%1\n"_s.arg(OutputDecoder::text("\xff")));
         QCOMPARE(conversion.run.detail(), QString());
         QCOMPARE(conversion.read(conversion.project), QByteArray("new\n"));
     }
@@ -201,20 +203,27 @@ private Q_SLOTS:
     {
         QFETCH(const bool, isLaunched);
         Installation suite;
+        const auto more = QDir::listSeparator() + u"/opt/"_s;
         qputenv("LATIN", "caf\xe9");
-        qputenv("PATH", qgetenv("PATH") + ":/opt/caf\xe9");
+        qputenv("PATH", qgetenv("PATH") + more.toUtf8() + "caf\xe9");
         suite.start();
         QProcess child;
         if (isLaunched) {
             SetProcessEnvironment(&child, true);
         }
         // The user's own variables keep their bytes, PATH those that it had.
-        child.start(u"sh"_s, {u"-c"_s, u"printf '%s|%s|%s' \"$ORVCBIN\" \"$LATIN\" \"$PATH\""_s});
+        child.start(suite.writeChild(u"show"_s, "put $ORVCBIN|$LATIN|$PATH"), {});
         QVERIFY(child.waitForFinished());
         qunsetenv("LATIN");
         const QByteArray said = child.readAll();
-        QVERIFY2(said.startsWith(suite.path(u"orvc/bin"_s).toLocal8Bit() + "|caf\xe9|"), said.constData());
-        QVERIFY2(said.contains(":/opt/caf\xe9:" + suite.path(u"bin"_s).toLocal8Bit()), said.constData());
+#ifdef Q_OS_WIN
+        const QByteArray cafe = "caf\xc3\xa9";
+#else
+        const QByteArray cafe = "caf\xe9";
+#endif
+        QVERIFY2(said.startsWith(suite.nativePath(u"orvc/bin"_s).toUtf8() + '|' + cafe + '|'), said.constData());
+        const QString next = QDir::listSeparator() + suite.nativePath(u"bin"_s);
+        QVERIFY2(said.contains(more.toUtf8() + cafe + next.toUtf8()), said.constData());
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QDir>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -11,6 +12,8 @@ class TestFolder
 {
 public:
     QString path(const QString& name) const { return folder.filePath(name); }
+    /// As the system and the program's texts write it.
+    QString nativePath(const QString& name) const { return QDir::toNativeSeparators(path(name)); }
     /// Writes a file below the folder, making its folders and giving it that time, if any; gives its path.
     QString write(const QString& name, const QByteArray& contents, const QDateTime& time = {}) const;
     /// A program that does what these verbs of testchild say, or behind "#!" a shell script, for what is Unix' own;

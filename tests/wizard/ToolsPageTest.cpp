@@ -97,9 +97,9 @@ private Q_SLOTS:
         QCOMPARE(window.currentId(), int(DisplayOptionsPageId));
         QVERIFY(!window.button(QWizard::BackButton)->isVisible());
         QVERIFY(!findControl(*window.currentPage(), u"Show the &conversion's output..."_s));
-        QVERIFY(findControl(*window.currentPage(), u"Project: "_s + file));
+        QVERIFY(findControl(*window.currentPage(), u"Project: "_s + suite.nativePath(name)));
         controlCalled<QPushButton>(*window.currentPage(), u"Tool"_s).click();
-        QTRY_COMPARE(suite.read(u"tool.out"_s), file.toUtf8() + ' ' + analyser + '\n');
+        QTRY_COMPARE(suite.read(u"tool.out"_s), suite.nativePath(name).toUtf8() + ' ' + analyser + '\n');
 
         // Another conversion begins where every conversion begins.
         window.button(QWizard::CustomButton1)->click();
@@ -132,7 +132,7 @@ private Q_SLOTS:
         const QString file = name.isEmpty() ? QString() : suite.path(name);
         const QString problem = window.openTools(file).problem;
         QVERIFY2(problem.contains(says), qPrintable(problem));
-        QVERIFY2(problem.contains(file), qPrintable(problem));
+        QVERIFY2(problem.contains(QDir::toNativeSeparators(file)), qPrintable(problem));
         QCOMPARE(window.startId(), int(StartPageId));
     }
 
@@ -201,8 +201,13 @@ private Q_SLOTS:
         });
         watch.start(10);
         wizard.window.close();
+#ifdef Q_OS_WIN
+        // The job ends it with the conversion.
+        QCOMPARE(questions, QStringList{u"Conversion in progress|Still open: T"_s});
+#else
         QCOMPARE(questions, QStringList{u"Conversion in progress|Still open: T, a program that a tool has left "
                                         "running"_s});
+#endif
         QVERIFY(!wizard.window.isVisible());
         QVERIFY(!StrayProcesses::any());
     }

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>BatchFile</name>
+    <message>
+        <source>A batch file can not be given an argument with a line break: %1</source>
+        <translation>Einer Stapeldatei kann kein Argument mit einem Zeilenumbruch übergeben werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>ActionPage</name>
     <message>
         <source>&amp;Stop</source>
@@ -1051,8 +1058,8 @@ Möchten Sie diese Anwendung schließen?</translation>
         <translation>Der Ordner der Projektdatei ist nicht beschreibbar: %1 kann dort nicht angelegt werden. Schaffen Sie dort Platz, oder machen Sie ihn beschreibbar.</translation>
     </message>
     <message>
-        <source>The old project file can not be put aside: %1. Close programs that use it.</source>
-        <translation>Die alte Projektdatei kann nicht beiseitegelegt werden: %1. Schließen Sie Programme, die sie benutzen.</translation>
+        <source>The old project file %1 can not be put aside: %2. Close programs that use it.</source>
+        <translation>Die alte Projektdatei %1 kann nicht beiseitegelegt werden: %2. Schließen Sie Programme, die sie benutzen.</translation>
     </message>
     <message>
         <source>a link to %1</source>
