@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/SettingsStore.h"
+#include "app/ReadStore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +31,7 @@ QString organisation()
 std::unique_ptr<QSettings> openForReading(const QString& application)
 {
     // A user-scope store falls back to the system's value by itself.
-    return std::make_unique<QSettings>(format(), QSettings::UserScope, organisation(), application);
+    return std::make_unique<ReadStore>(format(), QSettings::UserScope, organisation(), application);
 }
 
 bool write(const QString& application, const std::function<void(QSettings&)>& write)

@@ -27,7 +27,7 @@ QString commandInterpreter()
 // for what it starts as it is, and for documents.
 QStringList interpreterOf(const QString& file)
 {
-    const std::wstring suffix = u'.' + QFileInfo(file).suffix().toStdWString();
+    const std::wstring suffix = L'.' + QFileInfo(file).suffix().toStdWString();
     std::array<wchar_t, 2048> command = {};
     auto size = DWORD(command.size());
     if (::AssocQueryStringW(ASSOCF_NONE, ASSOCSTR_COMMAND, suffix.c_str(), nullptr, command.data(), &size) != S_OK) {
@@ -77,7 +77,5 @@ void ChildProcess::leadGroup()
     setCreateProcessArgumentsModifier([this](CreateProcessArguments* arguments) {
         arguments->startupInfo =
             static_cast<Q_STARTUPINFO*>(group.startInside(arguments->startupInfo, arguments->flags));
-        // No console flashes up, and none of ours is shared: Ctrl+C there means this program, which ends the child.
-        arguments->flags |= CREATE_NO_WINDOW;
     });
 }

@@ -27,6 +27,33 @@ BOOL WINAPI handle(DWORD event)
     return TRUE;
 }
 
+constexpr auto windowClass = L"KovraStopSignals";
+
+// A program with windows hears of the session's end by them alone. What comes after this returns is up to the system,
+// so that whoever listens has to be done by then.
+LRESULT CALLBACK hear(HWND window, UINT message, WPARAM word, LPARAM more)
+{
+    StopSignals* const target = listener;
+    if (message == WM_ENDSESSION && word != 0 && target) {
+        Q_EMIT target->received();
+        return 0;
+    }
+    return ::DefWindowProcW(window, message, word, more);
+}
+
+// Never shown; one for messages alone is told nothing of the session.
+HWND makeWindow()
+{
+    WNDCLASSW kind = {};
+    kind.lpfnWndProc = hear;
+    kind.hInstance = ::GetModuleHandleW(nullptr);
+    kind.lpszClassName = windowClass;
+    ::RegisterClassW(&kind);
+    return ::CreateWindowExW(0, windowClass, L"", WS_OVERLAPPED, 0, 0, 0, 0, nullptr, nullptr, kind.hInstance, nullptr);
+}
+
+HWND sessionWindow = nullptr;
+
 } // namespace
 
 StopSignals::StopSignals(QObject* parent)
@@ -34,10 +61,12 @@ StopSignals::StopSignals(QObject* parent)
 {
     listener = this;
     ::SetConsoleCtrlHandler(handle, TRUE);
+    sessionWindow = makeWindow();
 }
 
 StopSignals::~StopSignals()
 {
+    ::DestroyWindow(sessionWindow);
     ::SetConsoleCtrlHandler(handle, FALSE);
     listener = nullptr;
 }

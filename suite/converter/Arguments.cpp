@@ -2,13 +2,16 @@
 #include "Arguments.h"
 #include "builds/NinjaFolder.h"
 #include "Failure.h"
+#include "Output.h"
 #include "SourceLists.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <cstdlib>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -147,10 +150,13 @@ Arguments Arguments::parse(const QStringList& commandLine)
         throw wrong(parser.errorText());
     }
     if (parser.isSet(u"help"_s)) {
-        parser.showHelp();
+        // QCommandLineParser would open a window where Windows sees no console.
+        print(stdout, parser.helpText().chopped(1));
+        std::exit(0);
     }
     if (parser.isSet(u"version"_s)) {
-        parser.showVersion();
+        print(stdout, QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
+        std::exit(0);
     }
     Arguments arguments;
     arguments.compileCommands = parser.value(u"compile-commands"_s);

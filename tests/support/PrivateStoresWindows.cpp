@@ -31,6 +31,7 @@ void redirect(HKEY hive, const wchar_t* name)
 PrivateStores::PrivateStores(const QString& home)
 {
     redirect(HKEY_LOCAL_MACHINE, L"\\machine");
+    redirect(HKEY_CLASSES_ROOT, L"\\classes");
     redirect(HKEY_CURRENT_USER, L"\\user");
     for (const char* variable : {"TEMP", "TMP"}) {
         qputenv(variable, QDir::toNativeSeparators(home + QStringLiteral("/tmp")).toLocal8Bit());
@@ -41,6 +42,7 @@ PrivateStores::PrivateStores(const QString& home)
 PrivateStores::~PrivateStores()
 {
     ::RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
+    ::RegOverridePredefKey(HKEY_CLASSES_ROOT, nullptr);
     ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
     ::RegDeleteTreeW(HKEY_CURRENT_USER, keyOfRun().c_str());
 }

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "app/AppRegistry.h"
 #include "app/Installations.h"
 #include "app/OwnEnvironment.h"
 #include "app/SettingsStore.h"
 #include "console/Console.h"
+#include "dialogs/DisplayDialog.h"
 #include "dialogs/FileSearch.h"
 #include "process/AnalyserEnvironment.h"
+#include "process/BatchFile.h"
 #include "process/ChildProcess.h"
+#include "process/ConversionRun.h"
+#include "process/OutputDecoder.h"
 #include "process/StopSignals.h"
 #include "TestFolder.h"
 #include "TestMain.h"
@@ -34,14 +39,6 @@ public:
 
     QStringList files;
 };
-
-bool isRunning(const QByteArray& pid)
-{
-    const HANDLE process = ::OpenProcess(SYNCHRONIZE, FALSE, pid.trimmed().toUInt());
-    const bool runs = process != nullptr && ::WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
-    ::CloseHandle(process);
-    return runs;
-}
 
 } // namespace
 
@@ -104,6 +101,108 @@ private Q_SLOTS:
         QCOMPARE(arguments, QCoreApplication::arguments());
     }
 
+    void hearsOfTheSessionsEnd()
+    {
+        const StopSignals signals;
+        const QSignalSpy received(&signals, &StopSignals::received);
+        const HWND window = ::FindWindowW(L"KovraStopSignals", nullptr);
+        ::SendMessageW(window, WM_ENDSESSION, FALSE, 0);
+        QCOMPARE(received.size(), 0);
+        // Done when the system goes on.
+        ::SendMessageW(window, WM_ENDSESSION, TRUE, 0);
+        QCOMPARE(received.size(), 1);
+    }
+
+    void leavesNoEmptyKeys()
+    {
+        const auto isThere = [](const wchar_t* key) {
+            HKEY handle = nullptr;
+            const bool found = ::RegOpenKeyExW(HKEY_CURRENT_USER, key, 0, KEY_READ, &handle) == ERROR_SUCCESS;
+            ::RegCloseKey(handle);
+            return found;
+        };
+        QCOMPARE(SettingsStore::openForReading(u"Unknown"_s)->value(u"key"_s), QVariant());
+        QVERIFY(!isThere(L"Software\\KOVRA\\Unknown"));
+        QSettings(u"KOVRA"_s, u"Known"_s).setValue(u"key"_s, 1);
+        QCOMPARE(SettingsStore::openForReading(u"Known"_s)->value(u"key"_s).toInt(), 1);
+        QVERIFY(isThere(L"Software\\KOVRA\\Known"));
+    }
+
+    void namesAProjectThatAnotherProgramHolds()
+    {
+        const TestFolder place;
+        const QString project = place.write(u"p.prj"_s, "old");
+        const HANDLE held =
+            ::CreateFileW(project.toStdWString().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        ConversionRun run;
+        QVERIFY(!run.start(place.writeChild(u"convert"_s, "write $1 new"), {project}, project));
+        QVERIFY2(run.detail().contains(place.nativePath(u"p.prj"_s) + u" can not be put aside"_s),
+                 qPrintable(run.detail()));
+        ::CloseHandle(held);
+        QCOMPARE(place.read(u"p.prj"_s), QByteArray("old"));
+    }
+
+    void readsWhatAConsolePrints()
+    {
+        OutputDecoder decoder;
+        QCOMPARE(decoder.decode("UTF-8: caf\xc3"), u"UTF-8: caf"_s);
+        QCOMPARE(decoder.decode("\xa9\nOEM: caf\x82\n"), u"é\nOEM: café\n"_s);
+    }
+
+    void handsOverArguments_data()
+    {
+        const TestRows<QString> row("starter");
+        row("program", u"arguments"_s);
+        row("batch file", u"a & b.cmd"_s);
+        row("script with an interpreter", u"script.kovratest"_s);
+    }
+
+    void handsOverArguments()
+    {
+        QFETCH(const QString, starter);
+        const TestFolder place;
+        const QString program =
+            place.writeChild(u"arguments"_s, "append $0.out $1; append $0.out $2; append $0.out $3; append $0.out $4; "
+                                             "append $0.out $5; append $0.out $6");
+        const QString quoted = u"\"%1\" "_s.arg(QDir::toNativeSeparators(program));
+        QString file = program;
+        if (starter.endsWith(u".cmd"_s)) {
+            file = place.write(starter, "@" + quoted.toUtf8() + "%*\r\n");
+        } else if (starter != u"arguments"_s) {
+            file = place.write(starter, "");
+            QSettings kinds(u"HKEY_CLASSES_ROOT"_s, QSettings::NativeFormat);
+            kinds.setValue(u".kovratest/."_s, u"kovratest"_s);
+            kinds.setValue(u"kovratest/shell/open/command/."_s, quoted + u"\"%1\" %*"_s);
+            kinds.sync();
+        }
+        ChildProcess child;
+        const QStringList arguments{u"a&b|c<d>e"_s, u"5% ^ !x!"_s, u"say \"hi\""_s, u"C:\\end\\"_s, u"ж 日本"_s};
+        child.launch(file, arguments);
+        QVERIFY(child.waitForFinished(10000));
+        const QStringList first =
+            starter.startsWith("script"_L1) ? QStringList{place.nativePath(starter)} : QStringList();
+        QCOMPARE(QString::fromUtf8(place.read(u"arguments.out"_s)).split(u'\n', Qt::SkipEmptyParts), first + arguments);
+    }
+
+    void refusesWhatABatchFileCanNotTake()
+    {
+        // Wine's own interpreter expands the variables in what a batch file was given; so it is only looked at.
+        QCOMPARE(BatchFile::interpreterArguments(u"a.cmd"_s, {u"%OS%"_s}).value,
+                 u"/e:ON /v:OFF /d /c \"\"a.cmd\" \"%%cd:~,%OS%%cd:~,%\"\""_s);
+        ChildProcess child;
+        const QSignalSpy errors(&child, &QProcess::errorOccurred);
+        child.launch(u"C:/any.BAT"_s, {u"one\ntwo"_s});
+        QCOMPARE(errors.size(), 1);
+        QVERIFY2(child.errorString().contains(u"line break: one\ntwo"_s), qPrintable(child.errorString()));
+    }
+
+    void canBeClosed()
+    {
+        AppRegistry registry;
+        const DisplayDialog window(registry, u"t"_s, DisplayDialog::Text, 100, 100);
+        QVERIFY(window.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+    }
+
     void hearsOfCtrlC()
     {
         // One of the test's own: what it was started from may be no console that knows of events.
@@ -129,15 +228,14 @@ private Q_SLOTS:
     void endsGrandchildren()
     {
         const TestFolder place;
-        const QString script = place.write(
-            u"a b.cmd"_s, "@echo off\r\nstart /b ping -n 600 127.0.0.1 >nul\r\nping -n 600 127.0.0.1 >nul\r\n");
         ChildProcess child;
-        child.start(script, {});
-        QVERIFY(child.waitForStarted());
-        const QByteArray pid = QByteArray::number(child.processId());
-        QVERIFY(isRunning(pid));
+        // Before its parent could be taken into a job by whoever started it.
+        child.launch(place.writeChild(u"a b"_s, "start-daemon { start-daemon { mark $0.pid; hang }; hang }; hang"), {});
+        QTRY_VERIFY(!place.read(u"a b.pid"_s).isEmpty());
+        const QByteArray pid = place.read(u"a b.pid"_s);
+        QVERIFY(TestFolder::isAlive(pid));
         QVERIFY(child.stop(10000));
-        QTRY_VERIFY(!isRunning(pid));
+        QTRY_VERIFY(!TestFolder::isAlive(pid));
         QVERIFY(!child.hasLeftovers());
     }
 };

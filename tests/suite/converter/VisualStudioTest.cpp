@@ -19,7 +19,7 @@ struct Reading
     Reading(const Installation& place, const QString& file, const QString& configuration = u"|"_s)
     {
         const auto shortened = [&](const QString& text) {
-            return QString(text).replace(place.path(u"work"_s), u"~"_s);
+            return QString(text).replace(place.path(u"work"_s), u"~"_s).replace(place.nativePath(u"work"_s), u"~"_s);
         };
         Notices told;
         try {
