@@ -59,7 +59,7 @@ QString RunReport::reason(const QProcess& process)
 
 QString RunReport::details(const QProcess& process, const LauncherOutput& output)
 {
-    const QString command = process.program() + u' ' + process.arguments().join(u' ');
+    const QString command = QDir::toNativeSeparators(process.program()) + u' ' + process.arguments().join(u' ');
     const QString end = process.error() == QProcess::UnknownError ? Text::tr("Exit code: %1").arg(process.exitCode())
                                                                   : process.errorString();
     return Text::tr("Command: %1").arg(PlainText::withShortLines(command, longestLine)) + u'\n' + end +

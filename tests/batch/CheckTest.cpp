@@ -63,14 +63,16 @@ private Q_SLOTS:
     void findsNothingInAGoodFile()
     {
         const Installation suite;
-        suite.writeChild(u"tool"_s, "");
+        const QByteArray tool = suite.writeChild(u"tool"_s, "").toUtf8();
         const QString file = suite.write(
-            u"my.xml"_s, "<settings><LINUX><projectCreator><name>N</name><exe>sh</exe><exeargs>%PF %CP+ %IN</exeargs>"
-                         "<orvcProject>1</orvcProject><inputData><displayName>In</displayName>"
-                         "<inputType TYPE='C_ONLY' COLUMNS='2'>EDIT</inputType><defaultValue TYPE='C'>x</defaultValue>"
-                         "<mustBeSet>1</mustBeSet><argDef>%IN</argDef></inputData></projectCreator></LINUX>"
-                         "<applicationPage title='t'><columns>2</columns><application name='N'><exe>sh</exe>"
-                         "<condition name='c' action='start'/></application></applicationPage></settings>");
+            u"my.xml"_s,
+            QByteArray("<settings><LINUX><projectCreator><name>N</name><exe>%1</exe><exeargs>%PF %CP+ %IN</exeargs>"
+                       "<orvcProject>1</orvcProject><inputData><displayName>In</displayName>"
+                       "<inputType TYPE='C_ONLY' COLUMNS='2'>EDIT</inputType><defaultValue TYPE='C'>x</defaultValue>"
+                       "<mustBeSet>1</mustBeSet><argDef>%IN</argDef></inputData></projectCreator></LINUX>"
+                       "<applicationPage title='t'><columns>2</columns><application name='N'><exe>%1</exe>"
+                       "<condition name='c' action='start'/></application></applicationPage></settings>")
+                .replace("%1", tool));
         const ProgramResult result = runProgram(QStringLiteral(PROGRAM), {u"-batch"_s, u"-check"_s, file});
         QCOMPARE(result.output, QString());
         QCOMPARE(result.status, 0);

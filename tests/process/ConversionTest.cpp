@@ -93,7 +93,7 @@ private Q_SLOTS:
                                  "print \\x; write $1 new"));
         QTRY_COMPARE(conversion.ended.size(), 1);
         QCOMPARE(conversion.run.outcome(), ConversionRun::Outcome::Created);
-        QCOMPARE(conversion.output, u"café <b>problem\n%1\n"_s.arg(OutputDecoder::text("\xff")));
+        QCOMPARE(conversion.output, u"café <b>problem\n%1\n"_s.arg(OutputDecoder::text("\x82")));
         QCOMPARE(conversion.run.detail(), QString());
         QCOMPARE(conversion.read(conversion.project), QByteArray("new\n"));
     }

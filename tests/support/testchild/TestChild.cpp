@@ -59,7 +59,7 @@ std::string expanded(const std::string& text, std::size_t& at)
 
 char escaped(char letter)
 {
-    return letter == 'n' ? '\n' : letter == 'r' ? '\r' : letter == '0' ? '\0' : letter == 'x' ? '\xff' : letter;
+    return letter == 'n' ? '\n' : letter == 'r' ? '\r' : letter == '0' ? '\0' : letter == 'x' ? '\x82' : letter;
 }
 
 // Up to the sign that closes it, with others of its kind within braces.
