@@ -12,6 +12,12 @@
 #include <QStandardPaths>
 #include <QXmlStreamWriter>
 
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+
+#include <shellapi.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -77,6 +83,13 @@ QString BrowserReport::write(const AnalysisPlan& plan, const AnalysisResults& fi
 
 bool BrowserReport::open(const QString& page)
 {
+#ifdef Q_OS_WIN
+    // Above 32 says that it has worked.
+    const std::wstring file = QDir::toNativeSeparators(page).toStdWString();
+    return reinterpret_cast<INT_PTR>(::ShellExecuteW(nullptr, L"open", file.c_str(), nullptr, nullptr, SW_SHOWNORMAL)) >
+           32;
+#else
     const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
     return !opener.isEmpty() && QProcess::startDetached(opener, {page});
+#endif
 }

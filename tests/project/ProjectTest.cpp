@@ -149,10 +149,12 @@ private Q_SLOTS:
         row("binary", u"binary"_s, invalid);
         row("one line of a gigabyte", u"line"_s, invalid);
         row("name of a gigabyte", u"body"_s, invalid);
-        row("may not be read", u"closed"_s, invalid);
         row("folder", u"work"_s, noFile);
+#ifdef Q_OS_UNIX
+        row("may not be read", u"closed"_s, invalid);
         row("device", u"zero"_s, noFile);
         row("link to itself", u"loop"_s, u"This project file does not exist"_s);
+#endif
         row("none", {}, u"Project file not selected"_s);
     }
 
@@ -165,11 +167,13 @@ private Q_SLOTS:
         QVERIFY(QFile::resize(suite.write(u"line"_s, {}), 1LL << 30));
         QVERIFY(QFile::resize(suite.write(u"body"_s, "VersionTag\nStartProjectMarker\nname="), 1LL << 30));
         QVERIFY(QDir(suite.path(u"."_s)).mkpath(u"work"_s));
+#ifdef Q_OS_UNIX
         QVERIFY(QFile::link(u"loop"_s, suite.path(u"loop"_s)));
         QVERIFY(QFile::link(u"/dev/zero"_s, suite.path(u"zero"_s)));
         // Root may read everything, so for root this is one more file that is no project.
         const QString closed = suite.write(u"closed"_s, ::geteuid() == 0 ? "" : "V\nStartProjectMarker\nend\n");
         QVERIFY(QFile::setPermissions(closed, {}));
+#endif
         Project project;
         QVERIFY(!project.load(file.isEmpty() ? QString() : suite.path(file)));
         QVERIFY(!project.statusOk);
@@ -333,14 +337,15 @@ private Q_SLOTS:
         const QString& options = result[3];
         const QString& list = result[8];
         QCOMPARE(result.join(u'|'), u"ORVC|%1|-via|%2|-via|extra|%2|-list|%3|%3|-file|%4|%5| %P|%p|"_s.arg(
-                                        file, options, list, result[11], result[12]));
+                                        result[1], options, list, result[11], result[12]));
+        QCOMPARE(QDir::fromNativeSeparators(result[1]), file);
         QVERIFY2(result[11].endsWith(".txt"_L1), qPrintable(result[11]));
         QVERIFY2(result[12].endsWith(".txt"_L1), qPrintable(result[12]));
         QVERIFY(result[11] != result[12]);
-        QCOMPARE(suite.read(options),
+        QCOMPARE(suite.readLines(options),
                  "-outputpath \"" + root + "/out\"\n-via \"" + root + "/a.p_a\"\n-via \"" + standard + "\"\n");
-        QCOMPARE(suite.read(list), "-outputpath \"" + root + "/out\"\n-outputpath \"" + root + "/q/out\"\n\"" + root +
-                                       "/q/b.c\"\n-cmaf \"" + root + "/out/P\"\n");
+        QCOMPARE(suite.readLines(list), "-outputpath \"" + root + "/out\"\n-outputpath \"" + root + "/q/out\"\n\"" +
+                                            root + "/q/b.c\"\n-cmaf \"" + root + "/out/P\"\n");
         // The option file is kept as long as its text is the same, the list is always new.
         const QStringList again = project.expandLauncherArguments({u"%P"_s, u"%L"_s}, {}, {}, sources).value;
         QCOMPARE(again.size(), 2);

@@ -23,6 +23,8 @@ public:
     QString placeProgram(const QString& program, const QString& name) const;
     /// Reads a file below the folder, or anywhere by its absolute path; empty when it can not be read.
     QByteArray read(const QString& name) const;
+    /// The same, with line ends and separators of Windows as everywhere else.
+    QByteArray readLines(const QString& name) const { return read(name).replace("\r\n", "\n").replace('\\', '/'); }
     /// True while the process with this id, as a script wrote it, runs.
     static bool isAlive(const QByteArray& pid);
 

@@ -6,13 +6,13 @@
 #include "console/Console.h"
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/FileSearch.h"
+#include "Installation.h"
 #include "process/AnalyserEnvironment.h"
 #include "process/BatchFile.h"
 #include "process/ChildProcess.h"
 #include "process/ConversionRun.h"
 #include "process/OutputDecoder.h"
 #include "process/StopSignals.h"
-#include "TestFolder.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
@@ -176,7 +176,8 @@ private Q_SLOTS:
             kinds.sync();
         }
         ChildProcess child;
-        const QStringList arguments{u"a&b|c<d>e"_s, u"5% ^ !x!"_s, u"say \"hi\""_s, u"C:\\end\\"_s, u"ж 日本"_s};
+        const QStringList arguments{u"a&b|c<d>e"_s, starter.endsWith(u".cmd"_s) ? u"^ !x!"_s : u"%PATH% ^ !x!"_s,
+                                    u"say \"hi\""_s, u"C:\\end\\"_s, u"ж 日本"_s};
         child.launch(file, arguments);
         QVERIFY(child.waitForFinished(10000));
         const QStringList first =
@@ -186,7 +187,7 @@ private Q_SLOTS:
 
     void refusesWhatABatchFileCanNotTake()
     {
-        // Wine's own interpreter expands the variables in what a batch file was given; so it is only looked at.
+        // Wine's own interpreter looks for variables once more in what a batch file was given: only looked at.
         QCOMPARE(BatchFile::interpreterArguments(u"a.cmd"_s, {u"%OS%"_s}).value,
                  u"/e:ON /v:OFF /d /c \"\"a.cmd\" \"%%cd:~,%OS%%cd:~,%\"\""_s);
         ChildProcess child;
@@ -223,6 +224,28 @@ private Q_SLOTS:
         Found found;
         FileSearch({u"*.c"_s}).run(place.path(u"work"_s), found);
         QCOMPARE(found.files, QStringList{u"found.c"_s});
+    }
+
+    // Stand-ins: the real ones are not to be had as packages here.
+    void findsTheAnalysersToolsWhereTheirInstallersPutThem()
+    {
+        const TestFolder place;
+        place.writeChild(u"programs/Cppcheck/cppcheck"_s, "append $0.log $*; print Cppcheck 2.10");
+        place.writeChild(u"programs/Ninja/ninja"_s, "append $0.log $*; print 1.11.1");
+        place.write(u"a.c"_s, "int a;\n");
+        place.write(u"p.prj"_s, "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n"
+                                "messagePersonality=default string\nanalyserPersonality=default string\n"
+                                "compilerPersonality=default string\n*project=ORVC\na.c\nEndContainedFilesMarker\n"
+                                "EndOfProjectFile\n");
+        const ProgramResult result =
+            runProgram(QStringLiteral(ORV), {u"analyse"_s, u"p.prj"_s},
+                       {{u"ProgramFiles"_s, place.path(u"programs"_s)}, {u"PATH"_s, u"C:\\windows\\system32"_s}},
+                       place.path(u"."_s));
+        QVERIFY2(place.read(u"programs/Cppcheck/cppcheck.log"_s).contains("--version"),
+                 qPrintable(result.output + result.errors));
+        QVERIFY2(!place.read(u"programs/Ninja/ninja.log"_s).isEmpty(), qPrintable(result.output + result.errors));
+        // Stand-ins analyse nothing, and that is told.
+        QCOMPARE(result.status, 2);
     }
 
     void endsGrandchildren()

@@ -164,7 +164,7 @@ private Q_SLOTS:
         wizard.press(QWizard::NextButton);
         QTRY_VERIFY(wizard.window.button(QWizard::FinishButton)->isEnabled());
         QCOMPARE(wizard.output().section(u'\n', 2, 2),
-                 u"%1 %2 -a,-b,w 1 1 c99"_s.arg(suite.source, suite.nativePath(u"work"_s)));
+                 u"%1 %2 -a,-b,w 1 1 c99"_s.arg(suite.source, suite.path(u"work"_s)));
     }
 
     void bringsBackWhatWasEntered()
