@@ -2,6 +2,7 @@
 #include "AnalyserRun.h"
 #include "Failure.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QVersionNumber>
@@ -47,10 +48,22 @@ QList<Finding> findingsIn(const QByteArray& output)
     for (const QString& line : lines) {
         Finding finding;
         if (finding.fromLine(line)) {
+            finding.file = QDir::fromNativeSeparators(finding.file);
             findings += finding;
         }
     }
     return findings;
+}
+
+// On Windows the analyser has a platform of its own by default, and complains of it.
+QStringList withPlatform(const QStringList& arguments)
+{
+#ifdef Q_OS_WIN
+    if (arguments.filter(u"--platform="_s).isEmpty()) {
+        return QStringList{u"--platform=native"_s} + arguments;
+    }
+#endif
+    return arguments;
 }
 
 } // namespace
@@ -64,7 +77,7 @@ AnalyserRun AnalyserRun::start(const QStringList& arguments, const QString& fold
     // Whatever ends us must end it.
     analyser.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 #endif
-    analyser.start(QLatin1StringView(Analyser::program), arguments);
+    analyser.start(QLatin1StringView(Analyser::program), withPlatform(arguments));
     if (!analyser.waitForStarted(-1)) {
         run.end = End::Failed;
         run.reason = u"cppcheck can not be started: %1. Install the package cppcheck."_s.arg(analyser.errorString());

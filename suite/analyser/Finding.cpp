@@ -62,7 +62,8 @@ QString Finding::toLine() const
 // File names may hold colons and blanks, so the severity between ": " and ": " is what is looked for.
 bool Finding::fromLine(const QString& text_)
 {
-    const QStringView all(text_);
+    // Windows' programs end their lines with a carriage return, too.
+    const QStringView all = QStringView(text_).trimmed();
     const qsizetype bracket = all.lastIndexOf(u" ["_s);
     if (bracket < 0 || !all.endsWith(u']')) {
         return false;

@@ -71,6 +71,10 @@ bool Paths::isWindows(QStringView path)
 
 QString Paths::absolute(const QString& folder, const QString& path, bool windows)
 {
+#ifdef Q_OS_WIN
+    // Also in the command of a compiler that might be another system's, a drive is one here.
+    windows = windows || isWindows(path);
+#endif
     if (windows) {
         return windowsAbsolute(folder, path);
     }

@@ -73,7 +73,7 @@ private Q_SLOTS:
         const TestRows<QString, QString, int, QString> row("text", "file", "line", "id");
         row("usual", u"/a/b.c:3:14: style: Text [id]"_s, u"/a/b.c"_s, 3, u"id"_s);
         row("colons and blanks", u"/a: style: b.c:3:14: error: A: b [c]: d [id]"_s, u"/a: style: b.c"_s, 3, u"id"_s);
-        row("drive", u"C:\\a.c:3:1: warning: T [x-1.2]"_s, u"C:\\a.c"_s, 3, u"x-1.2"_s);
+        row("drive", u"C:\\a.c:3:1: warning: T [x-1.2]\r"_s, u"C:\\a.c"_s, 3, u"x-1.2"_s);
         row("no text", u"nofile:0:0: information:  [id]"_s, u"nofile"_s, 0, u"id"_s);
         row("no id", u"/a/b.c:3:14: style: Text"_s, {}, 0, {});
         row("no severity", u"/a/b.c:3:14: bad: Text [id]"_s, {}, 0, {});
@@ -92,7 +92,7 @@ private Q_SLOTS:
             QCOMPARE(finding.file, file);
             QCOMPARE(finding.line, line);
             QCOMPARE(finding.id, id);
-            QCOMPARE(finding.toLine(), text);
+            QCOMPARE(finding.toLine(), text.trimmed());
         }
     }
 };

@@ -112,7 +112,9 @@ QStringList ConvertedProject::options(const QString& file) const
         if (line.startsWith("-via "_L1)) {
             result += options(line.section(u'"', 1, 1));
         } else if (!line.startsWith("* "_L1)) {
-            result += line;
+            // Folders and headers, in whose separators the systems differ.
+            const bool isPath = line.startsWith("-i "_L1) || line.startsWith("-fi "_L1);
+            result += isPath ? QDir::fromNativeSeparators(line) : line;
         }
     }
     return result;
