@@ -24,8 +24,8 @@ void waitForAll();
 /// Nothing but force ends this process from now on.
 void ignoreRequests();
 /// As the system ends a program for a bad access, or whoever may end any program.
-[[noreturn]] void crash();
-[[noreturn]] void die();
+void crash();
+void die();
 void closeOutput();
 
 } // namespace System
