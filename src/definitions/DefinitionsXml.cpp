@@ -66,7 +66,7 @@ QString DefinitionsReader::readElementText()
     QString result;
     while (readNext() != EndElement && !hasError()) {
         if (isStartElement()) {
-            raiseError(QCoreApplication::translate("QXmlStream", "Expected character data."));
+            raiseError(u"Expected character data."_s);
         } else if (result.isEmpty() && isCharacters()) {
             result = text().toString();
         } else if (isCharacters() || isEntityReference()) {

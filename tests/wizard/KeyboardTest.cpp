@@ -16,8 +16,8 @@ class Suite : public Installation
 public:
     Suite()
     {
-        const QByteArray converter = writeScript(u"convert"_s, "echo \"$2\" > \"$1\"").toUtf8();
-        const QByteArray tool = writeScript(u"tool"_s, "touch \"$0.ran\"").toUtf8();
+        const QByteArray converter = writeChild(u"convert"_s, "write $1 $2").toUtf8();
+        const QByteArray tool = writeChild(u"tool"_s, "write $0.ran").toUtf8();
         define("<projectCreator><name>T</name><exe>" + converter +
                "</exe><exeargs>%PF %E</exeargs><orvcProject>1</orvcProject><orvcppProject>1</orvcppProject>"
                "<compilerPersonality TYPE='C'>%ORVC%/c.p_c</compilerPersonality>"

@@ -41,8 +41,7 @@ public:
             paths += field("Path " + QByteArray::number(i), "FILE");
         }
         const QByteArray go = path(u"go"_s).toUtf8();
-        const QString converter =
-            writeScript(u"convert"_s, "while [ ! -e '" + go + "' ]; do sleep 0.02; done; echo x > \"$1\"");
+        const QString converter = writeChild(u"convert"_s, "await '" + go + "'; write $1 x");
         define("<projectCreator><name>" + name + "</name><exe>" + converter.toUtf8() +
                "</exe><exeargs>%PF</exeargs><orvcProject>1</orvcProject><orvcppProject>1</orvcppProject>"
                "<compilerPersonality TYPE=\"C\">%ORVC%/c.p_c</compilerPersonality>"
