@@ -170,7 +170,8 @@ CommandLine CommandLine::read(const QStringList& arguments)
     QString name = QFileInfo(arguments.value(0)).baseName();
     QStringList rest = arguments.mid(1);
     const ToolName* tool = toolCalled(name);
-    if (!tool || !tool->isLauncher) {
+    // A copy under a launcher's name starts its own jobs, too.
+    if (!tool || !tool->isLauncher || rest.value(0) == "job"_L1) {
         name = rest.isEmpty() ? u"help"_s : rest.takeFirst();
         tool = toolCalled(name);
     }

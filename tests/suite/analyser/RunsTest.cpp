@@ -220,6 +220,9 @@ private Q_SLOTS:
         code.write(u"s.lst"_s, "* a comment\n-outputpath \"" + out + "\"\n\"" + code.path(u"one/a%2.cpp"_s).toUtf8() +
                                    "\"\n-cmaf \"" + out + "/p\"\n");
         code.write(u"odd.via"_s, "\"\n-d\n");
+        // Where there are no links it is a copy.
+        QVERIFY(QFile::remove(code.path(u"bin/orvcpp"_s)));
+        QVERIFY(QFile::copy(QStringLiteral(ORVTOOL), code.path(u"bin/orvcpp"_s)));
         QCOMPARE(code.run(u"-via odd.via -list s.lst"_s, u"orvcpp"_s).status, 0);
         QVERIFY(code.read(u"out/a%2.cpp.err"_s).contains("[arrayIndexOutOfBounds]"));
         QVERIFY(code.read(u"out/a%2.cpp.met"_s).startsWith("<S>STWMC "));
