@@ -140,15 +140,9 @@ void check(const QCommandLineParser& parser, Arguments& arguments)
     arguments.absolutePaths = paths == "absolute"_L1;
 }
 
-} // namespace
-
-Arguments Arguments::parse(const QStringList& commandLine)
+/// Ends the program when it was only asked about itself.
+void answerQuestions(const QCommandLineParser& parser)
 {
-    QCommandLineParser parser;
-    declare(parser);
-    if (!parser.parse(commandLine)) {
-        throw wrong(parser.errorText());
-    }
     if (parser.isSet(u"help"_s)) {
         // QCommandLineParser would open a window where Windows sees no console.
         print(stdout, parser.helpText().chopped(1));
@@ -158,6 +152,18 @@ Arguments Arguments::parse(const QStringList& commandLine)
         print(stdout, QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion());
         std::exit(0);
     }
+}
+
+} // namespace
+
+Arguments Arguments::parse(const QStringList& commandLine)
+{
+    QCommandLineParser parser;
+    declare(parser);
+    if (!parser.parse(commandLine)) {
+        throw wrong(parser.errorText());
+    }
+    answerQuestions(parser);
     Arguments arguments;
     arguments.compileCommands = parser.value(u"compile-commands"_s);
     arguments.sourceFolder = parser.value(u"source-folder"_s);

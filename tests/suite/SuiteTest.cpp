@@ -44,6 +44,30 @@ public:
     }
 };
 
+/// Two sources and the database that builds them, which it gives.
+QString writeCode(const InstalledSuite& suite)
+{
+    suite.write(u"work/code/größe a.cpp"_s, "int f()\n{\n    int values[2];\n    return values[INDEX];\n}\n");
+    suite.write(u"work/code/lib/b.cpp"_s, "int g() { return 0; }\n");
+    return suite.write(u"work/db.json"_s,
+                       R"([{"file": "code/größe a.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]},
+            {"file": "code/lib/b.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]}])");
+}
+
+void verifyProject(const InstalledSuite& suite)
+{
+    const QByteArray written =
+        suite.read(u"work/new folder/own code.prj"_s) + suite.read(u"work/new folder/own code.options.p_a"_s);
+    QVERIFY2(written.startsWith("VersionTag"), written);
+    for (const QString& lines :
+         {u"name=own code\nsourceDir="_s + suite.path(u"work/code"_s), u"*project=ORVCPP\ngröße a.cpp"_s,
+          u"messagePersonality="_s + suite.path(u"orvcpp/personalities/default.p_s"_s),
+          u"name=lib\nsourceDir="_s + suite.path(u"work/code/lib"_s), u"b.cpp"_s,
+          u"-d INDEX=7\n-d DEMO=<1>\n-d SECOND\n-i \""_s + suite.path(u"work/an include"_s) + u"\""_s}) {
+        QVERIFY2(written.contains('\n' + lines.toUtf8() + '\n'), written);
+    }
+}
+
 constexpr auto databaseType = "CMake compile_commands.json"_L1;
 
 } // namespace
@@ -58,12 +82,7 @@ private Q_SLOTS:
     void fromABuildToAReport()
     {
         InstalledSuite suite;
-        suite.write(u"work/code/größe a.cpp"_s, "int f()\n{\n    int values[2];\n    return values[INDEX];\n}\n");
-        suite.write(u"work/code/lib/b.cpp"_s, "int g() { return 0; }\n");
-        const QString database =
-            suite.write(u"work/db.json"_s,
-                        R"([{"file": "code/größe a.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]},
-                {"file": "code/lib/b.cpp", "arguments": ["c++", "-DINDEX=7", "-Ian include"]}])");
+        const QString database = writeCode(suite);
         const AppRegistry& registry = suite.start();
         WizardDriver wizard;
         BoxAnswers boxes({QMessageBox::Yes, QMessageBox::No, QMessageBox::Yes});
@@ -81,16 +100,7 @@ private Q_SLOTS:
         wizard.press(QWizard::NextButton);
         QTRY_COMPARE_WITH_TIMEOUT(wizard.window.currentId(), int(DisplayOptionsPageId), 30000);
 
-        const QByteArray written =
-            suite.read(u"work/new folder/own code.prj"_s) + suite.read(u"work/new folder/own code.options.p_a"_s);
-        QVERIFY2(written.startsWith("VersionTag"), written);
-        for (const QString& lines :
-             {u"name=own code\nsourceDir="_s + suite.path(u"work/code"_s), u"*project=ORVCPP\ngröße a.cpp"_s,
-              u"messagePersonality="_s + suite.path(u"orvcpp/personalities/default.p_s"_s),
-              u"name=lib\nsourceDir="_s + suite.path(u"work/code/lib"_s), u"b.cpp"_s,
-              u"-d INDEX=7\n-d DEMO=<1>\n-d SECOND\n-i \""_s + suite.path(u"work/an include"_s) + u"\""_s}) {
-            QVERIFY2(written.contains('\n' + lines.toUtf8() + '\n'), written);
-        }
+        verifyProject(suite);
         if (!hasAnalyser) {
             QSKIP("the report needs cppcheck");
         }

@@ -14,7 +14,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-Words self;
+// The program's name and its arguments.
+Words& self()
+{
+    static Words words;
+    return words;
+}
 
 fs::path pathOf(const std::string& text)
 {
@@ -32,8 +37,8 @@ std::string valueOf(const std::string& name)
 {
     if (name == "*") {
         std::string all;
-        for (std::size_t i = 1; i < self.size(); ++i) {
-            all += (i == 1 ? "" : " ") + self[i];
+        for (std::size_t i = 1; i < self().size(); ++i) {
+            all += (i == 1 ? "" : " ") + self()[i];
         }
         return all;
     }
@@ -43,7 +48,7 @@ std::string valueOf(const std::string& name)
     }
     if (name >= "0" && name <= "9") {
         const auto number = std::size_t(name[0] - '0');
-        return number < self.size() ? self[number] : std::string();
+        return number < self().size() ? self()[number] : std::string();
     }
     return System::variable(name);
 }
@@ -172,7 +177,7 @@ void run(const std::string& text);
 
 void start(System::Place place, const Words& words)
 {
-    System::start(place, self, words.at(1), [&words] { run(words[1]); });
+    System::start(place, self(), words.at(1), [&words] { run(words[1]); });
 }
 
 using Verbs = std::map<std::string, std::function<void(const Words&)>>;
@@ -253,11 +258,11 @@ void run(const std::string& text)
 // Does what the file of verbs beside it says, in place of the programs that the product starts.
 int main(int argc, char** argv)
 {
-    self = System::commandLine(argc, argv);
-    std::string text = contentsOf(self[0] + ".verbs");
-    if (self.size() > 2 && self[1] == "--verbs") {
-        text = self[2];
-        self.erase(self.begin() + 1, self.begin() + 3);
+    self() = System::commandLine(argc, argv);
+    std::string text = contentsOf(self()[0] + ".verbs");
+    if (self().size() > 2 && self()[1] == "--verbs") {
+        text = self()[2];
+        self().erase(self().begin() + 1, self().begin() + 3);
     }
     run(text);
     return 0;
