@@ -124,7 +124,9 @@ void HelpManager::show(const QUrl& page)
     QWidget* modal = QApplication::activeModalWidget();
     QWidget* owner = modal ? modal : qobject_cast<QWidget*>(parent());
     if (viewer && viewer->parentWidget() != owner) {
-        delete viewer;
+        viewer->hide();
+        viewer->deleteLater();
+        viewer.clear();
     }
     if (!viewer) {
         viewer = new HelpViewer(*collection, owner);
