@@ -30,6 +30,12 @@ PageScrollArea::PageScrollArea(QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focused) { showFocus(focused); });
 }
 
+PageScrollArea::~PageScrollArea()
+{
+    // A widget that goes takes the focus with it when it is no longer this one.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize PageScrollArea::bounded(const QSize& wanted) const
 {
     const QSize available = screen()->availableSize();

@@ -13,6 +13,8 @@ public:
     /// Fills the page with an area; gives the widget in it that holds the page's controls.
     static QWidget* fill(QWidget& page);
 
+    ~PageScrollArea() override;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     bool eventFilter(QObject* object, QEvent* event) override;
