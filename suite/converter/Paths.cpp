@@ -37,7 +37,8 @@ QString cleaned(const QString& path)
     if (path.startsWith("//"_L1)) {
         return u'/' + QDir::cleanPath(path.sliced(1));
     }
-    return QDir::cleanPath(path);
+    // No ".." leaves a drive.
+    return startsWithDrive(path) ? path.first(2) + QDir::cleanPath(path.sliced(2)) : QDir::cleanPath(path);
 }
 
 QString windowsAbsolute(const QString& folder, QString path)
