@@ -156,5 +156,5 @@ void BatchLauncher::passOutputOn()
 
 void BatchLauncher::showOutput()
 {
-    terminal.add(decoder(process.readAllStandardOutput()));
+    terminal.add(decoder.decode(process.readAllStandardOutput()));
 }

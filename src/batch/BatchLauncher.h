@@ -4,10 +4,10 @@
 #include "batch/TerminalOutput.h"
 #include "personality/Result.h"
 #include "process/ChildProcess.h"
+#include "process/OutputDecoder.h"
 #include "project/Project.h"
 
 #include <QObject>
-#include <QStringDecoder>
 
 struct ApplicationRecord;
 struct BatchArguments;
@@ -33,7 +33,7 @@ private:
 
     ChildProcess process;
     TerminalOutput terminal;
-    QStringDecoder decoder{QStringDecoder::System};
+    OutputDecoder decoder;
     Project project;
     bool stopped = false;
 };
