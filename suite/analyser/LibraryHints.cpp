@@ -12,12 +12,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A library is used where one of these matches a whole macro name, or a whole folder name of an include path.
+/// A library is used where one of these matches a whole macro name, or a whole folder name of an include path; one that
+/// tests are written with also where a source includes something from such a folder.
 struct Hint
 {
     const char* library;
     const char* macros;
     const char* folders;
+    const char* includes = "";
 };
 
 constexpr std::array hints = {
@@ -27,7 +29,7 @@ constexpr std::array hints = {
     Hint{"windows", "_WIN32|WIN32|_WIN64|_WINDOWS", ""},
     Hint{"mfc", "_AFXDLL", ""},
     Hint{"qt", "QT_[A-Z]+_LIB|QT_VERSION|QT_DLL", "qt[456]?|Qt(Core|Gui|Widgets)?(\\.framework)?"},
-    Hint{"boost", "BOOST_[A-Z0-9_]+", "boost.*"},
+    Hint{"boost", "BOOST_[A-Z0-9_]+", "boost.*", "boost/test"},
     Hint{"gtk", "G_LOG_DOMAIN|GDK_[A-Z_]+|GTK_[A-Z_]+|GLIB_[A-Z_]+", "gtk-[234]\\.0|glib-2\\.0"},
     Hint{"wxwidgets", "__WX[A-Z]+__|wxUSE_GUI", "wx-?[0-9.]+"},
     Hint{"kde", "KCOREADDONS_LIB|K[A-Z]+_LIB", "KF[56]"},
@@ -39,26 +41,13 @@ constexpr std::array hints = {
     Hint{"openssl", "OPENSSL_[A-Z_]+", "openssl.*"},
     Hint{"libcurl", "CURL_STATICLIB", "curl"},
     Hint{"sqlite3", "SQLITE_[A-Z_]+", "sqlite3?"},
-    Hint{"googletest", "GTEST_[A-Z_]+", "gtest|googletest.*"},
+    Hint{"googletest", "GTEST_[A-Z_]+", "gtest|googletest.*", "gtest|gmock"},
+    Hint{"cppunit", "", "", "cppunit"},
     Hint{"cairo", "", "cairo"},
     Hint{"icu", "U_[A-Z]+_IMPLEMENTATION", "icu"},
     Hint{"libsigc++", "", "sigc\\+\\+-[0-9.]+"},
     Hint{"dpdk", "RTE_[A-Z_]+", "dpdk"},
     Hint{"openmp", "_OPENMP", ""},
-};
-
-struct Framework
-{
-    const char* library;
-    /// The beginning of its headers' names.
-    QByteArrayView headers;
-};
-
-constexpr std::array frameworks = {
-    Framework{"googletest", "gtest/"},
-    Framework{"googletest", "gmock/"},
-    Framework{"cppunit", "cppunit/"},
-    Framework{"boost", "boost/test/"},
 };
 
 /// What Qt calls a system that the compiler predefines one of these for.
@@ -160,15 +149,11 @@ QStringList LibraryHints::testFrameworks(const QString& source)
     constexpr qint64 head = 65536;
     QStringList result;
     QFile file(source);
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.read(head) : QByteArray();
-    for (const Framework& framework : frameworks) {
-        const qsizetype at = text.indexOf(framework.headers);
-        if (at <= 0 || !QByteArrayView("<\"").contains(text[at - 1])) {
-            continue;
-        }
-        const QString library = QString::fromLatin1(framework.library);
-        if (!result.contains(library)) {
-            result += library;
+    const QString text = file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.read(head)) : QString();
+    for (const Hint& hint : hints) {
+        const QRegularExpression include(u"[<\"](%1)/"_s.arg(QLatin1StringView(hint.includes)));
+        if (*hint.includes && text.contains(include)) {
+            result += QString::fromLatin1(hint.library);
         }
     }
     return result;
