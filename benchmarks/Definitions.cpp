@@ -46,9 +46,7 @@ int main(int argc, char** argv)
             ++tokens;
         }
     };
-    const long before = Ratio::residentBytes();
-    ours();
-    const long bytes = Ratio::residentBytes() - before;
+    const long bytes = Ratio::bytesOf(ours);
     const QByteArray name = "reading a definitions file of " + QByteArray::number(size) + " bytes";
     const auto [ms, missed] = Ratio::measure(name.constData(), 1.5, ours, bare);
     Ratio::reportCost(size, ms, bytes);

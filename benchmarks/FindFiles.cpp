@@ -41,11 +41,9 @@ int main(int argc, char** argv)
         found = find.readAllStandardOutput().count('\n');
     };
     const QByteArray name = "find over " + QByteArray::number(files) + " files";
-    const long before = Ratio::residentBytes();
-    dialog.findButtonClicked();
-    const long bytes = Ratio::residentBytes() - before;
-    const auto [ms, missed] = Ratio::measure(
-        name.constData(), 1.25, [&] { dialog.findButtonClicked(); }, bare);
+    const auto ours = [&] { dialog.findButtonClicked(); };
+    const long bytes = Ratio::bytesOf(ours);
+    const auto [ms, missed] = Ratio::measure(name.constData(), 1.25, ours, bare);
     Ratio::reportCost(files, ms, bytes);
     return found == files / 2 && dialog.findChild<QListWidget*>()->count() == found ? missed : 1;
 }

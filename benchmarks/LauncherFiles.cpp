@@ -31,9 +31,7 @@ int main(int argc, char** argv)
         QFile file(arguments.value.first());
         list = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
-    const long before = Ratio::residentBytes();
-    ours();
-    const long bytes = Ratio::residentBytes() - before;
+    const long bytes = Ratio::bytesOf(ours);
     int found = 0;
     const auto bare = [&] {
         for (const QByteArray& name : large.outputs) {

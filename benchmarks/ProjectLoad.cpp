@@ -22,9 +22,8 @@ int main(int argc, char** argv)
     if (!large.create(sandbox.path(u"project"_s), files)) {
         return 1;
     }
-    const long before = Ratio::residentBytes();
-    auto kept = std::make_unique<Project>(large.projectFile);
-    const long bytes = Ratio::residentBytes() - before;
+    std::unique_ptr<Project> kept;
+    const long bytes = Ratio::bytesOf([&] { kept = std::make_unique<Project>(large.projectFile); });
     kept.reset();
     int loaded = 0;
     const auto ours = [&] { loaded = Project(large.projectFile).root.fileCount(); };

@@ -42,6 +42,15 @@ inline long residentBytes()
     return resident * ::sysconf(_SC_PAGESIZE);
 }
 
+/// By how much the work makes that grow.
+template <typename Work>
+long bytesOf(Work&& work)
+{
+    const long before = residentBytes();
+    work();
+    return residentBytes() - before;
+}
+
 /// What the work takes for each item, for those who look how it grows.
 inline void reportCost(int items, double ms, long bytes)
 {

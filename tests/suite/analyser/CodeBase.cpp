@@ -46,8 +46,7 @@ CodeBase::CodeBase()
 
 void CodeBase::replaceProgram(const QString& name, const QByteArray& script) const
 {
-    QFile::setPermissions(write(u"bin/"_s + name, "#!/bin/sh\n" + script),
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    writeChild(u"bin/"_s + name, "#!" + script);
 }
 
 CodePart CodeBase::overrunning(const QStringList& files, const QByteArray& head) const
