@@ -62,7 +62,7 @@ DisplayDialog::DisplayDialog(AppRegistry& owner, const QString& title, int displ
     // Its title and its buttons have to stay on a small screen.
     const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     setMinimumSize(QSize(width, height).boundedTo(screen()->availableSize() - frame));
-    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
+    setWindowIcon(MainWindow::icon());
     auto* grid = new QGridLayout(this);
     createView(*grid);
     createButtons(*grid);

@@ -107,7 +107,7 @@ FindDialog::FindDialog(const QString& searchStart, QWidget* parent)
 {
     setWindowTitle(tr("Search for file"));
     setWindowFlags(MainWindow::frame());
-    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
+    setWindowIcon(MainWindow::icon());
     setMinimumWidth(500);
     labelFiles(nameFilters.join(u' '));
     filesLabel->setTextFormat(Qt::PlainText);

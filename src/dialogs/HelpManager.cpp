@@ -84,21 +84,23 @@ bool HelpManager::eventFilter(QObject* /*object*/, QEvent* event)
 
 QUrl HelpManager::find(const QString& helpPage)
 {
+    const QString language = Translations::language();
+    const QUrl own = language.isEmpty() ? QUrl() : findPath(pathOf(registry, language + u'/' + helpPage));
+    return own.isEmpty() ? findPath(pathOf(registry, helpPage)) : own;
+}
+
+QUrl HelpManager::findPath(const QString& path)
+{
     if (!collection) {
         collection = std::make_unique<HelpCollection>(profile(registry));
     }
-    const QString language = Translations::language();
-    const QUrl own = language.isEmpty() ? QUrl() : collection->find(pathOf(registry, language + u'/' + helpPage));
-    return own.isEmpty() ? collection->find(pathOf(registry, helpPage)) : own;
+    const QUrl address(path);
+    return address.scheme() == "qthelp"_L1 ? address : collection->find(path);
 }
 
 void HelpManager::slt_showHelp(const QString& helpPage, bool fullPath)
 {
-    const QUrl address(helpPage);
-    QUrl url = fullPath && address.scheme() == "qthelp"_L1 ? address : find(helpPage);
-    if (fullPath && url != address) {
-        url = collection->find(helpPage);
-    }
+    const QUrl url = fullPath ? findPath(helpPage) : find(helpPage);
     if (url.isEmpty()) {
         const QString page = fullPath ? helpPage : pathOf(registry, helpPage);
         slt_showError(tr("The help page %1 is not there. Install the suite's help again.").arg(page));

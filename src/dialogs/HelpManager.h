@@ -47,6 +47,8 @@ public Q_SLOTS:
 
 private:
     static QString profile(const AppRegistry& registry);
+    /// Where the page of this path or address is shown from.
+    QUrl findPath(const QString& path);
     void show(const QUrl& page);
 
     const AppRegistry& registry;

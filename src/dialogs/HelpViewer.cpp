@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/HelpViewer.h"
 #include "dialogs/HelpCollection.h"
+#include "dialogs/MainWindow.h"
 
 #include <QDialogButtonBox>
 #include <QIcon>
-#include <QPixmap>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QUrl>
@@ -41,7 +41,7 @@ HelpViewer::HelpViewer(const HelpCollection& collection, QWidget* parent)
     , browser(new HelpBrowser(collection))
 {
     setWindowTitle(tr("Help"));
-    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
+    setWindowIcon(MainWindow::icon());
     browser->setAccessibleName(windowTitle());
     resize(700, 550);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);

@@ -2,9 +2,13 @@
 #include "dialogs/MainWindow.h"
 
 #include <QCoreApplication>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPixmap>
 #include <QPointer>
 #include <QWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -43,6 +47,12 @@ Qt::WindowFlags MainWindow::frame()
 #else
     return given;
 #endif
+}
+
+QIcon MainWindow::icon()
+{
+    // With its format named, Qt does not load every plugin to find out.
+    return QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM");
 }
 
 void MainWindow::set(QWidget* window)

@@ -3,6 +3,7 @@
 
 #include <Qt>
 
+class QIcon;
 class QKeyEvent;
 class QWidget;
 
@@ -16,5 +17,7 @@ void set(QWidget* window);
 bool takesHelpKey(const QKeyEvent& event);
 /// What the frames of the program's windows hold.
 Qt::WindowFlags frame();
+/// What stands in the title bars of the program's windows.
+QIcon icon();
 
 } // namespace MainWindow

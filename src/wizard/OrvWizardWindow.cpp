@@ -43,8 +43,7 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     MainWindow::set(this);
     HelpManager::currentHelpPage = helpPage;
     setWizardStyle(QWizard::ModernStyle);
-    // With its format named, Qt does not load every plugin to find out.
-    setWindowIcon(QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM"));
+    setWindowIcon(MainWindow::icon());
     setPixmap(QWizard::LogoPixmap, Logo::on(palette().color(QPalette::Base)));
     setWindowFlags(MainWindow::frame());
     setOptions(QWizard::HaveCustomButton1 | QWizard::NoBackButtonOnLastPage | QWizard::NoBackButtonOnStartPage);

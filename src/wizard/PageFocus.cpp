@@ -41,7 +41,10 @@ void PageFocus::enter(const OrvBasicWizardPage& page)
     const QList<QWidget*> stops = ReadingOrder::of(page);
     const auto first = std::ranges::find_if(
         stops, [&page](const QWidget* stop) { return stop->isVisibleTo(&page) && stop->isEnabled(); });
-    QWidget* target = page.firstField() ? page.firstField() : first == stops.end() ? nullptr : *first;
+    QWidget* target = page.firstField();
+    if (!target && first != stops.end()) {
+        target = *first;
+    }
     if (target) {
         target->setFocus();
         focusChecked(*target);
