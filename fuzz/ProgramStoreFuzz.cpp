@@ -24,7 +24,11 @@ const QByteArray& definitions()
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const StoreFolder folder({{u"ProjectCreation"_s, Sandbox::bytes(data, size)}});
+    const QByteArray text = Sandbox::bytes(data, size);
+    if (StoreFolder::holdsBinaryValues(text)) {
+        return 0;
+    }
+    const StoreFolder folder({{u"ProjectCreation"_s, text}});
     AppRegistry registry;
     appRegistry = &registry;
     KOVRASettingsFile types;

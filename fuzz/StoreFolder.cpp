@@ -31,3 +31,8 @@ StoreFolder::~StoreFolder()
 {
     QDir(Sandbox::path(name)).removeRecursively();
 }
+
+bool StoreFolder::holdsBinaryValues(const QByteArray& store)
+{
+    return QByteArray(store).replace("@Variant(\\0\\0\\0\\b\\0\\0\\0\\0)", "").contains("Variant(");
+}

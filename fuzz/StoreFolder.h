@@ -15,6 +15,10 @@ public:
     StoreFolder(const StoreFolder&) = delete;
     StoreFolder& operator=(const StoreFolder&) = delete;
 
+    /// Whether a store holds values in Qt's binary form other than the empty map. Qt takes the counts of its lists on
+    /// trust and ends the process when there is no memory for them.
+    static bool holdsBinaryValues(const QByteArray& store);
+
 private:
     const QString name;
 };

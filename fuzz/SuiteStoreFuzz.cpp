@@ -27,6 +27,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static AppRegistry registry;
     appRegistry = &registry;
     const QByteArray store = Sandbox::bytes(data, size);
+    if (StoreFolder::holdsBinaryValues(store)) {
+        return 0;
+    }
     const StoreFolder folder({{u"WendleTools"_s, store}, {u"Orv C Source Code Analyser"_s, store}});
     PersistedValues values;
     values.Read(u"/suite/bin/ProjectCreation"_s);
