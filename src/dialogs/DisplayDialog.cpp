@@ -149,6 +149,10 @@ void DisplayDialog::openFindBar()
             textView ? textView->moveCursor(where) : htmlView->moveCursor(where);
         };
         findBar = new FindBar(find, move);
+        if (portions) {
+            findBar->setComplete(portions->isDone());
+            connect(portions, &TextPortions::completed, findBar, [this] { findBar->setComplete(true); });
+        }
         auto* grid = static_cast<QGridLayout*>(layout());
         grid->addWidget(findBar, htmlView ? 2 : 1, 0, 1, htmlView ? 2 : 1);
     }
@@ -158,6 +162,9 @@ void DisplayDialog::openFindBar()
 void DisplayDialog::SetText(const QString& text)
 {
     if (portions) {
+        if (findBar) {
+            findBar->setComplete(false);
+        }
         portions->show(text);
     } else if (messageLabel) {
         messageLabel->setText(text);

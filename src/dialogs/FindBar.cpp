@@ -33,7 +33,7 @@ FindBar::FindBar(Finder finder, Mover mover, QWidget* parent)
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [this, backward = button == previous] { find(backward); });
     }
-    connect(edit, &QLineEdit::textChanged, result, &QLabel::clear);
+    connect(edit, &QLineEdit::textChanged, this, &FindBar::clearResult);
 }
 
 void FindBar::open()
@@ -46,7 +46,7 @@ void FindBar::open()
 void FindBar::find(bool backward)
 {
     const QString words = edit->text();
-    result->clear();
+    clearResult();
     if (words.isEmpty()) {
         return;
     }
@@ -54,9 +54,28 @@ void FindBar::find(bool backward)
     if (findWords(words, flags)) {
         return;
     }
+    if (!isComplete && !backward) {
+        isWaiting = true;
+        result->setText(tr("Not found yet. The text is still being read."));
+        return;
+    }
     moveCursor(backward);
     result->setText(findWords(words, flags) ? (backward ? tr("Went on at the end.") : tr("Went on at the beginning."))
                                             : tr("Not found."));
+}
+
+void FindBar::setComplete(bool complete)
+{
+    isComplete = complete;
+    if (isWaiting && isComplete) {
+        find(false);
+    }
+}
+
+void FindBar::clearResult()
+{
+    isWaiting = false;
+    result->clear();
 }
 
 // Enter finds, with Shift backwards; Escape closes the bar, not the window.

@@ -10,7 +10,8 @@
 class QLabel;
 class QLineEdit;
 
-/// A line below a text view that finds words in it; at the end it goes on at the beginning.
+/// A line below a text view that finds words in it; at the end it goes on at the beginning. While the text is still
+/// being read, a search waits for the words instead.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -26,13 +27,19 @@ public:
     /// Appears with the words selected.
     void open();
     void find(bool backward);
+    /// Whether the view has the whole text by now; a search that waits for words goes on.
+    void setComplete(bool complete);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void clearResult();
+
     Finder findWords;
     Mover moveCursor;
     QLineEdit* edit;
     QLabel* result;
+    bool isComplete = true;
+    bool isWaiting = false;
 };

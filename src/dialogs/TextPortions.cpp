@@ -110,6 +110,7 @@ void TextPortions::appendPortion()
         timer.stop();
         pending.clear();
         position = 0;
+        Q_EMIT completed();
         return;
     }
     const qsizetype end = portionEnd(pending, position);

@@ -28,10 +28,14 @@ public:
     void show(std::unique_ptr<QIODevice> device);
     /// Adds all that is still missing.
     void finish();
+    bool isDone() const { return position >= pending.size() && !source; }
+
+Q_SIGNALS:
+    /// The view holds all that it will.
+    void completed();
 
 private:
     void restart();
-    bool isDone() const { return position >= pending.size() && !source; }
     void appendSome();
     void appendPortion();
     void refill();

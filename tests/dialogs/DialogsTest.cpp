@@ -208,6 +208,10 @@ private Q_SLOTS:
         words.setText(u"three"_s);
         QTest::keyClick(&words, Qt::Key_Return);
         QVERIFY(findControl(dialog, u"Not found."_s));
+        // While the text is still coming, it waits for the words.
+        dialog.SetText(u"line\n"_s.repeated(100'000) + u"three"_s);
+        QTest::keyClick(&words, Qt::Key_Return);
+        QTRY_COMPARE(view.textCursor().selectedText(), u"three"_s);
         QTest::keyClick(&words, Qt::Key_F1);
         QCOMPARE(helpKeys.count, 1);
         // Escape closes the bar first.

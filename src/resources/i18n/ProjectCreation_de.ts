@@ -1473,6 +1473,10 @@ Wählen Sie einen anderen Namen, oder einen Ordner, in dem Sie Dateien anlegen d
         <translation>Nicht gefunden.</translation>
     </message>
     <message>
+        <source>Not found yet. The text is still being read.</source>
+        <translation>Noch nicht gefunden. Der Text wird noch gelesen.</translation>
+    </message>
+    <message>
         <source>&amp;Next</source>
         <translation>&amp;Weiter</translation>
     </message>
