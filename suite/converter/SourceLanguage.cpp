@@ -81,26 +81,26 @@ SourceLanguage languageOfName(QStringView name)
     return names().value(name.toString(), SourceLanguage::Other);
 }
 
-QString pluralOf(SourceLanguage language)
+QString nameOf(SourceLanguage language)
 {
     switch (language) {
     case SourceLanguage::C:
-        return u"C sources"_s;
+        return u"C source"_s;
     case SourceLanguage::Cpp:
-        return u"C++ sources"_s;
+        return u"C++ source"_s;
     case SourceLanguage::Header:
-        return u"headers"_s;
+        return u"header"_s;
     case SourceLanguage::Assembler:
-        return u"assembler sources"_s;
+        return u"assembler source"_s;
     case SourceLanguage::Resource:
-        return u"resources"_s;
+        return u"resource"_s;
     case SourceLanguage::Cuda:
-        return u"CUDA sources"_s;
+        return u"CUDA source"_s;
     case SourceLanguage::ObjectiveC:
-        return u"Objective-C sources"_s;
+        return u"Objective-C source"_s;
     case SourceLanguage::Unknown:
     case SourceLanguage::Other:
         break;
     }
-    return u"files of other languages"_s;
+    return u"other file"_s;
 }

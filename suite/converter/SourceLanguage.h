@@ -15,5 +15,5 @@ SourceLanguage languageOfFile(QStringView fileName, bool windows);
 /// What a GNU -x option names; Unknown for "none".
 SourceLanguage languageOfName(QStringView name);
 
-/// What such files are called in a summary: "headers", "assembler sources" …
-QString pluralOf(SourceLanguage language);
+/// What such a file is called in a summary, "header", "assembler source" …, its plural with an s.
+QString nameOf(SourceLanguage language);

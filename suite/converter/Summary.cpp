@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Summary.h"
 #include "Arguments.h"
+#include "Counted.h"
 #include "Output.h"
 #include "ProjectSources.h"
 #include "ProjectTree.h"
@@ -54,20 +55,22 @@ void Summary::print(const ProjectTree& tree, const QHash<int, CompilerPersonalit
 void Summary::printFiles() const
 {
     if (kept.duplicates > 0) {
-        say(u"%1 files are listed more than once"_s.arg(kept.duplicates));
+        say(u"%1 listed more than once"_s.arg(counted(kept.duplicates, u"file is"_s, u"files are"_s)));
     }
     for (auto kind = kept.noSources.cbegin(); kind != kept.noSources.cend(); ++kind) {
-        say(u"%1 %2 are left out: no C or C++ sources"_s.arg(kind.value()).arg(pluralOf(kind.key())));
+        const QString name = nameOf(kind.key());
+        say(u"%1 left out: no C or C++ source"_s.arg(counted(kind.value(), name + u" is"_s, name + u"s are"_s)));
     }
     if (kept.otherLanguage > 0) {
-        say(u"%1 files are left out: another language"_s.arg(kept.otherLanguage));
+        say(u"%1 left out: another language"_s.arg(counted(kept.otherLanguage, u"file is"_s, u"files are"_s)));
     }
     if (kept.leftOut > 0) {
-        say(u"%1 files are left out: they match the patterns"_s.arg(kept.leftOut));
+        say(u"%1 left out by the patterns"_s.arg(counted(kept.leftOut, u"file is"_s, u"files are"_s)));
     }
     if (kept.missing > 0) {
-        say(u"warning: %1 files do not exist%2, the first is %3"_s.arg(kept.missing)
-                .arg(arguments.keepMissing ? u""_s : u" and are left out"_s, kept.firstMissing));
+        say(u"warning: %1 not exist%2, the first is %3"_s.arg(counted(kept.missing, u"file does"_s, u"files do"_s),
+                                                              arguments.keepMissing ? u""_s : u" and are left out"_s,
+                                                              kept.firstMissing));
     }
 }
 
@@ -77,9 +80,8 @@ void Summary::printLog(const WrittenProject& written) const
     entries.removeIf([](const ConversionLog::Entry& entry) { return entry.count == 0; });
     std::ranges::stable_sort(entries, std::greater(), &ConversionLog::Entry::count);
     for (const ConversionLog::Entry& entry : entries.mid(0, mostLines)) {
-        say(u"warning: left out: %1, in %2 places, the first is %3"_s.arg(entry.text)
-                .arg(entry.count)
-                .arg(entry.places.value(0)));
+        say(u"warning: left out: %1, in %2, the first is %3"_s.arg(entry.text, counted(entry.count, u"place"_s),
+                                                                   entry.places.value(0)));
     }
     if (!written.logFile.isEmpty()) {
         say(u"All that is left out is listed in %1"_s.arg(written.logFile));
@@ -104,11 +106,10 @@ void Summary::printTotals(const ProjectTree& tree) const
             }
         }
     }
-    say(u"Project %1: %2 source files, %3 sub-projects, %4 sets of options, %5 include folders, %6 defines"_s
-            .arg(tree.root.name)
-            .arg(tree.fileCount())
-            .arg(tree.parts.size())
-            .arg(sets.size())
-            .arg(folders.size())
-            .arg(defines.size()));
+    say(u"Project %1: %2"_s.arg(
+        tree.root.name,
+        QStringList{counted(tree.fileCount(), u"source file"_s), counted(tree.parts.size(), u"sub-project"_s),
+                    counted(sets.size(), u"set of options"_s, u"sets of options"_s),
+                    counted(folders.size(), u"include folder"_s), counted(defines.size(), u"define"_s)}
+            .join(u", "_s)));
 }

@@ -3,7 +3,9 @@
 
 #include <QTest>
 
-/// The columns of a data-driven test, by type and name; each call adds a row.
+#include <tuple>
+
+/// The columns of a data-driven test, by type and name; each call adds a row. Values left out at its end are empty.
 template <typename... Columns>
 class TestRows
 {
@@ -13,4 +15,9 @@ class TestRows
 public:
     explicit TestRows(Name<Columns>... names) { (QTest::addColumn<Columns>(names), ...); }
     void operator()(const char* name, const Columns&... values) const { (QTest::newRow(name) << ... << values); }
+    template <typename... First>
+    requires(sizeof...(First) < sizeof...(Columns)) void operator()(const char* name, const First&... first) const
+    {
+        (*this)(name, first..., std::tuple_element_t<sizeof...(First), std::tuple<Columns...>>());
+    }
 };

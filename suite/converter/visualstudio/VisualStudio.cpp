@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "VisualStudio.h"
+#include "../Counted.h"
 #include "../Failure.h"
 #include "../Notices.h"
 #include "ClCommand.h"
@@ -139,8 +140,9 @@ private:
                          .target = name,
                          .windows = true};
         }
-        notices.say(u"%1: %2 sources as %3"_s.arg(name).arg(commands.size()).arg(configuration.text()) +
-                    (excluded > 0 ? u", %1 are excluded from the build"_s.arg(excluded) : QString()));
+        const QString others = counted(excluded, u"is"_s, u"are"_s) + u" excluded from the build"_s;
+        notices.say(u"%1: %2 as %3"_s.arg(name, counted(commands.size(), u"source"_s), configuration.text()) +
+                    (excluded > 0 ? u", "_s + others : QString()));
         return commands;
     }
 

@@ -52,7 +52,7 @@ private Q_SLOTS:
         row("response file in itself", u"cc @self.rsp -c a.c"_s, u"@self.rsp: the file leads back to itself"_s);
         row("open quote in a response file", u"cc @open.rsp -c a.c"_s, u"@open.rsp: a quote is not closed"_s);
         row("other folder", u"cd sub && cc -c a.c"_s, u"cd sub (that the command changes its folder)"_s);
-        row("open quote", u"cc -DX='a -c a.c"_s, u"has a quote that is not closed, in 1 places, the first is"_s);
+        row("open quote", u"cc -DX='a -c a.c"_s, u"has a quote that is not closed, in 1 place, the first is"_s);
     }
 
     void saysWhatItLeavesOut()

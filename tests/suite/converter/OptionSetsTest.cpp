@@ -58,9 +58,9 @@ private Q_SLOTS:
                                         u""_s,
                                         u""_s};
         const ProgramResult result = project.convertDatabase(personalities);
-        QVERIFY2(result.output.contains(
-                     "2 source files, 1 sub-projects, 1 sets of options, 1 include folders, 1 defines"_L1),
-                 qPrintable(result.output + result.errors));
+        QVERIFY2(
+            result.output.contains("2 source files, 1 sub-project, 1 set of options, 1 include folder, 1 define"_L1),
+            qPrintable(result.output + result.errors));
         QCOMPARE(QString::fromUtf8(project.read(u"work/p.prj"_s)),
                  QString::fromUtf8(wholeProject).arg(project.path(u"work"_s)));
         QVERIFY(!QFile::exists(project.work(u"p.options"_s)));
@@ -118,7 +118,7 @@ private Q_SLOTS:
             {"file": "s/b.c", "command": "cc -DSHARED -c s/b.c -o sub/four.so.p/b.c.o"},
             {"file": "c.c", "command": "cc -DSHARED -c c.c"}])");
         const ProgramResult result = project.convertDatabase();
-        QVERIFY2(result.output.contains("1 files are listed more than once"_L1), qPrintable(result.output));
+        QVERIFY2(result.output.contains("1 file is listed more than once"_L1), qPrintable(result.output));
         QStringList told;
         for (const ConvertedProject::Part& part : project.parts()) {
             told += part.name + u": "_s + part.files.join(u' ') + u' ' + project.options(part.analyser).constLast();

@@ -58,8 +58,8 @@ private Q_SLOTS:
             {"file": "o.c", "command": "cc -x assembler-with-cpp -c o.c"},
             {"file": "p.hxx", "command": "c++ -x c++-header -c p.hxx"}])");
         ProgramResult result = project.convertDatabase({u"--options"_s, u""_s});
-        for (const char* told : {"3 headers are left out", "3 assembler sources are left out", "1 resources are",
-                                 "1 CUDA sources are", "1 Objective-C sources are", "1 files of other languages are"}) {
+        for (const char* told : {"3 headers are left out", "3 assembler sources are left out", "1 resource is",
+                                 "1 CUDA source is", "1 Objective-C source is", "1 other file is"}) {
             QVERIFY2(result.output.contains(QString::fromLatin1(told)), qPrintable(result.output));
         }
         QCOMPARE(project.files(), u"a.c B.C c.CPP d.ixx e.c++ n.tpl"_s);

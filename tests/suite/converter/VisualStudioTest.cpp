@@ -4,6 +4,7 @@
 #include "Installation.h"
 #include "Notices.h"
 #include "TestMain.h"
+#include "TestRows.h"
 
 #include <QDir>
 #include <QFile>
@@ -219,7 +220,7 @@ private Q_SLOTS:
             folded(u"~/All.sln is read as Debug|x64; there are also Debug|x86, Release|x64\n"
                    "~/Directory.build.props counts for the projects below its folder and is read\n"
                    "App: 5 sources as Debug|x64, 2 are excluded from the build\n"
-                   "TheLib: 1 sources as Release|x64\n"
+                   "TheLib: 1 source as Release|x64\n"
                    "warning: ~/All.sln:14: the project \"Gui\" is left out: Gui\\Gui.csproj is no project of C or C++ "
                    "sources that can be read\n"
                    "warning: ~/All.sln:16: the project \"Gone\" is left out: ~/Gone/Gone.vcxproj does not exist"_s));
@@ -227,32 +228,27 @@ private Q_SLOTS:
 
     void choosesAConfiguration_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("wanted");
-        QTest::addColumn<QString>("told");
-        QTest::addRow("not built") << u"All.sln"_s << u"debug|x86"_s
-                                   << u"the project \"Lib\" is left out: it is not built in Debug|x86"_s;
-        QTest::addRow("the project's own") << u"All.sln"_s << u"Debug|X86"_s << u"App: 6 sources as Debug|Win32"_s;
-        QTest::addRow("first of a platform") << u"All.sln"_s << u"|x86"_s << u"is read as Debug|x86"_s;
-        QTest::addRow("none") << u"All.sln"_s << u"Profile|x64"_s
-                              << u"~/All.sln: is not built as \"Profile|x64\". Choose configuration and platform of: "
-                                 "Debug|x64, Debug|x86, Release|x64."_s;
-        QTest::addRow("project alone") << u"App/App.vcxproj"_s << u"Debug|x86"_s << u"is read as Debug|Win32"_s;
-        QTest::addRow("project without it")
-            << u"App/App.vcxproj"_s << u"Release|Win32"_s << u"of: Debug|Win32, Debug|x64, Release|x64."_s;
-        QTest::addRow("shared items alone")
-            << u"Shared/Shared.vcxitems"_s << u"|"_s << u"Shared: 1 sources as Debug|Win32"_s;
-        QTest::addRow("xml") << u"All.slnx"_s << u"|"_s << u"is read as Dev|x64; there are also Dev|x86, Ship|x64"_s;
-        QTest::addRow("xml, mapped") << u"All.slnx"_s << u"Ship|x64"_s << u"App: 5 sources as Release|x64"_s;
-        QTest::addRow("xml, mapped platform") << u"All.slnx"_s << u"Dev|x86"_s << u"App: 6 sources as Debug|Win32"_s;
-        QTest::addRow("xml, not built")
-            << u"All.slnx"_s << u"Ship|x64"_s
-            << u"~/All.slnx:5: the project \"lib.vcxproj\" is left out: it is not built in Ship|x64"_s;
-        QTest::addRow("xml without lists")
-            << u"Bare.slnx"_s << u"Release|x64"_s << u"TheLib: 1 sources as Release|x64"_s;
-        QTest::addRow("sections missing") << u"Bare.sln"_s << u"Release|"_s << u"TheLib: 1 sources as Release|x64"_s;
-        QTest::addRow("other file") << u"Sheets/Common.props"_s << u"|"_s << u"is neither a solution nor a project"_s;
-        QTest::addRow("no file") << u"none.sln"_s << u"|"_s << u"~/none.sln: can not be read (it does not exist)"_s;
+        const TestRows<QString, QString, QString> row("file", "wanted", "told");
+        row("not built", u"All.sln"_s, u"debug|x86"_s,
+            u"the project \"Lib\" is left out: it is not built in Debug|x86"_s);
+        row("the project's own", u"All.sln"_s, u"Debug|X86"_s, u"App: 6 sources as Debug|Win32"_s);
+        row("first of a platform", u"All.sln"_s, u"|x86"_s, u"is read as Debug|x86"_s);
+        row("none", u"All.sln"_s, u"Profile|x64"_s,
+            u"~/All.sln: is not built as \"Profile|x64\". Choose configuration and platform of: "
+            "Debug|x64, Debug|x86, Release|x64."_s);
+        row("project alone", u"App/App.vcxproj"_s, u"Debug|x86"_s, u"is read as Debug|Win32"_s);
+        row("project without it", u"App/App.vcxproj"_s, u"Release|Win32"_s,
+            u"of: Debug|Win32, Debug|x64, Release|x64."_s);
+        row("shared items alone", u"Shared/Shared.vcxitems"_s, u"|"_s, u"Shared: 1 source as Debug|Win32"_s);
+        row("xml", u"All.slnx"_s, u"|"_s, u"is read as Dev|x64; there are also Dev|x86, Ship|x64"_s);
+        row("xml, mapped", u"All.slnx"_s, u"Ship|x64"_s, u"App: 5 sources as Release|x64"_s);
+        row("xml, mapped platform", u"All.slnx"_s, u"Dev|x86"_s, u"App: 6 sources as Debug|Win32"_s);
+        row("xml, not built", u"All.slnx"_s, u"Ship|x64"_s,
+            u"~/All.slnx:5: the project \"lib.vcxproj\" is left out: it is not built in Ship|x64"_s);
+        row("xml without lists", u"Bare.slnx"_s, u"Release|x64"_s, u"TheLib: 1 source as Release|x64"_s);
+        row("sections missing", u"Bare.sln"_s, u"Release|"_s, u"TheLib: 1 source as Release|x64"_s);
+        row("other file", u"Sheets/Common.props"_s, u"|"_s, u"is neither a solution nor a project"_s);
+        row("no file", u"none.sln"_s, u"|"_s, u"~/none.sln: can not be read (it does not exist)"_s);
     }
 
     void choosesAConfiguration()
@@ -278,11 +274,7 @@ private Q_SLOTS:
 
     void evaluatesConditions_data()
     {
-        QTest::addColumn<QString>("condition");
-        QTest::addColumn<QString>("result");
-        const auto row = [](const char* name, const QString& condition, const QString& result) {
-            QTest::addRow("%s", name) << condition << result;
-        };
+        const TestRows<QString, QString> row("condition", "result");
         row("without case", u"'$(configuration)|$(PLATFORM)' == 'DEBUG|x64'"_s, u"yes"_s);
         row("unequal", u"'$(Platform)'!='x64'"_s, u"no"_s);
         row("and binds tighter", u"'a'=='a' Or 'a'=='b' And 'a'=='c'"_s, u"yes"_s);
@@ -329,12 +321,7 @@ private Q_SLOTS:
 
     void expandsMacros_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QString>("told");
-        const auto row = [](const char* name, const QByteArray& text, const QString& words, const QString& told = {}) {
-            QTest::addRow("%s", name) << text << words << told;
-        };
+        const TestRows<QByteArray, QString, QString> row("text", "words", "told");
         row("project", "$(ProjectName)-$(ProjectExt)-$(ProjectFileName);$(MSBuildProjectDirectory)",
             u"p-.vcxproj-p.vcxproj /D ~"_s);
         row("this file", "$(MSBuildThisFile);$(MSBuildThisFileDirectory);$(MSBuildThisFileName)",
@@ -380,12 +367,7 @@ private Q_SLOTS:
 
     void tellsOfBrokenInput_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<QString>("told");
-        QTest::addColumn<bool>("isFatal");
-        const auto row = [](const char* name, const QString& file, const QByteArray& contents, const QString& told,
-                            bool isFatal = false) { QTest::addRow("%s", name) << file << contents << told << isFatal; };
+        const TestRows<QString, QByteArray, QString, bool> row("file", "contents", "told", "isFatal");
         const auto import = [](const QByteArray& path) {
             return oneSource("<Import Project=\"" + path + "\"/>\n", "");
         };

@@ -57,7 +57,7 @@ private Q_SLOTS:
             {"directory": "z:/src", "file": "Z:/SRC/lib/A.cpp", "command": "cl /c Z:/SRC/lib/A.cpp"},
             {"directory": "Z:/src", "file": "main.C", "command": "cl /c main.C"}])");
         const ProgramResult result = project.convertDatabase({u"--options"_s, u"keep-missing,sub-projects"_s});
-        QVERIFY(result.output.contains("1 files are listed more than once"_L1));
+        QVERIFY(result.output.contains("1 file is listed more than once"_L1));
         const QList<ConvertedProject::Part> parts = project.parts();
         QCOMPARE(parts.size(), 2);
         QCOMPARE(parts[0].sourceDir, u"Z:/src"_s);
