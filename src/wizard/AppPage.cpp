@@ -5,7 +5,9 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +39,19 @@ QString AppPage::helpPage() const
     default:
         return u"followUpTools.htm"_s;
     }
+}
+
+QLabel* AppPage::addHint()
+{
+    auto* hint = new QLabel;
+    hint->setTextFormat(Qt::PlainText);
+    hint->setWordWrap(true);
+    hint->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
+                             style()->pixelMetric(QStyle::PM_LayoutRightMargin), 0);
+    // The page keeps its shape when the text comes and goes.
+    hint->setMinimumHeight(hint->fontMetrics().lineSpacing());
+    layout()->addWidget(hint);
+    return hint;
 }
 
 void AppPage::completeControls()

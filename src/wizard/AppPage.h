@@ -4,6 +4,7 @@
 #include "wizard/OrvBasicWizardPage.h"
 
 class ApplicationWindow;
+class QLabel;
 class QPushButton;
 
 /// A page of this wizard: reads and stores the wizard's state, and asks the window which page comes next.
@@ -21,6 +22,8 @@ public:
 protected:
     /// The file name of the help page that the link opens.
     virtual QString helpPage() const;
+    /// A line for what Next waits for, below what the page scrolls, so that it is always seen.
+    QLabel* addHint();
 
     ApplicationWindow* window;
 

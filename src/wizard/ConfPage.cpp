@@ -44,7 +44,6 @@ ConfPage::ConfPage(ApplicationWindow* owner)
              Field{ConfigurationKind::Analyser, analyserField, new QLabel(tr("Project Configuration Template File:"))},
              Field{ConfigurationKind::Compiler, compilerField, new QLabel(tr("Compiler Configuration File:"))}}
     , noneText(tr("None"))
-    , hint(new QLabel)
 {
     auto* modules = new QGroupBox(tr("Compliance Modules:"));
     (new QHBoxLayout(modules))->addWidget(complianceCombo);
@@ -52,14 +51,12 @@ ConfPage::ConfPage(ApplicationWindow* owner)
     complianceBox = modules;
     auto* files = new QGroupBox(tr("Configuration Files:"));
     files->setLayout(createFileFields());
-    hint->setTextFormat(Qt::PlainText);
-    hint->setWordWrap(true);
 
     auto* grid = new QGridLayout(PageScrollArea::fill(*this));
     grid->addWidget(modules, 0, 0);
     grid->addWidget(files, 1, 0);
-    grid->addWidget(hint, 2, 0);
-    grid->setRowStretch(3, 1);
+    grid->setRowStretch(2, 1);
+    hint = addHint();
 
     connect(complianceCombo, &QComboBox::currentIndexChanged, this, &ConfPage::ComplianceChanged);
     connect(compilerField.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::CPersonalityChanged);

@@ -54,6 +54,6 @@ private:
     QString noneText;
     QWidget* complianceBox = nullptr;
     /// Says which file Next is waiting for.
-    QLabel* hint;
+    QLabel* hint = nullptr;
     bool restoring = false;
 };

@@ -9,6 +9,7 @@
 #include "wizard/Logo.h"
 #include "wizard/OrvBasicWizardPage.h"
 #include "wizard/PageFocus.h"
+#include "wizard/PageScrollArea.h"
 #include "wizard/ScreenFit.h"
 
 #include <QAbstractButton>
@@ -59,10 +60,18 @@ OrvWizardWindow::OrvWizardWindow(const QString& title, const QString& helpPage, 
     connect(this, &QDialog::finished, this, &OrvWizardWindow::Finished);
     connect(this, &QWizard::currentIdChanged, this, &OrvWizardWindow::enterPage);
     // Queued: by then the page has its size.
-    connect(
-        this, &QWizard::currentIdChanged, this, [this] { ScreenFit::apply(*this); }, Qt::QueuedConnection);
+    connect(this, &QWizard::currentIdChanged, this, &OrvWizardWindow::fitPage, Qt::QueuedConnection);
     resize(appRegistry->windowSize);
     move(appRegistry->windowPos);
+}
+
+void OrvWizardWindow::fitPage()
+{
+    const auto* area = currentPage() ? currentPage()->findChild<PageScrollArea*>() : nullptr;
+    if (area && !isMaximized()) {
+        resize(width(), height() + area->missingHeight());
+    }
+    ScreenFit::apply(*this);
 }
 
 bool OrvWizardWindow::validateCurrentPage()

@@ -61,6 +61,8 @@ private:
     void enterPage();
     /// Gives the focus to what the current page is waiting for.
     void leadToMistake();
+    /// Grows for what the page would have to scroll, as far as the screen has room.
+    void fitPage();
 
     HelpManager* help = nullptr;
 };

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 QWidget* PageScrollArea::fill(QWidget& page)
 {
     auto* area = new PageScrollArea(&page);
@@ -38,8 +40,11 @@ PageScrollArea::~PageScrollArea()
 
 QSize PageScrollArea::bounded(const QSize& wanted) const
 {
+    // Of the wizard's title, hint, help and buttons, the window's frame and a panel of the desktop.
+    constexpr int otherLines = 18;
     const QSize available = screen()->availableSize();
-    return wanted.boundedTo({available.width() * 4 / 5, available.height() / 2});
+    const int height = std::max(available.height() / 2, available.height() - otherLines * fontMetrics().lineSpacing());
+    return wanted.boundedTo({available.width() * 4 / 5, height});
 }
 
 QSize PageScrollArea::sizeHint() const
@@ -49,8 +54,13 @@ QSize PageScrollArea::sizeHint() const
 
 QSize PageScrollArea::minimumSizeHint() const
 {
-    const QSize needed = widget()->minimumSizeHint();
-    return bounded({needed.width() + verticalScrollBar()->sizeHint().width(), needed.height()});
+    const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return bounded({width, widget()->sizeHint().height()});
+}
+
+int PageScrollArea::missingHeight() const
+{
+    return std::min(verticalScrollBar()->maximum(), std::max(0, sizeHint().height() - height()));
 }
 
 bool PageScrollArea::eventFilter(QObject* object, QEvent* event)

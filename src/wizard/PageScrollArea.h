@@ -17,6 +17,8 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    /// How much higher the area would have to be to have what it asks for, in pixels.
+    int missingHeight() const;
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:

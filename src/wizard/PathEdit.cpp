@@ -47,7 +47,7 @@ QString PathEdit::fault() const
     if (!file.exists()) {
         return tr("There is no file or folder of this name.");
     }
-    return foldersOnly ? tr("This is a file. A folder is asked for.") : tr("This is a folder. A file is asked for.");
+    return foldersOnly ? tr("This is a file, not a folder.") : tr("This is a folder, not a file.");
 }
 
 bool PathEdit::event(QEvent* event)

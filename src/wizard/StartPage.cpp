@@ -26,7 +26,6 @@ StartPage::StartPage(ApplicationWindow* owner)
     , nameEdit(new FieldEdit)
     , typeCombo(new QuietCombo)
     , errorLabel(new AlarmLabel(errorText()))
-    , hint(new QLabel)
     , warnings(new QLabel)
 {
     setTitle(tr("Project Information"));
@@ -38,7 +37,6 @@ StartPage::StartPage(ApplicationWindow* owner)
     warnings->setWordWrap(true);
     warnings->setText(StartupWarnings::all(*appRegistry).join(u'\n'));
     warnings->setVisible(!warnings->text().isEmpty());
-    hint->setWordWrap(true);
 
     errorLabel->hide();
     fillTypes();
@@ -78,9 +76,9 @@ void StartPage::layOut()
     grid->addWidget(typeLabel, 2, 0, 1, 1);
     grid->addWidget(typeCombo, 2, 1, 1, 5);
     grid->addWidget(errorLabel, 3, 0, 1, 6);
-    grid->addWidget(hint, 4, 0, 1, 6);
-    grid->addWidget(warnings, 5, 0, 1, 6);
-    grid->setRowStretch(6, 1);
+    grid->addWidget(warnings, 4, 0, 1, 6);
+    grid->setRowStretch(5, 1);
+    hint = addHint();
 }
 
 QString StartPage::errorText()

@@ -38,7 +38,7 @@ private:
     QuietCombo* typeCombo;
     AlarmLabel* errorLabel;
     /// Says what Next is waiting for.
-    QLabel* hint;
+    QLabel* hint = nullptr;
     /// What went wrong while everything was loaded.
     QLabel* warnings;
     /// On whose account the page was refused.

@@ -34,7 +34,6 @@ void forgetControls(const ArgumentDefinitions& definitions)
 XmlPage::XmlPage(ApplicationWindow* owner)
     : AppPage(owner, XmlPageId)
     , grid(new QGridLayout(PageScrollArea::fill(*this)))
-    , hint(new QLabel)
 {
     setTitle(tr("Project Conversion Information"));
     setSubTitle(tr("Specify Information that identifies project to be converted"));
@@ -42,10 +41,8 @@ XmlPage::XmlPage(ApplicationWindow* owner)
         creator->panel = nullptr;
         forgetControls(creator->inputData);
     }
-    hint->setTextFormat(Qt::PlainText);
-    hint->setWordWrap(true);
-    grid->addWidget(hint, 1, 0);
-    grid->setRowStretch(2, 1);
+    grid->setRowStretch(1, 1);
+    hint = addHint();
 }
 
 void XmlPage::initializePage()

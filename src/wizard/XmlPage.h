@@ -38,5 +38,5 @@ private:
 
     QGridLayout* grid;
     /// Says which field Next is waiting for.
-    QLabel* hint;
+    QLabel* hint = nullptr;
 };

@@ -340,7 +340,7 @@ private Q_SLOTS:
             QTest::keyClick(source.completer()->popup(), Qt::Key_Escape);
             // A folder is there, but is no file; below the field stands so as soon as it is left.
             source.setText(folder);
-            const QString fault = u"This is a folder. A file is asked for."_s;
+            const QString fault = u"This is a folder, not a file."_s;
             QVERIFY(!wizard.labels().contains(fault));
             wizard.edit(u"Word"_s).setFocus();
             QTRY_VERIFY(wizard.labels().contains(fault));

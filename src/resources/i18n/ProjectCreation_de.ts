@@ -1450,12 +1450,12 @@ Wählen Sie einen anderen Namen, oder einen Ordner, in dem Sie Dateien anlegen d
         <translation>Es gibt keine Datei und keinen Ordner dieses Namens.</translation>
     </message>
     <message>
-        <source>This is a file. A folder is asked for.</source>
-        <translation>Das ist eine Datei. Gefragt ist ein Ordner.</translation>
+        <source>This is a file, not a folder.</source>
+        <translation>Das ist eine Datei, kein Ordner.</translation>
     </message>
     <message>
-        <source>This is a folder. A file is asked for.</source>
-        <translation>Das ist ein Ordner. Gefragt ist eine Datei.</translation>
+        <source>This is a folder, not a file.</source>
+        <translation>Das ist ein Ordner, keine Datei.</translation>
     </message>
 </context>
 <context>
