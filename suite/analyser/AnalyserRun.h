@@ -19,6 +19,8 @@ struct AnalyserRun
     End end = End::Normal;
     /// Of a run that did not end well: why, in one line.
     QString reason;
+    /// It included files in quotes that it did not find.
+    bool missesIncludes = false;
 };
 
 namespace Analyser {

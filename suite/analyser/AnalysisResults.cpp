@@ -2,9 +2,11 @@
 #include "AnalysisResults.h"
 #include "AnalysisPlan.h"
 #include "ResultFile.h"
+#include "UnreadHeaders.h"
 #include "WholeProgram.h"
 
 #include <QFile>
+#include <QMap>
 
 #include <algorithm>
 #include <numeric>
@@ -52,6 +54,7 @@ AnalysisResults::AnalysisResults(const AnalysisPlan& plan)
         addUnit(plan, unit);
     }
     addWholeProgram(plan);
+    countUnreadHeaders(plan);
     sort();
 }
 
@@ -119,6 +122,21 @@ void AnalysisResults::add(const Finding& finding)
         lastUnit[place] = currentUnit;
         ++findings[place].sources;
     }
+}
+
+void AnalysisResults::countUnreadHeaders(const AnalysisPlan& plan)
+{
+    QMap<QString, int> sources;
+    for (const AnalysisUnit& unit : plan.units) {
+        const QStringList names = UnreadHeaders::read(plan.workFolder() + u'/' + unit.folder);
+        for (const QString& name : names) {
+            ++sources[name];
+        }
+    }
+    for (auto header = sources.cbegin(); header != sources.cend(); ++header) {
+        unreadHeaders.push_back({header.key(), header.value()});
+    }
+    std::ranges::stable_sort(unreadHeaders, std::greater(), &UnreadHeader::sources);
 }
 
 void AnalysisResults::sort()

@@ -26,6 +26,13 @@ struct NotAnalysed
     bool isFailedRun = false;
 };
 
+/// A header that is not found, and how many sources include it.
+struct UnreadHeader
+{
+    QString name;
+    int sources = 0;
+};
+
 /// What an analysis has brought, read from its results: each message once, as far as the message personalities show it.
 class AnalysisResults
 {
@@ -38,6 +45,8 @@ public:
     std::vector<SeenFinding> findings;
     /// In the order of the project.
     std::vector<NotAnalysed> notAnalysed;
+    /// Those that most sources include first.
+    std::vector<UnreadHeader> unreadHeaders;
     /// Sources that the analyser went through to the end.
     int analysed = 0;
     /// Messages that no personality shows.
@@ -48,6 +57,7 @@ private:
     void addUnit(const AnalysisPlan& plan, size_t unit);
     void addWholeProgram(const AnalysisPlan& plan);
     void add(const Finding& finding);
+    void countUnreadHeaders(const AnalysisPlan& plan);
     void sort();
 
     QHash<Finding, size_t> known;

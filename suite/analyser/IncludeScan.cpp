@@ -111,6 +111,9 @@ QStringList IncludeScan::filesOf(const QStringList& files)
 void IncludeScan::noteMissing(const QString& name, bool isQuoted, const QString& includer)
 {
     missingFiles += name;
+    if (isQuoted) {
+        quotedNames += name;
+    }
     if (isQuoted && !QDir::isAbsolutePath(name)) {
         missingFiles += beside(includer, name);
     }

@@ -19,6 +19,8 @@ public:
     QStringList filesOf(const QStringList& files);
     /// What filesOf() found no file for: names to look for in the folders, and absolute paths.
     QStringList missing() const { return {missingFiles.cbegin(), missingFiles.cend()}; }
+    /// The names among them that stand in quotes, as they are written.
+    const QSet<QString>& missingQuoted() const { return quotedNames; }
     /// True when there is a file for one of these by now, such as a header that a build has written since.
     bool wouldFind(const QStringList& missing);
 
@@ -30,6 +32,7 @@ private:
     QStringList folders;
     QHash<QString, bool> knownFiles;
     QSet<QString> missingFiles;
+    QSet<QString> quotedNames;
 };
 
 /// "target: files" as make and Ninja read it.

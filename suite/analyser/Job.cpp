@@ -6,6 +6,7 @@
 #include "OptionSet.h"
 #include "ResultFile.h"
 #include "SourceRuns.h"
+#include "UnreadHeaders.h"
 
 #include <QDir>
 #include <QFile>
@@ -132,6 +133,7 @@ private:
         ResultFile::writeScratch(Job::dependencyName(order.folder),
                                  dependencyRule(Job::stampName(order.folder), files));
         writeResults(order, *task.options, result);
+        UnreadHeaders::write(order.folder, UnreadHeaders::of(task, result, scan));
         ResultFile::writeScratch(Job::stampName(order.folder),
                                  (QStringList{order.options} + scan.missing()).join(u'\n').toUtf8());
     }

@@ -102,7 +102,7 @@ void OptionSet::addFolders(const AnalysisOptions& options)
             if (folder.kind == kind) {
                 const bool isSearched = kind != FolderKind::System;
                 command += (isSearched ? u" -I"_s : u" -isystem "_s) + quoted(folder.path);
-                folders += isSearched ? QStringList{folder.path} : QStringList{};
+                (isSearched ? folders : systemFolders) += folder.path;
             }
         }
     }
@@ -112,6 +112,13 @@ void OptionSet::addFolders(const AnalysisOptions& options)
     if (!options.standard.isEmpty()) {
         command += u" -std="_s + options.standard;
     }
+}
+
+bool OptionSet::asksForMissingIncludes() const
+{
+    return std::ranges::any_of(arguments, [](const QString& word) {
+        return word.startsWith("--enable="_L1) && word.contains("missingInclude"_L1);
+    });
 }
 
 QString OptionSet::sharedArguments() const
@@ -129,6 +136,7 @@ QByteArray OptionSet::toJson() const
                              {u"command"_s, command},
                              {u"folders"_s, QJsonArray::fromStringList(folders)},
                              {u"forced"_s, QJsonArray::fromStringList(forced)},
+                             {u"systemFolders"_s, QJsonArray::fromStringList(systemFolders)},
                              {u"forC"_s, forC},
                              {u"version"_s, analyserVersion}};
     return QJsonDocument(object).toJson();
@@ -146,6 +154,7 @@ OptionSet OptionSet::fromFile(const QString& path)
     set.command = object[u"command"_s].toString();
     set.folders = list(u"folders"_s);
     set.forced = list(u"forced"_s);
+    set.systemFolders = list(u"systemFolders"_s);
     set.forC = object[u"forC"_s].toBool();
     return set;
 }

@@ -26,6 +26,7 @@ public:
     /// The words on cppcheck's command line in one text, for sets whose sources one process may analyse. Empty where it
     /// may not: what addons and the checks of a whole run say belongs to no source then.
     QString sharedArguments() const;
+    bool asksForMissingIncludes() const;
 
     QByteArray toJson() const;
     /// Throws a Failure when the file is none of ours.
@@ -36,6 +37,8 @@ public:
     /// The folders that cppcheck searches for headers, and the files that it includes first.
     QStringList folders;
     QStringList forced;
+    /// Where the compiler looks for what belongs to the system, which cppcheck does not read.
+    QStringList systemFolders;
     /// The metrics name the analyser that a project is for.
     bool forC = false;
 

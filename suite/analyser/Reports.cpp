@@ -58,10 +58,30 @@ QStringList Reports::summary(const AnalysisPlan& plan, const AnalysisResults& fi
     if (findings.hidden > 0) {
         lines += u"%1 messages are not shown, as the message personality says"_s.arg(findings.hidden);
     }
+    if (!findings.unreadHeaders.empty()) {
+        lines += unreadHeaders(findings);
+    }
     if (!findings.notAnalysed.empty() && findings.analysed > 0) {
         lines += u"What only sources without an analysis use is told as unused"_s;
     }
     return lines;
+}
+
+QString Reports::unreadHeaders(const AnalysisResults& findings)
+{
+    constexpr qsizetype mostNames = 5;
+    QStringList names;
+    for (const UnreadHeader& header : findings.unreadHeaders) {
+        names += header.sources == 1 ? header.name : u"%1 (in %2 sources)"_s.arg(header.name).arg(header.sources);
+    }
+    const qsizetype others = names.size() - mostNames;
+    if (others > 0) {
+        names = names.first(mostNames) + QStringList{u"%1 more"_s.arg(others)};
+    }
+    return names.isEmpty()
+               ? QString()
+               : u"Headers that are included and not found: %1. Code that depends on them may not have been "
+                 "seen; build what makes them or name their folders, and analyse again"_s.arg(names.join(u", "_s));
 }
 
 QString Reports::totals(const AnalysisResults& findings)

@@ -18,6 +18,8 @@ QByteArray csv(const AnalysisPlan& plan, const AnalysisResults& findings);
 
 /// "148 of 151 sources analysed" and what else is worth one line each.
 QStringList summary(const AnalysisPlan& plan, const AnalysisResults& findings);
+/// Which headers were not found, and what to do; empty when all were.
+QString unreadHeaders(const AnalysisResults& findings);
 /// "3 errors, 1 warning"; "no messages" when there are none.
 QString totals(const AnalysisResults& findings);
 /// "seen from 3 sources"; empty for one.

@@ -3,13 +3,17 @@
 #include "AnalysisPlan.h"
 #include "AnalysisResults.h"
 #include "MessageCatalogue.h"
+#include "Reports.h"
 
 #include <QCryptographicHash>
 #include <QHash>
+#include <QStringList>
 #include <QUrl>
 
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
+
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +23,14 @@ const char* levelOf(Severity severity)
 {
     return severity == Severity::Error ? "error" : severity == Severity::Warning ? "warning" : "note";
 }
+
+/// What is told of the run, not of a place in the code.
+struct Notification
+{
+    const char* level;
+    QString text;
+    QStringList files;
+};
 
 /// Writes objects whose text is ours and values that come from anywhere.
 class SarifWriter
@@ -146,10 +158,17 @@ private:
     {
         key("executionSuccessful");
         json.Bool(findings.notAnalysed.empty());
-        array("toolExecutionNotifications", findings.notAnalysed, [this](const NotAnalysed& source) {
-            member("level", "error");
-            object("message", [&] { member("text", u"Not analysed: "_s + source.reason); });
-            array("locations", QList<int>{0}, [&](int) { writePlace(source.source, 0, 0); });
+        std::vector<Notification> notifications;
+        for (const NotAnalysed& source : findings.notAnalysed) {
+            notifications.push_back({"error", u"Not analysed: "_s + source.reason, {source.source}});
+        }
+        if (!findings.unreadHeaders.empty()) {
+            notifications.push_back({"warning", Reports::unreadHeaders(findings), {}});
+        }
+        array("toolExecutionNotifications", notifications, [this](const Notification& notification) {
+            member("level", notification.level);
+            object("message", [&] { member("text", notification.text); });
+            array("locations", notification.files, [&](const QString& file) { writePlace(file, 0, 0); });
         });
     }
 

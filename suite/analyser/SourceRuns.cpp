@@ -13,11 +13,15 @@
 #include <QSet>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QLatin1StringView errorProbe(" -D__ORV__");
+constexpr QLatin1StringView missingInclude("missingInclude");
+constexpr QLatin1StringView missingSystemInclude("missingIncludeSystem");
 
 QByteArray database(const std::vector<SourceRuns::Task>& tasks, const QString& moreDefines)
 {
@@ -62,17 +66,30 @@ bool moveRecord(const QString& record, const QString& folder)
     return QFile::rename(record, place);
 }
 
-AnalyserRun start(const std::vector<SourceRuns::Task>& tasks, const QString& folder, const QString& moreDefines)
+AnalyserRun startOver(const std::vector<SourceRuns::Task>& tasks, const QString& folder, const QString& moreDefines,
+                      const QStringList& words)
 {
     const QString project = folder + u"/compile_commands.json"_s;
     ResultFile::writeScratch(project, database(tasks, moreDefines));
-    const QStringList fixed{u"--quiet"_s, u"--inline-suppr"_s,
-                            u"--template={file}:{line}:{column}: {severity}: {message} [{id}]"_s,
-                            u"--cppcheck-build-dir="_s + folder, u"--project="_s + project};
-    AnalyserRun run =
-        AnalyserRun::start(fixed + tasks.front().options->arguments, QDir::currentPath(), Analyser::timeLimit());
+    const QStringList all =
+        QStringList{u"--quiet"_s, u"--template={file}:{line}:{column}: {severity}: {message} [{id}]"_s} + words +
+        QStringList{u"--project="_s + project, u"--enable=missingInclude"_s};
+    return AnalyserRun::start(all + tasks.front().options->arguments, QDir::currentPath(), Analyser::timeLimit());
+}
+
+AnalyserRun start(const std::vector<SourceRuns::Task>& tasks, const QString& folder, const QString& moreDefines)
+{
+    AnalyserRun run = startOver(tasks, folder, moreDefines, {u"--inline-suppr"_s, u"--cppcheck-build-dir="_s + folder});
     // Of some sources these are a part only; the check of the whole program finds them all.
     run.findings.removeIf([](const Finding& finding) { return finding.id.startsWith("ctu"_L1); });
+    // That some include is missing it tells without a place, and of the system's too.
+    const auto isMissing = [](const Finding& finding) {
+        return finding.id == missingInclude || finding.id == missingSystemInclude;
+    };
+    run.missesIncludes = std::ranges::any_of(run.findings, isMissing);
+    if (!tasks.front().options->asksForMissingIncludes()) {
+        run.findings.removeIf(isMissing);
+    }
     return run;
 }
 
@@ -169,6 +186,9 @@ public:
                 return {};
             }
         }
+        for (AnalyserRun& each : runs) {
+            each.missesIncludes = run.missesIncludes;
+        }
         return told.size() == said.size() ? runs : std::vector<AnalyserRun>();
     }
 
@@ -224,4 +244,16 @@ std::vector<AnalyserRun> SourceRuns::together(const std::vector<Task>& tasks)
         removeLeftovers(QDir(task.order.folder));
     }
     return SharedRun(tasks).analyse();
+}
+
+QStringList SourceRuns::missingIncludes(const Task& task)
+{
+    QStringList names;
+    const AnalyserRun run = startOver({task}, task.order.folder, {}, {u"--check-config"_s});
+    for (const Finding& finding : run.findings) {
+        if (finding.id == missingInclude) {
+            names += finding.text.section(u'"', 1, 1);
+        }
+    }
+    return names;
 }

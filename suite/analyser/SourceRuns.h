@@ -24,4 +24,8 @@ AnalyserRun alone(const Task& task);
 /// says can not be told apart: then each has to be analysed alone.
 std::vector<AnalyserRun> together(const std::vector<Task>& tasks);
 
+/// The files that cppcheck does not find for the includes in quotes which the options let it reach, as they are named
+/// there. Takes a run that only preprocesses.
+QStringList missingIncludes(const Task& task);
+
 } // namespace SourceRuns

@@ -163,6 +163,9 @@ int tellStatus(const CommandLine& line)
     for (const NotAnalysed& source : findings.notAnalysed) {
         print(u"   Not analysed: %1: %2\n"_s.arg(source.source, source.reason).toUtf8());
     }
+    if (!findings.unreadHeaders.empty()) {
+        print(u"   %1\n"_s.arg(Reports::unreadHeaders(findings)).toUtf8());
+    }
     return good;
 }
 

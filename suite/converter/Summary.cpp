@@ -68,9 +68,11 @@ void Summary::printFiles() const
         say(u"%1 left out by the patterns"_s.arg(counted(kept.leftOut, u"file is"_s, u"files are"_s)));
     }
     if (kept.missing > 0) {
-        say(u"warning: %1 not exist%2, the first is %3"_s.arg(counted(kept.missing, u"file does"_s, u"files do"_s),
-                                                              arguments.keepMissing ? u""_s : u" and are left out"_s,
-                                                              kept.firstMissing));
+        const QString number = arguments.keepMissing
+                                   ? counted(kept.missing, u"file does not exist"_s, u"files do not exist"_s)
+                                   : counted(kept.missing, u"file does not exist and is left out"_s,
+                                             u"files do not exist and are left out"_s);
+        say(u"warning: %1, the first is %2"_s.arg(number, kept.firstMissing));
     }
 }
 

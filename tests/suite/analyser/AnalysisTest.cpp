@@ -164,6 +164,27 @@ private Q_SLOTS:
         QCOMPARE(code.run(u"analyse p.prj --incomplete-ok"_s).status, 0);
     }
 
+    // What a build would have made is missed, the system's own headers and those that no condition lets in are not.
+    void headersThatAreNotFoundAreTold()
+    {
+        const CodeBase code;
+        code.write(u"one/by a.h"_s, "#include \"made.h\"\n");
+        code.write(u"one/a.cpp"_s, "#include \"by a.h\"\n#include \"stdio.h\"\n#include <string>\n#ifdef NEVER\n"
+                                   "#include \"never.h\"\n#endif\n");
+        code.write(u"one/b.cpp"_s, "#include \"made.h\"\n#include \"also.h\"\nint f() { return MADE; }\n");
+        code.project({{.folder = u"one"_s, .files = {u"a.cpp"_s, u"b.cpp"_s}, .defines = {u"A=1"_s}}});
+        ProgramResult result = code.run(u"analyse p.prj"_s);
+        const QString told = u"included and not found: made.h (in 2 sources), also.h. "_s;
+        QVERIFY2(result.output.contains(told), qPrintable(result.output));
+        QVERIFY2(code.messages().filter(u"missingInclude"_s).isEmpty(), qPrintable(code.messages().join(u'\n')));
+        QVERIFY(code.run(u"-prj p.prj"_s, u"orvstatus"_s).output.contains(told));
+        QVERIFY(code.run(u"report p.prj --sarif"_s).output.contains(told));
+        code.write(u"one/made.h"_s, "#define MADE 1\n");
+        code.write(u"one/also.h"_s, {});
+        result = code.run(u"analyse p.prj"_s);
+        QVERIFY2(!result.output.contains("not found"_L1), qPrintable(result.output));
+    }
+
     void wholeProgramChecksEqualThoseByHand()
     {
         const CodeBase code;
