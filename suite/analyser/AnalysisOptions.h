@@ -31,6 +31,8 @@ struct AnalysisOptions
     QStringList defines;
     QStringList undefines;
     QList<IncludeFolder> folders;
+    /// Those that the compiler searches by itself.
+    QStringList builtinFolders;
     QStringList forcedIncludes;
     QStringList macroFiles;
     QString standard;

@@ -175,6 +175,8 @@ bool OptionReader::takeCompilerAnnotation(const QString& key, const QString& val
         options.language = value;
     } else if (key == "target"_L1) {
         options.target += value;
+    } else if (key == "builtin"_L1) {
+        options.builtinFolders += value;
     } else if (key == "compiler"_L1) {
         options.compiler = value;
     } else {

@@ -106,6 +106,7 @@ void OptionSet::addFolders(const AnalysisOptions& options)
             }
         }
     }
+    systemFolders += options.builtinFolders;
     for (const QString& flag : options.target) {
         command += u' ' + flag;
     }

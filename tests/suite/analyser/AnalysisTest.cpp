@@ -168,11 +168,14 @@ private Q_SLOTS:
     void headersThatAreNotFoundAreTold()
     {
         const CodeBase code;
+        code.write(u"built in/sys/own.h"_s, {});
+        const QString builtin = u"*orv builtin=\"%1\"\n"_s.arg(code.path(u"built in"_s));
         code.write(u"one/by a.h"_s, "#include \"made.h\"\n");
-        code.write(u"one/a.cpp"_s, "#include \"by a.h\"\n#include \"stdio.h\"\n#include <string>\n#ifdef NEVER\n"
+        code.write(u"one/a.cpp"_s, "#include \"by a.h\"\n#include \"sys/own.h\"\n#include <string>\n#ifdef NEVER\n"
                                    "#include \"never.h\"\n#endif\n");
         code.write(u"one/b.cpp"_s, "#include \"made.h\"\n#include \"also.h\"\nint f() { return MADE; }\n");
-        code.project({{.folder = u"one"_s, .files = {u"a.cpp"_s, u"b.cpp"_s}, .defines = {u"A=1"_s}}});
+        code.project(
+            {{.folder = u"one"_s, .files = {u"a.cpp"_s, u"b.cpp"_s}, .defines = {u"A=1"_s}, .options = builtin}});
         ProgramResult result = code.run(u"analyse p.prj"_s);
         const QString told = u"included and not found: made.h (in 2 sources), also.h. "_s;
         QVERIFY2(result.output.contains(told), qPrintable(result.output));
