@@ -2,7 +2,6 @@
 #include "definitions/DefinitionsXml.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -103,8 +102,20 @@ QStringView currentPlatformName()
 
 QStringList splitAtWhiteSpace(const QString& text)
 {
-    static const QRegularExpression whiteSpace(u"\\s+"_s, QRegularExpression::UseUnicodePropertiesOption);
-    return text.split(whiteSpace);
+    QStringList parts;
+    qsizetype begin = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        if (!text[at].isSpace()) {
+            ++at;
+            continue;
+        }
+        parts += text.sliced(begin, at - begin);
+        while (at < text.size() && text[at].isSpace()) {
+            ++at;
+        }
+        begin = at;
+    }
+    return parts << text.sliced(begin);
 }
 
 QXmlStreamReader::TokenType readToken(QXmlStreamReader& xml, QStringView platform)

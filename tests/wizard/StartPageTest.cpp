@@ -52,6 +52,8 @@ private Q_SLOTS:
         const WizardDriver wizard;
         const QRect screen = wizard.window.screen()->availableGeometry();
         QVERIFY(screen.contains(wizard.window.geometry()));
+        // Its points, which need no decoder, are those of the picture.
+        QCOMPARE(wizard.window.pixmap(QWizard::LogoPixmap).toImage(), QImage(u":/logo_shadow.jpg"_s));
         QVERIFY(!wizard.canGoOn());
         QVERIFY(wizard.labels().contains(u"To continue, name the project and its folder."_s));
         const QString folder = suite.nativePath(u"work/new/deep"_s);
