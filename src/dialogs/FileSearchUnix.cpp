@@ -2,6 +2,7 @@
 #include "dialogs/FileSearch.h"
 
 #include <QFile>
+#include <QStringBuilder>
 
 #include <dirent.h>
 #include <memory>
@@ -52,7 +53,8 @@ bool FileSearch::list(const QString& folder, Listener& listener, std::vector<QSt
         if (kind == DT_DIR) {
             subFolders.push_back(prefix + entryName);
         } else if (listener.goOn()) {
-            listener.fileFound(prefix + entryName);
+            // In as much memory as it needs: there may be millions.
+            listener.fileFound(prefix % entryName);
         } else {
             return false;
         }
