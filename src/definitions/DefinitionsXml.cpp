@@ -50,6 +50,9 @@ void DefinitionsReader::passedOver(QStringView parent)
 QString DefinitionsReader::choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values)
 {
     const QXmlStreamAttributes given = attributes();
+    if (given.isEmpty()) {
+        return {};
+    }
     QString value = given.value(attribute).toString();
     if (isChecked() && given.hasAttribute(attribute) && std::ranges::find(values, value) == values.end()) {
         QStringList known;
@@ -98,6 +101,21 @@ QStringView currentPlatformName()
 #else
     return u"LINUX";
 #endif
+}
+
+QStringList wordsOf(QStringView text)
+{
+    constexpr auto isSpace = [](QChar character) { return character.isSpace(); };
+    const auto endOfWord = [&](auto begin) { return std::find_if(begin, text.end(), isSpace); };
+    const auto beginOfWord = [&](auto end) { return std::find_if_not(end, text.end(), isSpace); };
+    QStringList words;
+    words.reserve(text.count(u' ') + 1);
+    for (auto at = beginOfWord(text.begin()); at != text.end();) {
+        const auto end = endOfWord(at);
+        words.emplace_back(at, end - at);
+        at = beginOfWord(end);
+    }
+    return words;
 }
 
 QStringList splitAtWhiteSpace(const QString& text)

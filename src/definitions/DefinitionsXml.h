@@ -37,6 +37,9 @@ private:
 /// The name under which the definitions file knows the system this program was built for.
 QStringView currentPlatformName();
 
+/// The words of a text, which white space separates.
+QStringList wordsOf(QStringView text);
+
 /// The parts of a text between runs of white space; one at either end leaves an empty part there.
 QStringList splitAtWhiteSpace(const QString& text);
 
