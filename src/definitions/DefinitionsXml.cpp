@@ -28,9 +28,11 @@ class Text
 } // namespace
 
 DefinitionsReader::DefinitionsReader(const QByteArray& document, RemarkFunction function)
-    : QXmlStreamReader(document)
-    , remarkFunction(std::move(function))
+    : remarkFunction(std::move(function))
 {
+    source.setData(document);
+    source.open(QIODevice::ReadOnly);
+    setDevice(&source);
 }
 
 void DefinitionsReader::remarkAt(qint64 line, const QString& text)

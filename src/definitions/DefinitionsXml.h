@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QBuffer>
 #include <QStringList>
 #include <QXmlStreamReader>
 
@@ -31,6 +32,8 @@ public:
     int readNumber();
 
 private:
+    /// Of a device the base decodes a piece at a time, of bytes the whole document at once.
+    QBuffer source;
     RemarkFunction remarkFunction;
 };
 
