@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Analysing a code base of 150 sources with the suite's analyser against cppcheck itself, both with two jobs; again
-// with nothing changed; and the report of 100,000 messages. Arguments: the orv program.
+// with nothing changed; and the report of 100,000 messages. Arguments: the orv program, and another number of sources.
 #include "Ratio.h"
 #include "Sandbox.h"
 
@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int sources = 150;
 constexpr int functions = 20;
 constexpr int inlineFunctions = 20;
 constexpr int messages = 100000;
@@ -72,7 +71,7 @@ QByteArray source(int number)
 class CodeBase
 {
 public:
-    CodeBase()
+    explicit CodeBase(int sources)
     {
         QByteArray files;
         QByteArray entries;
@@ -124,7 +123,7 @@ int reportTime(const char* name, double limit, const std::function<void()>& work
     return time <= limit ? 0 : 1;
 }
 
-void writeManyMessages(const CodeBase& code)
+void writeManyMessages(const CodeBase& code, int sources)
 {
     for (int i = 0; i < sources; ++i) {
         QByteArray lines;
@@ -140,11 +139,13 @@ void writeManyMessages(const CodeBase& code)
 
 int main(int argc, char** argv)
 {
-    const CodeBase code;
+    const int sources = Ratio::sizeFrom(argc, argv, 150, 2);
+    const CodeBase code(sources);
     const QString orv = QString::fromLocal8Bit(argc > 1 ? argv[1] : "orvtool");
     const auto analyse = [&] { run(orv, {u"analyse"_s, code.project, u"-j"_s, u"2"_s}); };
-    int missed = Ratio::report(
-        "analysing 150 sources with two jobs", 1.1,
+    const QByteArray name = "analysing " + QByteArray::number(sources) + " sources with two jobs";
+    const Ratio::Outcome outcome = Ratio::measure(
+        name.constData(), 1.1,
         [&] {
             QDir(code.output).removeRecursively();
             analyse();
@@ -154,8 +155,9 @@ int main(int argc, char** argv)
                                 u"--enable=warning,style,performance,portability"_s, u"--project="_s + code.database});
         },
         rounds);
-    missed += reportTime("analysing them again with nothing changed", 300, analyse);
-    writeManyMessages(code);
+    Ratio::reportCost(sources, outcome, 0);
+    int missed = outcome.missed + reportTime("analysing them again with nothing changed", 300, analyse);
+    writeManyMessages(code, sources);
     for (const auto& form : {u"--html"_s, u"--plain-html"_s, u"--csv"_s, u"--sarif"_s, u"--text"_s}) {
         missed += reportTime(("report of 100,000 messages, " + form.toLatin1()).constData(), 1000, [&] {
             run(orv, {u"report"_s, code.project, form, u"-o"_s, code.box.path(u"report"_s)});

@@ -43,7 +43,7 @@ int main(int argc, char** argv)
     const QByteArray name = "find over " + QByteArray::number(files) + " files";
     const auto ours = [&] { dialog.findButtonClicked(); };
     const long bytes = Ratio::bytesOf(ours);
-    const auto [ms, missed] = Ratio::measure(name.constData(), 1.25, ours, bare);
-    Ratio::reportCost(files, ms, bytes);
-    return found == files / 2 && dialog.findChild<QListWidget*>()->count() == found ? missed : 1;
+    const Ratio::Outcome outcome = Ratio::measure(name.constData(), 1.25, ours, bare);
+    Ratio::reportCost(files, outcome, bytes);
+    return found == files / 2 && dialog.findChild<QListWidget*>()->count() == found ? outcome.missed : 1;
 }

@@ -44,7 +44,7 @@ int main(int argc, char** argv)
         }
     };
     const QByteArray name = "option and list file for " + QByteArray::number(size) + " files";
-    const auto [ms, missed] = Ratio::measure(name.constData(), 0.8, ours, bare);
-    Ratio::reportCost(size, ms, bytes);
-    return found > 0 && list.count(".cpp\"\n") == size / 2 ? missed : 1;
+    const Ratio::Outcome outcome = Ratio::measure(name.constData(), 0.8, ours, bare);
+    Ratio::reportCost(size, outcome, bytes);
+    return found > 0 && list.count(".cpp\"\n") == size / 2 ? outcome.missed : 1;
 }

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <string_view>
 #include <vector>
 
 #include <unistd.h>
@@ -42,33 +43,60 @@ inline long residentBytes()
     return resident * ::sysconf(_SC_PAGESIZE);
 }
 
+/// "ours", "baseline" or "none" for one who counts instructions: of what is measured only this side runs, once. Null
+/// otherwise.
+inline const char* countedSide()
+{
+    return std::getenv("BENCHMARK_SIDE");
+}
+
+inline bool isCounted(std::string_view side)
+{
+    return countedSide() != nullptr && countedSide() == side;
+}
+
 /// By how much the work makes that grow.
 template <typename Work>
 long bytesOf(Work&& work)
 {
+    if (countedSide() != nullptr) {
+        return 0;
+    }
     const long before = residentBytes();
     work();
     return residentBytes() - before;
 }
 
-/// What the work takes for each item, for those who look how it grows.
-inline void reportCost(int items, double ms, long bytes)
-{
-    std::printf("  cost of %d items: %.3f us and %ld bytes each\n", items, ms * 1000 / items, bytes / items);
-    std::fflush(stdout);
-}
-
-/// The median time of one side, and 0 or 1 for a limit that is kept or missed.
+/// The median times of both sides, and 0 or 1 for a limit that is kept or missed.
 struct Outcome
 {
     double ms;
+    double baselineMs;
     int missed;
 };
+
+/// What the work takes for each item, for those who look how it grows.
+inline void reportCost(int items, const Outcome& outcome, long bytes)
+{
+    if (countedSide() == nullptr) {
+        std::printf("  cost of %d items: %.4f us and %ld bytes each, baseline %.4f us\n", items,
+                    outcome.ms * 1000 / items, bytes / items, outcome.baselineMs * 1000 / items);
+        std::fflush(stdout);
+    }
+}
 
 /// Runs both sides once to warm up and then rounds times; prints the medians and their ratio.
 template <typename Ours, typename Baseline>
 Outcome measure(const char* name, double limit, Ours&& ours, Baseline&& baseline, int rounds = 7)
 {
+    if (countedSide() != nullptr) {
+        if (isCounted("ours")) {
+            ours();
+        } else if (isCounted("baseline")) {
+            baseline();
+        }
+        return {0, 0, 0};
+    }
     std::vector<double> oursMs;
     std::vector<double> baselineMs;
     std::vector<double> ratios;
@@ -85,7 +113,7 @@ Outcome measure(const char* name, double limit, Ours&& ours, Baseline&& baseline
     std::printf("%s: %.1f ms against %.1f ms, ratio %.2f (at most %.2f) %s\n", name, median(oursMs), median(baselineMs),
                 ratio, limit, ratio <= limit ? "ok" : "MISSED");
     std::fflush(stdout);
-    return {median(oursMs), ratio <= limit ? 0 : 1};
+    return {median(oursMs), median(baselineMs), ratio <= limit ? 0 : 1};
 }
 
 /// The same, for a work whose growth nobody asks for.

@@ -3,6 +3,7 @@
 #include "process/Guardian.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
@@ -86,8 +87,14 @@ void TemporaryFiles::enlist(const QString& name)
 void TemporaryFiles::removeStale()
 {
     const QDir folder(QDir::tempPath());
-    const QFileInfoList lists = folder.entryInfoList({"KOVRA-*"_L1 + listSuffix}, QDir::Files | QDir::NoSymLinks);
-    for (const QFileInfo& info : lists) {
+    QDirIterator entries(folder.path(), QDir::Files | QDir::NoSymLinks);
+    while (entries.hasNext()) {
+        entries.next();
+        // A name filter would be a regular expression, which takes longer to build than all this.
+        if (!entries.fileName().startsWith("KOVRA-"_L1) || !entries.fileName().endsWith(listSuffix)) {
+            continue;
+        }
+        const QFileInfo info = entries.fileInfo();
         QFile stale(info.filePath());
         // A list that its owner still has is locked.
         if (!isOurs(info) || !stale.open(QIODevice::ReadWrite) || !lock(stale)) {

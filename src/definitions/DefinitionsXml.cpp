@@ -2,7 +2,6 @@
 #include "definitions/DefinitionsXml.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -29,9 +28,11 @@ class Text
 } // namespace
 
 DefinitionsReader::DefinitionsReader(const QByteArray& document, RemarkFunction function)
-    : QXmlStreamReader(document)
-    , remarkFunction(std::move(function))
+    : remarkFunction(std::move(function))
 {
+    source.setData(document);
+    source.open(QIODevice::ReadOnly);
+    setDevice(&source);
 }
 
 void DefinitionsReader::remarkAt(qint64 line, const QString& text)
@@ -51,6 +52,9 @@ void DefinitionsReader::passedOver(QStringView parent)
 QString DefinitionsReader::choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values)
 {
     const QXmlStreamAttributes given = attributes();
+    if (given.isEmpty()) {
+        return {};
+    }
     QString value = given.value(attribute).toString();
     if (isChecked() && given.hasAttribute(attribute) && std::ranges::find(values, value) == values.end()) {
         QStringList known;
@@ -101,10 +105,37 @@ QStringView currentPlatformName()
 #endif
 }
 
+QStringList wordsOf(QStringView text)
+{
+    constexpr auto isSpace = [](QChar character) { return character.isSpace(); };
+    const auto endOfWord = [&](auto begin) { return std::find_if(begin, text.end(), isSpace); };
+    const auto beginOfWord = [&](auto end) { return std::find_if_not(end, text.end(), isSpace); };
+    QStringList words;
+    words.reserve(text.count(u' ') + 1);
+    for (auto at = beginOfWord(text.begin()); at != text.end();) {
+        const auto end = endOfWord(at);
+        words.emplace_back(at, end - at);
+        at = beginOfWord(end);
+    }
+    return words;
+}
+
 QStringList splitAtWhiteSpace(const QString& text)
 {
-    static const QRegularExpression whiteSpace(u"\\s+"_s, QRegularExpression::UseUnicodePropertiesOption);
-    return text.split(whiteSpace);
+    QStringList parts;
+    qsizetype begin = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        if (!text[at].isSpace()) {
+            ++at;
+            continue;
+        }
+        parts += text.sliced(begin, at - begin);
+        while (at < text.size() && text[at].isSpace()) {
+            ++at;
+        }
+        begin = at;
+    }
+    return parts << text.sliced(begin);
 }
 
 QXmlStreamReader::TokenType readToken(QXmlStreamReader& xml, QStringView platform)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QBuffer>
 #include <QStringList>
 #include <QXmlStreamReader>
 
@@ -31,11 +32,16 @@ public:
     int readNumber();
 
 private:
+    /// Of a device the base decodes a piece at a time, of bytes the whole document at once.
+    QBuffer source;
     RemarkFunction remarkFunction;
 };
 
 /// The name under which the definitions file knows the system this program was built for.
 QStringView currentPlatformName();
+
+/// The words of a text, which white space separates.
+QStringList wordsOf(QStringView text);
 
 /// The parts of a text between runs of white space; one at either end leaves an empty part there.
 QStringList splitAtWhiteSpace(const QString& text);

@@ -60,8 +60,7 @@ void readProjectCreator(DefinitionsReader& xml, ProjectCreatorData& creator, con
             creator.exe = expand(xml.readElementText());
         } else if (name == "exeargs"_L1) {
             argumentsLine = xml.lineNumber();
-            // Simplified text has single blanks between its words.
-            creator.exeArgs = xml.readElementText().simplified().split(u' ', Qt::SkipEmptyParts);
+            creator.exeArgs = wordsOf(xml.readElementText());
         } else if (name == "orvcProject"_L1) {
             creator.orvcProject |= xml.readNumber() != 0;
         } else if (name == "orvcppProject"_L1) {

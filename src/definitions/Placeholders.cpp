@@ -34,18 +34,43 @@ QString withEnvironmentValue(QString text, const QStringList& environment)
     return text.replace(u'%' + parts[1] + u'%', EnvironmentValue(parts[1], false, environment));
 }
 
+// A search for the whole placeholder, which begins with a per cent sign, takes longer to set up than texts are.
+qsizetype indexOf(QStringView placeholder, QStringView text, qsizetype from)
+{
+    qsizetype at = text.indexOf(u'%', from);
+    while (at >= 0 && !text.sliced(at).startsWith(placeholder)) {
+        at = text.indexOf(u'%', at + 1);
+    }
+    return at;
+}
+
+QString withFolder(QStringView text, QStringView placeholder, const QString& folder, qsizetype first)
+{
+    QString result;
+    result.reserve(text.size() + folder.size());
+    qsizetype begin = 0;
+    for (qsizetype at = first; at >= 0; at = indexOf(placeholder, text, begin)) {
+        result += text.sliced(begin, at - begin);
+        result += folder;
+        begin = at + placeholder.size();
+    }
+    result += text.sliced(begin);
+    return QDir::cleanPath(result);
+}
+
 } // namespace
 
 QString ExpandPlaceholders(const QString& text, const Places& places, const QStringList& environment)
 {
-    if (!text.contains(u'%')) {
+    const qsizetype first = text.indexOf(u'%');
+    if (first < 0) {
         return text;
     }
-    const std::pair<QLatin1StringView, const QString&> folders[] = {
-        {"%I%"_L1, places.installPath}, {"%ORVC%"_L1, places.cInstallDir}, {"%ORVCPP%"_L1, places.cppInstallDir}};
+    const std::pair<QStringView, const QString&> folders[] = {
+        {u"%I%", places.installPath}, {u"%ORVC%", places.cInstallDir}, {u"%ORVCPP%", places.cppInstallDir}};
     for (const auto& [placeholder, folder] : folders) {
-        if (text.contains(placeholder)) {
-            return QDir::cleanPath(QString(text).replace(placeholder, folder));
+        if (const qsizetype at = indexOf(placeholder, text, first); at >= 0) {
+            return withFolder(text, placeholder, folder, at);
         }
     }
     if (text.contains("%R%"_L1)) {

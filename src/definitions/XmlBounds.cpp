@@ -42,21 +42,32 @@ bool nextMarkup(Scan& scan)
     return scan.at < scan.text.size();
 }
 
+bool declaresDocumentType(std::string_view text)
+{
+    for (std::size_t at = text.find('!'); at != std::string_view::npos; at = text.find('!', at + 1)) {
+        if (at > 0 && text[at - 1] == '<' && text.substr(at).starts_with("!D")) {
+            return true;
+        }
+    }
+    return false;
+}
+
 // A tag ends before the next one begins, so that no tag of a document whose tags begin close to each other has too many
-// attributes. Most documents are told to be harmless by this alone, at the speed of the memory.
+// attributes. Most documents are told to be harmless by this alone, with a look here and there.
 bool isHarmless(std::string_view text)
 {
     constexpr std::size_t shortestAttribute = std::string_view(" a=''").size();
-    std::size_t start = text.find('<');
-    while (start != std::string_view::npos) {
-        const std::size_t next = text.find('<', start + 1);
-        if (std::min(next, text.size()) - start > XmlBounds::mostAttributes * shortestAttribute ||
-            text.substr(start).starts_with("<!D")) {
+    constexpr std::size_t farthest = XmlBounds::mostAttributes * shortestAttribute;
+    std::size_t start = std::min(text.find('<'), text.size());
+    while (text.size() - start > farthest) {
+        // The last one that begins close enough; none when it is the same again.
+        const std::size_t next = text.rfind('<', start + farthest);
+        if (next == start) {
             return false;
         }
         start = next;
     }
-    return true;
+    return !declaresDocumentType(text);
 }
 
 XmlBounds::Refusal refusal(std::string_view text)

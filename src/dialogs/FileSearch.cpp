@@ -42,6 +42,13 @@ bool FileSearch::matches(const QString& name) const
     });
 }
 
+bool FileSearch::isNew(const QString& name, QSet<QString>& told)
+{
+    const qsizetype before = told.size();
+    told.insert(name);
+    return told.size() > before;
+}
+
 void FileSearch::run(const QString& folder, Listener& listener) const
 {
     std::vector<QString> pending{QDir(folder).absolutePath()};

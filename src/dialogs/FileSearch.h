@@ -2,13 +2,15 @@
 #pragma once
 
 #include <QRegularExpression>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
 #include <vector>
 
 /// Walks a folder and all below it for files whose names match wildcard patterns. Hidden entries and symbolic links are
-/// passed over; a folder that can not be read holds nothing. Files come before the subfolders of their folder.
+/// passed over; a folder that can not be read holds nothing. Files come before the subfolders of their folder. No path
+/// is told twice, though a folder that changes meanwhile may give a name twice.
 class FileSearch
 {
 public:
@@ -37,6 +39,8 @@ private:
     };
 
     bool matches(const QString& name) const;
+    /// Takes a name into those that a folder has told of; false when it was among them.
+    static bool isNew(const QString& name, QSet<QString>& told);
     /// How many entries may pass before the listener hears of it.
     static constexpr int entriesPerSign = 256;
 

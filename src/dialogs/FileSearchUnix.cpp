@@ -2,17 +2,13 @@
 #include "dialogs/FileSearch.h"
 
 #include <QFile>
+#include <QStringBuilder>
 
 #include <dirent.h>
 #include <memory>
 #include <sys/stat.h>
 
 namespace {
-
-QString below(const QString& folder, const QString& name)
-{
-    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
-}
 
 // Most file systems tell the kind with the name, which spares a question per entry.
 unsigned char kindOf(const dirent& entry, const QByteArray& folder)
@@ -37,6 +33,8 @@ bool FileSearch::list(const QString& folder, Listener& listener, std::vector<QSt
     if (!stream) {
         return true;
     }
+    const QString prefix = folder.endsWith(u'/') ? folder : folder + u'/';
+    QSet<QString> told;
     for (int seen = 1; const dirent* entry = ::readdir(stream.get()); ++seen) {
         if (seen % entriesPerSign == 0 && !listener.keepAlive()) {
             return false;
@@ -45,16 +43,20 @@ bool FileSearch::list(const QString& folder, Listener& listener, std::vector<QSt
             continue;
         }
         const unsigned char kind = kindOf(*entry, name);
+        if (kind != DT_DIR && kind != DT_REG) {
+            continue;
+        }
+        const QString entryName = QFile::decodeName(entry->d_name);
+        if ((kind == DT_REG && !matches(entryName)) || !isNew(entryName, told)) {
+            continue;
+        }
         if (kind == DT_DIR) {
-            subFolders.push_back(below(folder, QFile::decodeName(entry->d_name)));
-        } else if (kind == DT_REG) {
-            const QString fileName = QFile::decodeName(entry->d_name);
-            if (matches(fileName)) {
-                if (!listener.goOn()) {
-                    return false;
-                }
-                listener.fileFound(below(folder, fileName));
-            }
+            subFolders.push_back(prefix + entryName);
+        } else if (listener.goOn()) {
+            // In as much memory as it needs: there may be millions.
+            listener.fileFound(prefix % entryName);
+        } else {
+            return false;
         }
     }
     return true;

@@ -48,6 +48,7 @@ bool FileSearch::list(const QString& folder, Listener& listener, std::vector<QSt
     }
     const std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseSearch> search(first);
     const QString prefix = folder.endsWith(u'/') ? folder : folder + u'/';
+    QSet<QString> told;
     int seen = 0;
     do {
         if (++seen % entriesPerSign == 0 && !listener.keepAlive()) {
@@ -57,13 +58,16 @@ bool FileSearch::list(const QString& folder, Listener& listener, std::vector<QSt
             continue;
         }
         const QString name = QString::fromWCharArray(entry.cFileName);
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        const bool isFolder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if ((!isFolder && !matches(name)) || !isNew(name, told)) {
+            continue;
+        }
+        if (isFolder) {
             subFolders.push_back(prefix + name);
-        } else if (matches(name)) {
-            if (!listener.goOn()) {
-                return false;
-            }
+        } else if (listener.goOn()) {
             listener.fileFound(prefix + name);
+        } else {
+            return false;
         }
     } while (::FindNextFileW(first, &entry) != 0);
     return true;

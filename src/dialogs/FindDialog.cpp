@@ -20,7 +20,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QSet>
 
 #include <utility>
 
@@ -29,6 +28,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 updateIntervalMs = 40;
+// With each portion the list is laid out anew, all of it: of a long list that must not become most of the work.
+constexpr qint64 searchPerLayout = 10;
 
 /// Brings what a search finds into the list, a portion at a time, and keeps the window alive meanwhile.
 class Progress : public FileSearch::Listener
@@ -40,6 +41,7 @@ public:
         , list(resultList)
     {
         sinceUpdate.start();
+        sinceListing.start();
     }
 
     void listRest() { list.addItems(std::exchange(found, {})); }
@@ -60,34 +62,41 @@ public:
         return !dialog.wasCanceled();
     }
 
-    void fileFound(const QString& absolutePath) override
-    {
-        if (!listed.contains(absolutePath)) {
-            listed.insert(absolutePath);
-            found += absolutePath;
-        }
-    }
+    void fileFound(const QString& absolutePath) override { found += absolutePath; }
 
 private:
     void update()
     {
+        if (sinceListing.elapsed() < layoutMs * searchPerLayout) {
+            show();
+        } else {
+            listRest();
+            sinceListing.start();
+            show();
+            layoutMs = sinceListing.elapsed();
+        }
+        sinceUpdate.restart();
+    }
+
+    void show()
+    {
         label.setText(FindDialog::tr("searching:") + folder);
-        listRest();
         // Lets the window paint and the user press Stop; a value that stays the same does not.
         if (dialog.value() == count) {
             QCoreApplication::processEvents();
         }
         dialog.setValue(count);
-        sinceUpdate.restart();
     }
 
     QProgressDialog& dialog;
     QLabel& label;
     QListWidget& list;
     QElapsedTimer sinceUpdate;
+    QElapsedTimer sinceListing;
+    /// What laying the list out took after the last portion.
+    qint64 layoutMs = 0;
     QString folder;
     QStringList found;
-    QSet<QString> listed;
     int count = 0;
 };
 

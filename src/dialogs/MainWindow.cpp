@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/MainWindow.h"
+#include "dialogs/XpmImage.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -51,8 +52,7 @@ Qt::WindowFlags MainWindow::frame()
 
 QIcon MainWindow::icon()
 {
-    // With its format named, Qt does not load every plugin to find out.
-    return QPixmap(u":/AKOVRAIcon.xpm"_s, "XPM");
+    return XpmImage::load(u":/AKOVRAIcon.xpm"_s);
 }
 
 void MainWindow::set(QWidget* window)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "launchers/ArrowImage.h"
+#include "dialogs/XpmImage.h"
 
 #include <QBitmap>
 #include <QEvent>
@@ -28,7 +29,7 @@ bool ArrowImage::eventFilter(QObject* watched, QEvent* event)
 
 void ArrowImage::draw()
 {
-    QPixmap arrow(resource, "XPM");
+    QPixmap arrow = XpmImage::load(resource);
     if (arrow.isNull()) {
         return;
     }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "personality/OptionTables.h"
 
-#include <QSet>
-
+#include <algorithm>
 #include <array>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -397,13 +398,16 @@ QStringList toList(const std::array<const char16_t*, count>& names)
     return list;
 }
 
-QStringList difference(const QStringList& names, const QStringList& others)
+template <size_t count, size_t otherCount>
+QStringList difference(const std::array<const char16_t*, count>& names,
+                       const std::array<const char16_t*, otherCount>& others)
 {
-    const QSet<QString> known(others.cbegin(), others.cend());
+    std::vector<std::u16string_view> known(others.begin(), others.end());
+    std::ranges::sort(known);
     QStringList options;
-    for (const QString& name : names) {
-        if (!known.contains(name)) {
-            options += u'-' + name;
+    for (const char16_t* name : names) {
+        if (!std::ranges::binary_search(known, std::u16string_view(name))) {
+            options += u'-' + QString::fromUtf16(name);
         }
     }
     return options;
@@ -425,12 +429,12 @@ const QStringList& OptionTables::cppOptionNames()
 
 const QStringList& OptionTables::cOnlyOptions()
 {
-    static const QStringList options = difference(cOptionNames(), cppOptionNames());
+    static const QStringList options = difference(cNames, cppNames);
     return options;
 }
 
 const QStringList& OptionTables::cppOnlyOptions()
 {
-    static const QStringList options = difference(cppOptionNames(), cOptionNames());
+    static const QStringList options = difference(cppNames, cNames);
     return options;
 }

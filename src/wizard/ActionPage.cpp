@@ -34,17 +34,32 @@ constexpr int charactersPerFlush = 64 * 1024;
 
 ActionPage::ActionPage(ApplicationWindow* owner)
     : AppPage(owner, ActionPageId)
-    , statusLabel(new QLabel)
-    , itemLabel(new ElidedLabel)
-    , progressBar(new ProgressBar)
-    , stopButton(new QPushButton(tr("&Stop")))
-    , outputView(new OutputView)
-    , logLabel(new QLabel)
     , run(&appRegistry->childProcesses)
     , buffer(OutputView::keptLines)
 {
     setTitle(tr("Create the Project"));
     setSubTitle(tr("Conversion in progress..."));
+    flushTimer.setInterval(flushInterval);
+    connect(&flushTimer, &QTimer::timeout, this, &ActionPage::flushOutput);
+    connect(&run, &ConversionRun::commandStarted, appRegistry,
+            [](const QString& command) { appRegistry->Trace(command); });
+    connect(&run, &ConversionRun::outputReady, this, &ActionPage::ReadReady);
+    connect(&run, &ConversionRun::ended, this, &ActionPage::ProcessComplete);
+}
+
+ActionPage::~ActionPage()
+{
+    run.disconnect(this);
+}
+
+void ActionPage::build()
+{
+    statusLabel = new QLabel;
+    itemLabel = new ElidedLabel;
+    progressBar = new ProgressBar;
+    stopButton = new QPushButton(tr("&Stop"));
+    outputView = new OutputView;
+    logLabel = new QLabel;
     stopButton->setToolTip(tr("Stop the conversion program and everything it started"));
     statusLabel->setBuddy(progressBar);
     progressBar->setAccessibleName(tr("Progress of the conversion"));
@@ -64,19 +79,7 @@ ActionPage::ActionPage(ApplicationWindow* owner)
     grid->addWidget(logLabel, 3, 0, 1, 2);
     // Nobody shall stop the conversion by pressing Enter once too often.
     stopButton->setAutoDefault(false);
-
-    flushTimer.setInterval(flushInterval);
-    connect(&flushTimer, &QTimer::timeout, this, &ActionPage::flushOutput);
     connect(stopButton, &QPushButton::clicked, &run, &ConversionRun::stop);
-    connect(&run, &ConversionRun::commandStarted, appRegistry,
-            [](const QString& command) { appRegistry->Trace(command); });
-    connect(&run, &ConversionRun::outputReady, this, &ActionPage::ReadReady);
-    connect(&run, &ConversionRun::ended, this, &ActionPage::ProcessComplete);
-}
-
-ActionPage::~ActionPage()
-{
-    run.disconnect(this);
 }
 
 void ActionPage::initializePage()

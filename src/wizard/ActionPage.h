@@ -24,6 +24,7 @@ public:
     explicit ActionPage(ApplicationWindow* owner);
     ~ActionPage() override;
 
+    void build() override;
     void initializePage() override;
     void cleanupPage() override;
     bool validatePage() override { return true; }
@@ -47,14 +48,14 @@ private:
     void showEnd();
     void ConversionFinished(const QString& message, bool ok, const QString& colour);
 
-    QLabel* statusLabel;
+    QLabel* statusLabel = nullptr;
     /// What the conversion program is at, as far as it tells.
-    ElidedLabel* itemLabel;
-    ProgressBar* progressBar;
-    QPushButton* stopButton;
-    OutputView* outputView;
+    ElidedLabel* itemLabel = nullptr;
+    ProgressBar* progressBar = nullptr;
+    QPushButton* stopButton = nullptr;
+    OutputView* outputView = nullptr;
     /// Names the file with the complete output.
-    QLabel* logLabel;
+    QLabel* logLabel = nullptr;
     ConversionRun run;
     OutputBuffer buffer;
     OutputLog log;

@@ -22,29 +22,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-SelectFileWidgets::Options fieldOptions()
+std::unique_ptr<SelectFileWidgets> fieldFor(ConfigurationKind kind, const QString& caption)
 {
-    return {.withFind = true, .startFolder = QDir::currentPath(), .withEdit = true};
-}
-
-QString patternOf(ConfigurationKind kind)
-{
-    return factsOf(kind).pattern;
+    return std::make_unique<SelectFileWidgets>(
+        caption, factsOf(kind).pattern,
+        SelectFileWidgets::Options{.withFind = true, .startFolder = QDir::currentPath(), .withEdit = true});
 }
 
 } // namespace
 
 ConfPage::ConfPage(ApplicationWindow* owner)
     : AppPage(owner, ConfPageId)
-    , compilerField(tr("Select Compiler Configuration Options"), patternOf(ConfigurationKind::Compiler), fieldOptions())
-    , analyserField(tr("Select Project Configuration Options"), patternOf(ConfigurationKind::Analyser), fieldOptions())
-    , messageField(tr("Select Message Configuration Options"), patternOf(ConfigurationKind::Message), fieldOptions())
-    , complianceCombo(new QuietCombo)
-    , fields{Field{ConfigurationKind::Message, messageField, new QLabel(tr("Message Configuration File:"))},
-             Field{ConfigurationKind::Analyser, analyserField, new QLabel(tr("Project Configuration Template File:"))},
-             Field{ConfigurationKind::Compiler, compilerField, new QLabel(tr("Compiler Configuration File:"))}}
     , noneText(tr("None"))
 {
+}
+
+ConfPage::~ConfPage() = default;
+
+void ConfPage::build()
+{
+    compilerField = fieldFor(ConfigurationKind::Compiler, tr("Select Compiler Configuration Options"));
+    analyserField = fieldFor(ConfigurationKind::Analyser, tr("Select Project Configuration Options"));
+    messageField = fieldFor(ConfigurationKind::Message, tr("Select Message Configuration Options"));
+    fields.push_back({ConfigurationKind::Message, *messageField, new QLabel(tr("Message Configuration File:"))});
+    fields.push_back(
+        {ConfigurationKind::Analyser, *analyserField, new QLabel(tr("Project Configuration Template File:"))});
+    fields.push_back({ConfigurationKind::Compiler, *compilerField, new QLabel(tr("Compiler Configuration File:"))});
+    complianceCombo = new QuietCombo;
     auto* modules = new QGroupBox(tr("Compliance Modules:"));
     (new QHBoxLayout(modules))->addWidget(complianceCombo);
     complianceCombo->setAccessibleName(modules->title());
@@ -59,9 +63,9 @@ ConfPage::ConfPage(ApplicationWindow* owner)
     hint = addHint();
 
     connect(complianceCombo, &QComboBox::currentIndexChanged, this, &ConfPage::ComplianceChanged);
-    connect(compilerField.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::CPersonalityChanged);
-    connect(analyserField.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::APersonalityChanged);
-    connect(messageField.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::MPersonalityChanged);
+    connect(compilerField->lineEdit(), &QLineEdit::textChanged, this, &ConfPage::CPersonalityChanged);
+    connect(analyserField->lineEdit(), &QLineEdit::textChanged, this, &ConfPage::APersonalityChanged);
+    connect(messageField->lineEdit(), &QLineEdit::textChanged, this, &ConfPage::MPersonalityChanged);
     for (const Field& field : fields) {
         connect(field.widgets.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::completeChanged);
         connect(field.widgets.lineEdit(), &QLineEdit::textChanged, this, &ConfPage::updateHint);
@@ -153,17 +157,17 @@ void ConfPage::updateHint()
 
 void ConfPage::CPersonalityChanged(const QString& fileName)
 {
-    accept(compilerField, window->compilerPersonality, fileName);
+    accept(*compilerField, window->compilerPersonality, fileName);
 }
 
 void ConfPage::APersonalityChanged(const QString& fileName)
 {
-    accept(analyserField, window->analyserPersonality, fileName);
+    accept(*analyserField, window->analyserPersonality, fileName);
 }
 
 void ConfPage::MPersonalityChanged(const QString& fileName)
 {
-    accept(messageField, window->messagePersonality, fileName);
+    accept(*messageField, window->messagePersonality, fileName);
 }
 
 void ConfPage::accept(const SelectFileWidgets& field, QString& stateField, const QString& fileName)

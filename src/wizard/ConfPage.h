@@ -4,7 +4,8 @@
 #include "wizard/AppPage.h"
 #include "wizard/SelectFileWidgets.h"
 
-#include <array>
+#include <memory>
+#include <vector>
 
 enum class ConfigurationKind;
 class QLabel;
@@ -18,7 +19,9 @@ class ConfPage : public AppPage
 
 public:
     explicit ConfPage(ApplicationWindow* owner);
+    ~ConfPage() override;
 
+    void build() override;
     void initializePage() override;
     bool validatePage() override;
     bool isComplete() const override;
@@ -45,12 +48,12 @@ private:
     void updateHint();
     const Field* firstMissing() const;
 
-    SelectFileWidgets compilerField;
-    SelectFileWidgets analyserField;
-    SelectFileWidgets messageField;
-    QuietCombo* complianceCombo;
+    std::unique_ptr<SelectFileWidgets> compilerField;
+    std::unique_ptr<SelectFileWidgets> analyserField;
+    std::unique_ptr<SelectFileWidgets> messageField;
+    QuietCombo* complianceCombo = nullptr;
     /// In the order in which they are asked for.
-    std::array<Field, 3> fields;
+    std::vector<Field> fields;
     QString noneText;
     QWidget* complianceBox = nullptr;
     /// Says which file Next is waiting for.

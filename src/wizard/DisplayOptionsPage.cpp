@@ -19,15 +19,27 @@
 
 DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     : AppPage(owner, DisplayOptionsPageId)
-    , projectLabel(new ElidedLabel)
-    , warning(new QWidget)
-    , warningText(new QLabel)
-    , outputButton(new QPushButton(tr("Show the &conversion's output...")))
-    , buttonGroup(new QGroupBox)
-    , buttonGrid(new QGridLayout)
-    , scrollArea(new QScrollArea)
 {
     setTitle(tr("Analyse and Display Operations"));
+    // The page appears by itself: an Enter that was meant for the one before must not close the wizard.
+    connect(owner, &QWizard::currentIdChanged, this, [owner](int id) {
+        auto* finish = qobject_cast<QPushButton*>(owner->button(QWizard::FinishButton));
+        if (id == DisplayOptionsPageId && finish) {
+            finish->setDefault(false);
+        }
+    });
+}
+
+void DisplayOptionsPage::build()
+{
+    projectLabel = new ElidedLabel;
+    warning = new QWidget;
+    warningIcon = new QLabel;
+    warningText = new QLabel;
+    outputButton = new QPushButton(tr("Show the &conversion's output..."));
+    buttonGroup = new QGroupBox;
+    buttonGrid = new QGridLayout;
+    scrollArea = new QScrollArea;
     buttonGroup->setFlat(true);
     buttonGroup->setLayout(buttonGrid);
     // A disabled button gets no menu of its own, but its tool may run all the same.
@@ -38,19 +50,11 @@ DisplayOptionsPage::DisplayOptionsPage(ApplicationWindow* owner)
     scrollArea->setFocusPolicy(Qt::NoFocus);
     // The page before is left at once, with all that its program said.
     outputButton->setAutoDefault(false);
-    connect(outputButton, &QPushButton::clicked, owner, &ApplicationWindow::showConversionOutput);
+    connect(outputButton, &QPushButton::clicked, window, &ApplicationWindow::showConversionOutput);
     auto* layout = new QVBoxLayout(this);
     createNotes(*layout);
     layout->addWidget(scrollArea);
     layout->addWidget(outputButton, 0, Qt::AlignLeft);
-    showNotes();
-    // The page appears by itself: an Enter that was meant for the one before must not close the wizard.
-    connect(owner, &QWizard::currentIdChanged, this, [owner](int id) {
-        auto* finish = qobject_cast<QPushButton*>(owner->button(QWizard::FinishButton));
-        if (id == DisplayOptionsPageId && finish) {
-            finish->setDefault(false);
-        }
-    });
 }
 
 void DisplayOptionsPage::createNotes(QLayout& layout)
@@ -58,12 +62,9 @@ void DisplayOptionsPage::createNotes(QLayout& layout)
     warningText->setTextFormat(Qt::PlainText);
     warningText->setWordWrap(true);
     warningText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    auto* icon = new QLabel;
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
     auto* row = new QHBoxLayout(warning);
     row->setContentsMargins({});
-    row->addWidget(icon, 0, Qt::AlignTop);
+    row->addWidget(warningIcon, 0, Qt::AlignTop);
     row->addWidget(warningText, 1);
     layout.addWidget(projectLabel);
     layout.addWidget(warning);
@@ -79,8 +80,13 @@ void DisplayOptionsPage::showNotes()
                       : tr("Launch an application to analyse and display the project information"));
     projectLabel->setLine(isNew ? QString() : tr("Project: %1").arg(opened));
     projectLabel->setVisible(!isNew);
-    warningText->setText(window->conversionWarning);
-    warning->setVisible(isNew && !window->conversionWarning.isEmpty());
+    const bool hasWarning = isNew && !window->conversionWarning.isEmpty();
+    if (hasWarning) {
+        const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+        warningIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
+        warningText->setText(window->conversionWarning);
+    }
+    warning->setVisible(hasWarning);
     outputButton->setVisible(isNew);
 }
 

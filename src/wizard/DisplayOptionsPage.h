@@ -20,6 +20,7 @@ class DisplayOptionsPage : public AppPage
 public:
     explicit DisplayOptionsPage(ApplicationWindow* owner);
 
+    void build() override;
     void initializePage() override;
     void cleanupPage() override;
     bool validatePage() override { return true; }
@@ -38,12 +39,13 @@ private:
     static PageData* launcherPage();
 
     /// Names the project where no page before has.
-    ElidedLabel* projectLabel;
-    QWidget* warning;
-    QLabel* warningText;
-    QPushButton* outputButton;
-    QGroupBox* buttonGroup;
-    QGridLayout* buttonGrid;
-    QScrollArea* scrollArea;
+    ElidedLabel* projectLabel = nullptr;
+    QWidget* warning = nullptr;
+    QLabel* warningIcon = nullptr;
+    QLabel* warningText = nullptr;
+    QPushButton* outputButton = nullptr;
+    QGroupBox* buttonGroup = nullptr;
+    QGridLayout* buttonGrid = nullptr;
+    QScrollArea* scrollArea = nullptr;
     bool hasButtons = false;
 };

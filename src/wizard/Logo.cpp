@@ -6,12 +6,26 @@
 #include <QList>
 #include <QPixmap>
 #include <QPoint>
+#include <QResource>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The decoded points of :/logo_shadow.jpg: to load the decoder is what takes most of its time, and the window would
+// wait for it.
+QImage drawing()
+{
+    constexpr int side = 60;
+    constexpr int bytesPerLine = side * 3;
+    const QByteArray points = QResource(u":/logo_shadow.rgb"_s).uncompressedData();
+    return points.size() == side * bytesPerLine ? QImage(reinterpret_cast<const uchar*>(points.constData()), side, side,
+                                                         bytesPerLine, QImage::Format_RGB888)
+                                                      .convertToFormat(QImage::Format_RGB32)
+                                                : QImage();
+}
 
 // What is around the drawing: grey, as the shadow is, or white. The drawing has dark and coloured edges.
 bool isAround(const QColor& colour)
@@ -42,12 +56,11 @@ void clearAround(QImage& image)
 
 QPixmap Logo::on(const QColor& background)
 {
-    // With its format named, Qt does not load every plugin to find out.
-    QPixmap logo(u":/logo_shadow.jpg"_s, "JPG");
+    QImage image = drawing();
     if (background.rgb() == QColor(Qt::white).rgb()) {
-        return logo;
+        return QPixmap::fromImage(image);
     }
-    QImage image = logo.toImage().convertToFormat(QImage::Format_ARGB32);
+    image.convertTo(QImage::Format_ARGB32);
     clearAround(image);
     return QPixmap::fromImage(image);
 }

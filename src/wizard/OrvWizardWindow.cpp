@@ -159,6 +159,16 @@ void OrvWizardWindow::Finished(int result)
     }
 }
 
+void OrvWizardWindow::initializePage(int id)
+{
+    auto* entered = qobject_cast<OrvBasicWizardPage*>(page(id));
+    if (entered && !builtPages.contains(id)) {
+        builtPages.insert(id);
+        entered->build();
+    }
+    QWizard::initializePage(id);
+}
+
 // By now the window is as large as its first page wants it.
 void OrvWizardWindow::showEvent(QShowEvent* event)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSet>
 #include <QStringList>
 #include <QWizard>
 
@@ -30,6 +31,8 @@ public Q_SLOTS:
     void Finished(int result);
 
 protected:
+    /// Has a page build itself before it is entered for the first time.
+    void initializePage(int id) override;
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -65,4 +68,5 @@ private:
     void fitPage();
 
     HelpManager* help = nullptr;
+    QSet<int> builtPages;
 };

@@ -14,13 +14,19 @@ constexpr int shownCharacters = 20;
 QuietCombo::QuietCombo(QWidget* parent)
     : QComboBox(parent)
 {
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(shownCharacters);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // The wheel does not give it the focus either.
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::currentTextChanged, this,
             [this](const QString& text) { setToolTip(PlainText::toolTip(text)); });
+}
+
+// What is asked for at least, whatever the names are. The size policy that says so makes Qt build the list of choices
+// at once.
+QSize QuietCombo::sizeHint() const
+{
+    return minimumSizeHint();
 }
 
 void QuietCombo::wheelEvent(QWheelEvent* event)

@@ -12,6 +12,8 @@ class QuietCombo : public QComboBox
 public:
     explicit QuietCombo(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

@@ -6,6 +6,7 @@
 #include "dialogs/FindDialog.h"
 #include "dialogs/MainWindow.h"
 #include "dialogs/MessageBox.h"
+#include "dialogs/XpmImage.h"
 #include "wizard/FieldButton.h"
 #include "wizard/PathEdit.h"
 
@@ -22,6 +23,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -76,7 +78,7 @@ QLineEdit* SelectFileWidgets::lineEdit() const
 
 void SelectFileWidgets::createButtons()
 {
-    editButton = new QPushButton(QPixmap(u":/editicon.xpm"_s, "XPM"), QString(), frameWidget);
+    editButton = new QPushButton(XpmImage::load(u":/editicon.xpm"_s), QString(), frameWidget);
     editButton->setToolTip(tr("Edit the specified file"));
     editButton->setAccessibleName(tr("Edit") + u": "_s + caption);
     editButton->setEnabled(false);

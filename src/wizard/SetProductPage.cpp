@@ -17,7 +17,6 @@ SetProductPage::SetProductPage(ApplicationWindow* owner)
     , cRadio(new QRadioButton(tr("Orv C [Project is 'C' Code Only]")))
     , cppRadio(new QRadioButton(tr("Orv C++ [Project contains 'C++' Code]")))
     , endNote(new QLabel)
-    , warningBox(std::make_unique<QGroupBox>())
 {
     setTitle(tr("Select KOVRA Analyser Tool"));
     setSubTitle(tr("Specify which Orv tool will be used to analyse the source code."));
@@ -44,29 +43,40 @@ SetProductPage::SetProductPage(ApplicationWindow* owner)
     grid->addWidget(endNote, 2, 0);
     grid->setRowStretch(3, 1);
     endNote->setWordWrap(true);
-    endNote->setText(owner->noConversionText());
-
-    auto* warning =
-        new AlarmLabel(tr("<font color='red'><U>WARNING</U><P>There are no KOVRA Analysers installed on this "
-                          "machine.</font>"));
-    (new QHBoxLayout(warningBox.get()))->addWidget(warning);
-    warningBox->setWindowTitle(owner->windowTitle());
-    warningBox->setWindowIcon(owner->windowIcon());
-    // It must not keep the program running once the wizard is gone.
-    warningBox->setAttribute(Qt::WA_QuitOnClose, false);
-    warningBox->setAttribute(Qt::WA_ShowWithoutActivating);
-    connect(owner, &QDialog::finished, warningBox.get(), &QWidget::hide);
+    endNote->setText(ApplicationWindow::noConversionText());
 }
 
 SetProductPage::~SetProductPage() = default;
+
+QWidget& SetProductPage::warning()
+{
+    if (!warningBox) {
+        warningBox = std::make_unique<QGroupBox>();
+        auto* text =
+            new AlarmLabel(tr("<font color='red'><U>WARNING</U><P>There are no KOVRA Analysers installed on this "
+                              "machine.</font>"));
+        (new QHBoxLayout(warningBox.get()))->addWidget(text);
+        warningBox->setWindowTitle(window->windowTitle());
+        warningBox->setWindowIcon(window->windowIcon());
+        // It must not keep the program running once the wizard is gone.
+        warningBox->setAttribute(Qt::WA_QuitOnClose, false);
+        warningBox->setAttribute(Qt::WA_ShowWithoutActivating);
+        connect(window, &QDialog::finished, warningBox.get(), &QWidget::hide);
+    }
+    return *warningBox;
+}
 
 void SetProductPage::initializePage()
 {
     (window->isORVC ? cRadio : cppRadio)->setChecked(true);
     endNote->setVisible(nextId() == NoPageId);
-    // Hidden first, so that it comes to the front again.
-    warningBox->hide();
-    warningBox->setVisible(window->noAnalyserInstalled);
+    if (warningBox) {
+        // So that it comes to the front again.
+        warningBox->hide();
+    }
+    if (window->noAnalyserInstalled) {
+        warning().show();
+    }
 }
 
 void SetProductPage::cleanupPage()

@@ -25,10 +25,13 @@ public:
     bool isComplete() const override { return true; }
 
 private:
+    /// What is shown when no analyser is installed.
+    QWidget& warning();
+
     QRadioButton* cRadio;
     QRadioButton* cppRadio;
     /// Says that the wizard ends here without a conversion.
     QLabel* endNote;
-    /// A window of its own beside the wizard.
+    /// A window of its own beside the wizard, made when it is first shown.
     std::unique_ptr<QGroupBox> warningBox;
 };

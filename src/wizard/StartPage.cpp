@@ -25,18 +25,14 @@ StartPage::StartPage(ApplicationWindow* owner)
     , location(tr("Select Directory"), tr("*"), {.selectFiles = false, .startFolder = QDir::currentPath()})
     , nameEdit(new FieldEdit)
     , typeCombo(new QuietCombo)
-    , errorLabel(new AlarmLabel(errorText()))
+    , errorLabel(new AlarmLabel(appRegistry->definitions.hasConversionTypes() ? QString() : errorText()))
     , warnings(new QLabel)
 {
     setTitle(tr("Project Information"));
     setSubTitle(tr("Specify new project name and conversion project type"));
 
     layOut();
-    warnings->setTextFormat(Qt::PlainText);
-    warnings->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    warnings->setWordWrap(true);
-    warnings->setText(StartupWarnings::all(*appRegistry).join(u'\n'));
-    warnings->setVisible(!warnings->text().isEmpty());
+    showWarnings();
 
     errorLabel->hide();
     fillTypes();
@@ -88,6 +84,18 @@ QString StartPage::errorText()
            "<P><b><i>%1</i></b>.<P>This file is not of the correct format or could not be located.")
             .arg(appRegistry->DefinitionsFileName().toHtmlEscaped());
     return u"<font color='%1'>%2</font>"_s.arg(u"red"_s, message);
+}
+
+void StartPage::showWarnings()
+{
+    const QStringList texts = StartupWarnings::all(*appRegistry);
+    warnings->setVisible(!texts.isEmpty());
+    if (!texts.isEmpty()) {
+        warnings->setTextFormat(Qt::PlainText);
+        warnings->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        warnings->setWordWrap(true);
+        warnings->setText(texts.join(u'\n'));
+    }
 }
 
 void StartPage::fillTypes()

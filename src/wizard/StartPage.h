@@ -25,6 +25,7 @@ public:
 private:
     static QString errorText();
     void layOut();
+    void showWarnings();
     void fillTypes();
     void updateButtons();
     void updateHint();

@@ -50,8 +50,8 @@ private Q_SLOTS:
         // A position that is not on any screen any more.
         suite.start().windowPos = QPoint(3000, 2000);
         const WizardDriver wizard;
-        const QRect screen = wizard.window.screen()->availableGeometry();
-        QVERIFY(screen.contains(wizard.window.geometry()));
+        QVERIFY(wizard.window.screen()->availableGeometry().contains(wizard.window.geometry()));
+        QCOMPARE(wizard.window.pixmap(QWizard::LogoPixmap).toImage(), QImage(u":/logo_shadow.jpg"_s));
         QVERIFY(!wizard.canGoOn());
         QVERIFY(wizard.labels().contains(u"To continue, name the project and its folder."_s));
         const QString folder = suite.nativePath(u"work/new/deep"_s);
