@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QCompleter>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -126,7 +127,9 @@ private Q_SLOTS:
         const Suite suite;
         const WizardDriver wizard;
         suite.passToInputs(wizard, false);
-        QVERIFY(wizard.labels().contains(u"To continue, name an existing file or folder in \"Source\"."_s));
+        // It is not scrolled away with the inputs.
+        const QString hint = u"To continue, name an existing file or folder in \"Source\"."_s;
+        QCOMPARE(controlCalled<QLabel>(*wizard.window.currentPage(), hint).parentWidget(), wizard.window.currentPage());
         QLineEdit& source = wizard.edit(u"Source"_s);
         const auto colour = [&source] { return source.palette().color(source.foregroundRole()); };
         QTest::keyClicks(&source, suite.source + u'x');
