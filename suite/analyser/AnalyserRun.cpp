@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "AnalyserRun.h"
 #include "Failure.h"
+#include "ToolFolders.h"
+#include "ToolText.h"
 
 #include <QDir>
 #include <QProcess>
@@ -21,7 +23,7 @@ constexpr int defaultSeconds = 600;
 /// The first line of what a program said; a user looks for the reason there.
 QString firstLine(const QByteArray& output)
 {
-    return QString::fromUtf8(output).trimmed().section(u'\n', 0, 0).trimmed();
+    return ToolText::fromChannel(output).trimmed().section(u'\n', 0, 0).trimmed();
 }
 
 void judge(QProcess& analyser, AnalyserRun& run)
@@ -29,7 +31,10 @@ void judge(QProcess& analyser, AnalyserRun& run)
     const QByteArray complaints = analyser.readAllStandardOutput();
     if (analyser.exitStatus() != QProcess::NormalExit) {
         run.end = AnalyserRun::End::Crashed;
-        run.reason = u"the analyser ended with signal %1"_s.arg(analyser.exitCode());
+        // Windows has no signals, but a status for each kind of crash.
+        const int code = analyser.exitCode();
+        run.reason = code < 0 ? u"the analyser crashed (0x%1)"_s.arg(uint(code), 8, 16, QLatin1Char('0'))
+                              : u"the analyser ended with signal %1"_s.arg(code);
     } else if (analyser.exitCode() != 0) {
         run.end = AnalyserRun::End::Failed;
         run.reason =
@@ -44,10 +49,10 @@ void judge(QProcess& analyser, AnalyserRun& run)
 QList<Finding> findingsIn(const QByteArray& output)
 {
     QList<Finding> findings;
-    const QStringList lines = QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts);
-    for (const QString& line : lines) {
+    // Line by line, since a text may be that of a source in another encoding.
+    for (const QByteArray& line : output.split('\n')) {
         Finding finding;
-        if (finding.fromLine(line)) {
+        if (finding.fromLine(ToolText::fromChannel(line))) {
             finding.file = QDir::fromNativeSeparators(finding.file);
             findings += finding;
         }
@@ -80,7 +85,8 @@ AnalyserRun AnalyserRun::start(const QStringList& arguments, const QString& fold
     analyser.start(QLatin1StringView(Analyser::program), withPlatform(arguments));
     if (!analyser.waitForStarted(-1)) {
         run.end = End::Failed;
-        run.reason = u"cppcheck can not be started: %1. Install the package cppcheck."_s.arg(analyser.errorString());
+        run.reason =
+            u"cppcheck can not be started: %1. %2"_s.arg(analyser.errorString(), ToolFolders::howToGet(u"cppcheck"_s));
         return run;
     }
     if (!analyser.waitForFinished(seconds * 1000)) {
@@ -100,7 +106,8 @@ QString Analyser::version()
     QProcess analyser;
     analyser.start(QLatin1StringView(program), {u"--version"_s});
     if (!analyser.waitForFinished(60000) || analyser.exitCode() != 0) {
-        throw Failure{u"cppcheck can not be started: %1. Install the package cppcheck."_s.arg(analyser.errorString())};
+        throw Failure{
+            u"cppcheck can not be started: %1. %2"_s.arg(analyser.errorString(), ToolFolders::howToGet(u"cppcheck"_s))};
     }
     const QString said = firstLine(analyser.readAllStandardOutput());
     static const QRegularExpression number(u"[0-9]+(\\.[0-9]+)+"_s);

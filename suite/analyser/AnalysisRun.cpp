@@ -106,7 +106,7 @@ NinjaEnd runJobs(const AnalysisPlan& plan, const std::vector<UnitOptions>& optio
     if (units.isEmpty()) {
         return NinjaEnd::Done;
     }
-    writeRunFile(plan, options, units, QCoreApplication::applicationFilePath(), settings.usedJobs());
+    writeRunFile(plan, options, units, QCoreApplication::applicationFilePath(), settings);
     qsizetype done = 0;
     return NinjaRun::run(plan.workFolder(), settings, [&](const QString& numbers) {
         for (const QString& number : numbers.split(u' ', Qt::SkipEmptyParts)) {

@@ -5,6 +5,7 @@
 #include "NinjaSyntax.h"
 #include "OptionSet.h"
 #include "ResultFile.h"
+#include "ToolText.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -54,7 +55,7 @@ public:
                 add(unit, options.back());
             }
         }
-        ResultFile::writeChanged(plan.workFolder() + u"/build.ninja"_s, text.toUtf8());
+        ResultFile::writeChanged(plan.workFolder() + u"/build.ninja"_s, ToolText::forNinja(text));
         return options;
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IncludeScan.h"
 #include "ResultFile.h"
+#include "ToolText.h"
 
 #include <QDir>
 #include <QFile>
@@ -152,9 +153,9 @@ bool IncludeScan::isFile(const QString& path)
 
 QByteArray dependencyRule(const QString& target, const QStringList& files)
 {
-    QByteArray rule = target.toUtf8() + ':';
+    QByteArray rule = ToolText::forNinja(target) + ':';
     for (const QString& file : files) {
-        QByteArray name = QFile::encodeName(file);
+        QByteArray name = ToolText::forNinja(file);
         // Ninja can not read a name with one of these out of a rule; no header in use has one.
         if (name.contains('*') || name.contains(';') || name.contains('<') || name.contains('>') ||
             name.contains('|') || name.contains('^') || name.contains('`')) {

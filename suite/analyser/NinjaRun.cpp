@@ -4,6 +4,8 @@
 #include "Failure.h"
 #include "NinjaSyntax.h"
 #include "RunFile.h"
+#include "ToolFolders.h"
+#include "ToolText.h"
 
 #include <QByteArrayList>
 #include <QFile>
@@ -15,6 +17,9 @@
 
 #ifdef Q_OS_LINUX
 #include <sys/prctl.h>
+#endif
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -46,7 +51,27 @@ void catchSignals()
 
 #else
 
-void catchSignals() {}
+// Ninja hears of it as well, in the same console, and ends its jobs.
+BOOL WINAPI handOn(DWORD)
+{
+    stopSignal = SIGINT;
+    return TRUE;
+}
+
+void catchSignals()
+{
+    ::SetConsoleCtrlHandler(handOn, TRUE);
+}
+
+// Held until this program ends, however it does: with it end Ninja and all that it started.
+void endChildrenWithUs()
+{
+    const HANDLE job = ::CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    ::SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof limits);
+    ::AssignProcessToJobObject(job, ::GetCurrentProcess());
+}
 
 #endif
 
@@ -57,7 +82,8 @@ void start(QProcess& ninja, const QStringList& arguments)
 {
     ninja.start(u"ninja"_s, arguments);
     if (!ninja.waitForStarted(-1)) {
-        throw Failure{u"ninja can not be started: %1. Install the package ninja-build."_s.arg(ninja.errorString())};
+        throw Failure{
+            u"ninja can not be started: %1. %2"_s.arg(ninja.errorString(), ToolFolders::howToGet(u"ninja-build"_s))};
     }
 }
 
@@ -133,7 +159,7 @@ QStringList NinjaRun::staleFolders(const QString& workFolder)
     QStringList folders;
     for (const QByteArray& line : lines) {
         if (line.startsWith(endedMark.latin1())) {
-            folders += QString::fromUtf8(line.sliced(endedMark.size())).trimmed();
+            folders += ToolText::fromFile(line.sliced(endedMark.size())).trimmed();
         }
     }
     return folders;
@@ -149,6 +175,8 @@ NinjaEnd NinjaRun::run(const QString& workFolder, const RunSettings& settings,
     ninja.setProcessEnvironment(environmentOf(settings));
 #ifdef Q_OS_LINUX
     ninja.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+#elif defined(Q_OS_WIN)
+    endChildrenWithUs();
 #endif
     catchSignals();
     start(ninja,

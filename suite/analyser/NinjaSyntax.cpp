@@ -22,11 +22,11 @@ QString NinjaSyntax::path(const QString& path)
     return value(path).replace(u' ', u"$ "_s).replace(u':', u"$:"_s);
 }
 
-QString NinjaSyntax::launcher()
+QString NinjaSyntax::launcher([[maybe_unused]] const QString& given)
 {
 #ifdef Q_OS_UNIX
     return u"$$"_s + QLatin1StringView(launcherVariable) + u' ';
 #else
-    return value(qEnvironmentVariable(launcherVariable)) + u' ';
+    return value(given) + u' ';
 #endif
 }

@@ -12,8 +12,9 @@ QString shellQuoted(const QString& word);
 QString value(QString text);
 /// For the name of a file in a build statement.
 QString path(const QString& path);
-/// The beginning of a command, in the form of value(): what --launcher puts before every job.
-QString launcher();
+/// The beginning of a command, in the form of value(): what --launcher puts before every job. A shell takes it from the
+/// variable, so that the file stays the same; without one it stands there as given.
+QString launcher(const QString& given);
 
 /// The variable that holds the launcher.
 inline constexpr char launcherVariable[] = "ORV_LAUNCHER";

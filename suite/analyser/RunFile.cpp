@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "RunFile.h"
 #include "AnalysisPlan.h"
+#include "NinjaRun.h"
 #include "NinjaSyntax.h"
 #include "ResultFile.h"
+#include "ToolText.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -91,12 +93,12 @@ private:
 } // namespace
 
 void writeRunFile(const AnalysisPlan& plan, const std::vector<UnitOptions>& options, const QList<size_t>& units,
-                  const QString& program, int jobs)
+                  const QString& program, const RunSettings& settings)
 {
     QString text = u"ninja_required_version = 1.8\nbuilddir = run\n\nrule analyse\n  command = "_s +
-                   NinjaSyntax::launcher() + NinjaSyntax::value(NinjaSyntax::shellQuoted(program)) +
+                   NinjaSyntax::launcher(settings.launcher) + NinjaSyntax::value(NinjaSyntax::shellQuoted(program)) +
                    u" job $orders\n  description = $units\n"_s;
-    const QList<Batch> batches = Batches(plan, jobs).of(options, units);
+    const QList<Batch> batches = Batches(plan, settings.usedJobs()).of(options, units);
     for (qsizetype i = 0; i < batches.size(); ++i) {
         QString orders;
         QString numbers;
@@ -110,5 +112,5 @@ void writeRunFile(const AnalysisPlan& plan, const std::vector<UnitOptions>& opti
         text += u"\nbuild run/%1: analyse\n  orders ="_s.arg(i) + NinjaSyntax::value(orders) + u"\n  units ="_s +
                 numbers + u'\n';
     }
-    ResultFile::write(plan.workFolder() + u'/' + QLatin1StringView(runFileName), text.toUtf8());
+    ResultFile::write(plan.workFolder() + u'/' + QLatin1StringView(runFileName), ToolText::forNinja(text));
 }

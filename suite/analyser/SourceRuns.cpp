@@ -2,6 +2,7 @@
 #include "SourceRuns.h"
 #include "OptionSet.h"
 #include "ResultFile.h"
+#include "ToolText.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,7 +32,7 @@ QByteArray database(const std::vector<SourceRuns::Task>& tasks, const QString& m
                                {u"file"_s, task.order.source},
                                {u"command"_s, task.options->command + moreDefines}};
     }
-    return QJsonDocument(entries).toJson(QJsonDocument::Compact);
+    return ToolText::forCppcheck(QString::fromUtf8(QJsonDocument(entries).toJson(QJsonDocument::Compact)));
 }
 
 /// cppcheck would take an earlier result for this one's: it does not see that libraries or the platform changed.
@@ -52,9 +53,10 @@ QHash<QString, QString> recordsIn(const QString& folder)
 {
     QHash<QString, QString> records;
     const QStringList lines =
-        QString::fromUtf8(ResultFile::read(folder + u"/files.txt"_s)).split(u'\n', Qt::SkipEmptyParts);
+        ToolText::fromFile(ResultFile::read(folder + u"/files.txt"_s)).split(u'\n', Qt::SkipEmptyParts);
     for (const QString& line : lines) {
-        records.insert(line.section(u"::"_s, 1), folder + u'/' + line.section(u"::"_s, 0, 0));
+        records.insert(QDir::fromNativeSeparators(line.section(u"::"_s, 1).trimmed()),
+                       folder + u'/' + line.section(u"::"_s, 0, 0));
     }
     return records;
 }
@@ -147,7 +149,7 @@ Finding readError(QXmlStreamReader& xml)
         if (!hasPlace && xml.name() == "location"_L1) {
             hasPlace = true;
             const QXmlStreamAttributes place = xml.attributes();
-            finding.file = place.value("file"_L1).toString();
+            finding.file = QDir::fromNativeSeparators(place.value("file"_L1).toString());
             finding.line = place.value("line"_L1).toInt();
             finding.column = place.value("column"_L1).toInt();
         }

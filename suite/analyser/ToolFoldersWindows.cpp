@@ -31,3 +31,8 @@ void ToolFolders::appendToPath()
     ::_wputenv_s(L"PATH", wide.c_str());
     ::SetEnvironmentVariableW(L"PATH", wide.c_str());
 }
+
+QString ToolFolders::howToGet(const QString& package)
+{
+    return u"Install %1; it is looked for in PATH and in the folders that installers choose."_s.arg(package);
+}

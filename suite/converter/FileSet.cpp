@@ -14,8 +14,8 @@ namespace {
 
 Failure cannotWrite(const QString& path, const QString& reason)
 {
-    return {u"%1: can not be written (%2). Make room or choose another folder; what was there before is still "
-            "there."_s.arg(path, reason)};
+    return {u"%1: can not be written (%2). Make room, close programs that use it or choose another folder; what was "
+            "there before is still there."_s.arg(QDir::toNativeSeparators(path), reason)};
 }
 
 // What was only half written says so at the flush: QSaveFile::commit() of Qt 6.4 is content without it.
@@ -68,7 +68,11 @@ void FileSet::add(const QString& path, const QByteArray& contents)
         throw cannotWrite(path, u"it is not a file"_s);
     }
     QByteArray oldContents;
-    if (info.exists() && old.open(QIODevice::ReadOnly)) {
+    if (info.exists()) {
+        // What can not be read could not be put back either.
+        if (!old.open(QIODevice::ReadOnly)) {
+            throw cannotWrite(path, old.errorString());
+        }
         oldContents = old.readAll();
         if (oldContents == contents) {
             return;

@@ -2,6 +2,7 @@
 #include "OwnedFile.h"
 #include "Failure.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -36,7 +37,13 @@ QByteArray OwnedFile::userPart(const QString& path)
 
 QByteArray OwnedFile::contents(const QString& path, const QString& ownText)
 {
-    if (QFileInfo(path).isFile() && !isOurs(path)) {
+    const bool isThere = QFileInfo(path).isFile();
+    // Whose it is can not be told then, and the user's part not be kept.
+    if (QFile file(path); isThere && !file.open(QIODevice::ReadOnly)) {
+        throw Failure{u"%1: can not be read (%2). Close programs that use it; nothing was changed."_s.arg(
+            QDir::toNativeSeparators(path), file.errorString())};
+    }
+    if (isThere && !isOurs(path)) {
         throw Failure{
             u"%1: is there already and was not written by this program. Move it away or choose another project "
             "name."_s.arg(path)};

@@ -33,7 +33,12 @@ QString endingOf(const QProcess& process, const QString& program)
 void BuildRun::require(const QString& program, const QString& package)
 {
     if (QStandardPaths::findExecutable(program).isEmpty()) {
-        throw Failure{u"%1 is needed for this and was not found. Install the package \"%2\"."_s.arg(program, package)};
+#ifdef Q_OS_WIN
+        const QString advice = u"Install %1 and put its folder into PATH."_s;
+#else
+        const QString advice = u"Install the package \"%1\"."_s;
+#endif
+        throw Failure{u"%1 is needed for this and was not found. "_s.arg(program) + advice.arg(package)};
     }
 }
 
