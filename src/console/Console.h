@@ -11,6 +11,10 @@ namespace Console {
 /// until the program ends. Messages of Qt go to the standard error channel, as they do elsewhere.
 void open();
 
+/// Windows: lets Ctrl+C and the end of the console reach a program with windows, which else has no part in it. Its
+/// channels lead on to where they led.
+void hearKeys();
+
 /// The command line's arguments with the program's name, none of their letters lost.
 QStringList arguments(int argc, char** argv);
 

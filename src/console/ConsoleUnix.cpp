@@ -6,6 +6,8 @@
 
 void Console::open() {}
 
+void Console::hearKeys() {}
+
 QStringList Console::arguments(int argc, char** argv)
 {
     QStringList texts;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/Console.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -68,6 +70,19 @@ void Console::open()
     attach();
     speakUtf8();
     qInstallMessageHandler(printMessage);
+}
+
+void Console::hearKeys()
+{
+    constexpr std::array channels = {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE};
+    std::array<HANDLE, channels.size()> places = {};
+    std::ranges::transform(channels, places.begin(), ::GetStdHandle);
+    if (!::AttachConsole(ATTACH_PARENT_PROCESS)) {
+        return;
+    }
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        ::SetStdHandle(channels[i], places[i]);
+    }
 }
 
 QStringList Console::arguments(int, char**)

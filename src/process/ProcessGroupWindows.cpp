@@ -34,6 +34,8 @@ void ProcessGroup::becomeLeader() {}
 // Taken into the job when it runs already, the child could have started others outside.
 void* ProcessGroup::startInside(const void* startup, unsigned long& flags)
 {
+    // Not in our console: a child that heard of Ctrl+C as well would seem to have ended by itself.
+    flags |= CREATE_NO_WINDOW;
     SIZE_T size = 0;
     InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
     handle->attributes.resize(size);

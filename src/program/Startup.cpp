@@ -148,6 +148,9 @@ int Startup::run(int argc, char** argv)
     if (CommandLine::endsProgram(arguments)) {
         return runWithoutWindow(argc, argv);
     }
+    if (BatchArguments::isBatch(arguments)) {
+        Console::hearKeys();
+    }
     watchOverChildren();
     const int status = BatchArguments::isBatch(arguments) ? runWithoutWindow(argc, argv) : runWithWindow(argc, argv);
     Guardian::dismiss();
