@@ -31,7 +31,9 @@ private Q_SLOTS:
         row("version", {u"-file"_s, u"a.xml"_s, u"-ver"_s}, {}, 0, version);
         // Scripts read the options: they are the same in every language.
         row("options", {u"-help"_s}, u"de"_s, 0, usage);
+#ifdef Q_OS_UNIX
         row("no display", {}, {}, 1, u"ProjectCreation: no display to open a window on ("_s);
+#endif
     }
 
     void endsWithoutWindow()
@@ -78,20 +80,21 @@ private Q_SLOTS:
     void presetsFromTheCommandLine()
     {
         const Installation suite;
-        const QString file = suite.write(u"p.p_c"_s, "");
+        const QString file = QDir::toNativeSeparators(suite.write(u"p.p_c"_s, ""));
+        const QString missing = suite.nativePath(u"missing"_s);
         WizardState state;
-        CommandLine::preset({u"exe"_s, u"-c"_s, u"-cpp"_s, u"-prj"_s, u"/work/new.v2.prj"_s, u"-cp"_s, file, u"-ap"_s,
-                             file, u"-mp"_s, u"/missing"_s, u"-cp"_s},
+        CommandLine::preset({u"exe"_s, u"-c"_s, u"-cpp"_s, u"-prj"_s, suite.path(u"new.v2.prj"_s), u"-cp"_s, file,
+                             u"-ap"_s, file, u"-mp"_s, missing, u"-cp"_s},
                             state);
         QVERIFY(state.cppAvailable);
         QVERIFY(!state.cAvailable);
         QVERIFY(!state.personalitiesGiven);
-        QCOMPARE(state.ProjectFile(), u"/work/new.prj"_s);
+        QCOMPARE(state.ProjectFile(), suite.nativePath(u"new.prj"_s));
         QCOMPARE(state.compilerPersonality, file);
-        QCOMPARE(state.messagePersonality, u"/missing"_s);
-        CommandLine::preset({u"-mp"_s, file, u"-ap"_s, file, u"-cp"_s, file, u"-cp"_s, u"/gone"_s}, state);
+        QCOMPARE(state.messagePersonality, missing);
+        CommandLine::preset({u"-mp"_s, file, u"-ap"_s, file, u"-cp"_s, file, u"-cp"_s, missing}, state);
         QVERIFY(state.personalitiesGiven);
-        QCOMPARE(state.compilerPersonality, u"/gone"_s);
+        QCOMPARE(state.compilerPersonality, missing);
     }
 
     void temporaryFilesLastUntilShutDown()

@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -32,10 +33,11 @@ private Q_SLOTS:
         store.setValue(u"autoCreateExts"_s, QStringList{u"*.c"_s, u"*.h"_s});
         store.sync();
         PersistedValues values;
-        values.Read(u"/opt/tools/bin/wizard"_s);
-        QCOMPARE(values.binArea, u"/opt/tools/bin"_s);
-        QCOMPARE(values.xmlArea, u"/opt/tools/xml"_s);
-        QCOMPARE(values.helpArea, u"/opt/tools/help"_s);
+        const QString tools = QFileInfo(u"/opt/tools"_s).absoluteFilePath();
+        values.Read(tools + u"/bin/wizard"_s);
+        QCOMPARE(values.binArea, tools + u"/bin"_s);
+        QCOMPARE(values.xmlArea, tools + u"/xml"_s);
+        QCOMPARE(values.helpArea, tools + u"/help"_s);
         QCOMPARE(values.cMessagePersonality, u"C:\\m.p_s"_s);
         QVERIFY(values.runCMA);
         QCOMPARE(values.rootMakefile, QString());

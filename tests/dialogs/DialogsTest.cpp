@@ -132,6 +132,7 @@ private Q_SLOTS:
             html.show();
             auto* browser = html.findChild<QTextBrowser*>();
             QCOMPARE(browser->toPlainText(), u"Größe €"_s);
+            QVERIFY(!findControl(html, u"&Open in the browser"_s));
             QPushButton& back = controlCalled<QPushButton>(html, u"Back"_s);
             QVERIFY(!back.isEnabled());
             browser->setSource(QUrl::fromLocalFile(suite.write(u"work/next.htm"_s, "<p>Next</p>")));

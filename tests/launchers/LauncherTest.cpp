@@ -173,18 +173,19 @@ private Q_SLOTS:
         Launchers suite;
         const PageData& page = suite.define(suite.application(1, "write $0.ran"));
         const BoxAnswers boxes({QMessageBox::Ok, QMessageBox::Ok});
-        const QByteArray folder = qgetenv("TMPDIR");
-        qputenv("TMPDIR", suite.write(u"work/file"_s, "").toLocal8Bit());
-        page.applications[0]->button->click();
-        qputenv("TMPDIR", folder);
+        {
+            const NoTemporaryFolder none(suite);
+            page.applications[0]->button->click();
+        }
+        QVERIFY2(boxes.texts.value(0).contains("A temporary file can not be made in "_L1), qPrintable(boxes.texts[0]));
+#ifdef Q_OS_UNIX
         // As on a full disk, files can be made but not written.
         {
             const FullDisk none;
             page.applications[0]->button->click();
         }
-        QCOMPARE(boxes.texts.size(), 2);
-        QVERIFY2(boxes.texts[0].contains("A temporary file can not be made in "_L1), qPrintable(boxes.texts[0]));
-        QVERIFY2(boxes.texts[1].contains(" can not be written: "_L1), qPrintable(boxes.texts[1]));
+        QVERIFY2(boxes.texts.value(1).contains(" can not be written: "_L1), qPrintable(boxes.texts.value(1)));
+#endif
         QVERIFY(!page.applications[0]->isRunning());
         QVERIFY(!QFile::exists(suite.path(u"tool1.ran"_s)));
     }

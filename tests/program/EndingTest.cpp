@@ -33,9 +33,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("signal");
         QTest::addColumn<bool>("launches");
+        // On Windows Ctrl+C; Wine hands on nothing else.
         for (const auto& [name, signal] :
-             {std::pair{"TERM", SIGTERM}, std::pair{"HUP", SIGHUP}, std::pair{"INT", SIGINT},
-              std::pair{"QUIT", SIGQUIT}, std::pair{"SEGV", SIGSEGV}, std::pair{"KILL", SIGKILL}}) {
+             {std::pair{"INT", SIGINT},
+#ifdef Q_OS_UNIX
+              std::pair{"TERM", SIGTERM}, std::pair{"HUP", SIGHUP}, std::pair{"QUIT", SIGQUIT},
+              std::pair{"SEGV", SIGSEGV}, std::pair{"KILL", SIGKILL}
+#endif
+             }) {
             QTest::addRow("%s, a conversion", name) << signal << false;
             QTest::addRow("%s, a launcher", name) << signal << true;
         }
@@ -45,6 +50,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, signal);
         QFETCH(const bool, launches);
+        const OwnConsole console;
         const Installation suite;
         const QByteArray script = suite
                                       .writeChild(u"convert"_s, R"(
@@ -77,6 +83,9 @@ hang)")
         QCOMPARE(survivors(suite).size(), 4);
         ::kill(pid_t(program.processId()), signal);
         QVERIFY(program.waitForFinished());
+        if (signal != SIGSEGV && signal != SIGKILL) {
+            QCOMPARE(program.exitCode(), 1);
+        }
         // One that is killed has a helper that cleans up, and may take a moment longer.
         QTRY_COMPARE(suite.read(project), old);
         QTRY_COMPARE(survivors(suite), QList<QByteArray>());

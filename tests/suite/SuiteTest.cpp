@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppRegistry.h"
-#include "Installation.h"
+#include "InstalledSuite.h"
 #include "personality/FileScans.h"
 #include "project/Project.h"
 #include "SystemCalls.h"
@@ -19,31 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The open suite, installed by its own script.
-class InstalledSuite : public Installation
-{
-public:
-    InstalledSuite()
-    {
-        // As in a build folder whose parts lie elsewhere.
-        QDir().mkpath(path(u"build"_s));
-        for (const auto& part : {u"/bin"_s, u"/help"_s}) {
-            QFile::link(QStringLiteral(BUILD_FOLDER) + part, path(u"build"_s) + part);
-        }
-        const QStringList arguments{path(u"."_s), u"--build-dir"_s, path(u"build"_s)};
-        if (runProgram(QStringLiteral(INSTALL_SUITE), arguments).status != 0) {
-            qFatal("the suite can not be installed");
-        }
-    }
-
-    /// A conversion without a window, as a user would start it; the command is divided as a shell does.
-    ProgramResult run(const QString& command) const
-    {
-        return runProgram(path(u"create-project"_s), QProcess::splitCommand(u"-batch "_s + command), {},
-                          path(u"work"_s));
-    }
-};
-
 /// Two sources and the database that builds them, which it gives.
 QString writeCode(const InstalledSuite& suite)
 {
@@ -57,7 +32,7 @@ QString writeCode(const InstalledSuite& suite)
 void verifyProject(const InstalledSuite& suite)
 {
     const QByteArray written =
-        suite.read(u"work/new folder/own code.prj"_s) + suite.read(u"work/new folder/own code.options.p_a"_s);
+        suite.readLines(u"work/new folder/own code.prj"_s) + suite.readLines(u"work/new folder/own code.options.p_a"_s);
     QVERIFY2(written.startsWith("VersionTag"), written);
     for (const QString& lines :
          {u"name=own code\nsourceDir="_s + suite.path(u"work/code"_s), u"*project=ORVCPP\ngröße a.cpp"_s,
@@ -136,28 +111,28 @@ private Q_SLOTS:
     void convertsWithoutAWindow()
     {
         const InstalledSuite suite;
-        const QString project = suite.path(u"work/batch/p.prj"_s);
-        const QString wanted = u"-cpp -prj \"%1\" -type \"%2\" -input \"Compilation database=%3\" "_s.arg(
-            project, databaseType, QStringLiteral(BUILD_FOLDER "/compile_commands.json"));
+        suite.write(u"work/a.c"_s, "");
+        suite.write(u"work/b.cpp"_s, "");
+        suite.write(u"work/db.json"_s, R"([{"file": "a.c"}, {"file": "b.cpp"}, {"file": "gone.cpp"}])");
+        const QString project = suite.nativePath(u"work/batch/p.prj"_s);
+        const QString wanted =
+            u"-cpp -prj batch/p.prj -type \"%1\" -input \"Compilation database=db.json\" "_s.arg(databaseType);
         ProgramResult result =
             suite.run(wanted + u"-input \"Options/Keep files that do not exist=1\" -input Absolute=yes"_s);
         QCOMPARE(result.errors, QString());
         QCOMPARE(result.status, 0);
         QVERIFY(result.output.endsWith(u"New project file: "_s + project + u'\n'));
-        const QByteArray text = suite.read(u"work/batch/p.prj"_s);
-        QVERIFY(text.contains("\n" SOURCE_FOLDER "/src/program/Startup.cpp\n"));
+        const QByteArray text = suite.readLines(u"work/batch/p.prj"_s);
+        QVERIFY2(text.contains('\n' + suite.path(u"work/gone.cpp"_s).toUtf8() + '\n'), text);
 
         result = suite.run(wanted);
         QCOMPARE(result.status, 2);
         QVERIFY2(result.errors.contains("-overwrite"_L1), qPrintable(result.errors));
-        QCOMPARE(suite.read(u"work/batch/p.prj"_s), text);
+        QCOMPARE(suite.readLines(u"work/batch/p.prj"_s), text);
         QCOMPARE(suite.run(wanted + u"-overwrite"_s).status, 0);
-        QVERIFY(suite.read(u"work/batch/p.prj"_s) != text);
+        QVERIFY(suite.readLines(u"work/batch/p.prj"_s) != text);
 
         // Each analyser gets the sources of its language.
-        suite.write(u"work/a.c"_s, "");
-        suite.write(u"work/b.cpp"_s, "");
-        suite.write(u"work/db.json"_s, R"([{"file": "a.c"}, {"file": "b.cpp"}])");
         for (const bool isC : {true, false}) {
             result = suite.run(u"-prj p.prj -overwrite -type \"%1\" -input \"Compilation database=db.json\" %2"_s.arg(
                 databaseType, isC ? u"-c"_s : u"-cpp -input \"Only C++ sources=1\""_s));
@@ -173,9 +148,10 @@ private Q_SLOTS:
         const InstalledSuite suite;
         suite.write(u"work/one.xml"_s, "<s><projectCreator><name>S</name><orvcProject>1</orvcProject>"
                                        "</projectCreator></s>");
+        suite.write(u"work/empty"_s, "");
         const QString target = u"-prj new.prj "_s;
         const QString list = u"-type \"List of files\" -c "_s;
-        const QString given = list + u"-input \"File list=/etc/passwd\" "_s;
+        const QString given = list + u"-input \"File list=one.xml\" "_s;
         const std::tuple<QString, int, QString> rows[] = {
             {u"-list-types --json"_s, 0, u"\"name\": \"Source folder\""_s},
             {u"-list-inputs \"Source folder\" --json"_s, 0, u"\"ORVCPP\": \"cpp;cc;cxx;c++;cp;C;c;cppm;ixx;mpp\""_s},
@@ -186,8 +162,8 @@ private Q_SLOTS:
             {target + list + u"-input Absolute=maybe"_s, 2, u"give it 1 or 0"_s},
             {target + list, 2, u"\"File list\" must name an existing file"_s},
             {target + given + u"-mp /gone.p_s"_s, 2, u"-mp: the configuration file /gone.p_s"_s},
-            {u"-list-types -file /dev/null"_s, 2, u"no conversion types"_s},
-            {u"-prj /dev/null/x/new.prj "_s + given, 1, u"can not be created"_s},
+            {u"-list-types -file empty"_s, 2, u"no conversion types"_s},
+            {u"-prj one.xml/x/new.prj "_s + given, 1, u"can not be created"_s},
         };
         for (const auto& [command, status, says] : rows) {
             const ProgramResult result = suite.run(command);
@@ -227,6 +203,7 @@ private Q_SLOTS:
 
     void stopsOnASignal()
     {
+        const OwnConsole console;
         const InstalledSuite suite;
         suite.define(
             "<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +
@@ -234,9 +211,9 @@ private Q_SLOTS:
             "</exe><exeargs>%PF</exeargs></projectCreator>");
         QProcess program;
         program.setWorkingDirectory(suite.path(u"work"_s));
-        program.start(suite.path(u"create-project"_s), u"-batch -prj s.prj -type Slow -c"_s.split(u' '));
+        program.start(suite.program(), u"-batch -prj s.prj -type Slow -c"_s.split(u' '));
         QTRY_COMPARE(suite.read(u"work/s.prj"_s), QByteArray("half\n"));
-        ::kill(pid_t(program.processId()), SIGTERM);
+        ::kill(pid_t(program.processId()), SIGINT);
         QVERIFY(program.waitForFinished());
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 1);

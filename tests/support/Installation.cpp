@@ -2,6 +2,7 @@
 #include "Installation.h"
 #include "app/AppRegistry.h"
 #include "launchers/PageReader.h"
+#include "process/OutputDecoder.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -100,7 +101,7 @@ namespace {
 // Windows' line ends are no difference that a test looks for.
 QString textOf(const QByteArray& output)
 {
-    return QString::fromUtf8(output).replace("\r\n"_L1, "\n"_L1);
+    return OutputDecoder::text(output).replace("\r\n"_L1, "\n"_L1);
 }
 
 } // namespace

@@ -27,14 +27,29 @@ public:
 private:
     rlimit old = {};
 };
+
+/// What a shell gives the programs that it starts; here whoever starts a test has it.
+struct [[maybe_unused]] OwnConsole
+{
+};
 #else
 #include <sys/types.h>
 
-// What tests ask of a Unix system, as far as Windows has it: rights keep nobody out, as with root; a signal ends the
-// process at once; files can always be written; nothing makes a pipe with a name in a folder.
+// What tests ask of a Unix system, as far as Windows has it: rights keep nobody out, as with root; INT is Ctrl+C
+// in the test's own console, any other signal ends the process at once; files can always be
+// written; nothing makes a pipe with a name in a folder.
 #define SIGHUP 1
 #define SIGQUIT 3
 #define SIGKILL 9
+
+/// A console for the programs that the test starts while this lives; its events do not end the test.
+class OwnConsole
+{
+public:
+    OwnConsole();
+    ~OwnConsole();
+    Q_DISABLE_COPY_MOVE(OwnConsole)
+};
 
 int geteuid();
 int kill(pid_t process, int signal);

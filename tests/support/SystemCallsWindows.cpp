@@ -3,6 +3,29 @@
 
 #include <qt_windows.h>
 
+namespace {
+
+BOOL WINAPI ignore(DWORD)
+{
+    return TRUE;
+}
+
+} // namespace
+
+OwnConsole::OwnConsole()
+{
+    ::FreeConsole();
+    if (::AllocConsole() == 0 || ::SetConsoleCtrlHandler(ignore, TRUE) == 0) {
+        qFatal("there is no console to be had");
+    }
+}
+
+OwnConsole::~OwnConsole()
+{
+    ::SetConsoleCtrlHandler(ignore, FALSE);
+    ::FreeConsole();
+}
+
 int geteuid()
 {
     return 0;
@@ -10,6 +33,9 @@ int geteuid()
 
 int kill(pid_t process, int signal)
 {
+    if (signal == SIGINT) {
+        return ::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0) != 0 ? 0 : -1;
+    }
     const HANDLE handle = ::OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, DWORD(process));
     const bool runs = handle != nullptr && ::WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
     const bool done = runs && (signal == 0 || ::TerminateProcess(handle, 1) != 0);

@@ -6,6 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+#include <system_error>
+
 using namespace Qt::StringLiterals;
 
 QString TestFolder::write(const QString& name, const QByteArray& contents, const QDateTime& time) const
@@ -36,6 +39,9 @@ QString TestFolder::placeProgram(const QString& program, const QString& name) co
 {
 #ifdef Q_OS_WIN
     QString place = path(name + u".exe"_s);
+    std::error_code rare;
+    std::filesystem::create_hard_link(QFileInfo(program).filesystemAbsoluteFilePath(),
+                                      QFileInfo(place).filesystemAbsoluteFilePath(), rare);
     QFile::copy(program, place);
 #else
     QString place = path(name);

@@ -19,7 +19,8 @@ public:
     /// A program that does what these verbs of testchild say, or behind "#!" a shell script, for what is Unix' own;
     /// gives its path, which ends with ".exe" on Windows.
     QString writeChild(const QString& name, const QByteArray& verbs) const;
-    /// Puts a program there under that name (on Windows with ".exe"): as a link, or as a copy where links are rare.
+    /// Puts a program there under that name (on Windows with ".exe"): as a link, or as a copy where there is none to be
+    /// had.
     QString placeProgram(const QString& program, const QString& name) const;
     /// Reads a file below the folder, or anywhere by its absolute path; empty when it can not be read.
     QByteArray read(const QString& name) const;
@@ -30,4 +31,22 @@ public:
 
 protected:
     QTemporaryDir folder;
+};
+
+/// While it lives, there is a file where temporary files should be made.
+class NoTemporaryFolder
+{
+public:
+    explicit NoTemporaryFolder(const TestFolder& place) { set(place.write(QStringLiteral("no folder"), "")); }
+    ~NoTemporaryFolder() { set(former); }
+    Q_DISABLE_COPY_MOVE(NoTemporaryFolder)
+
+private:
+    static void set(const QString& folder)
+    {
+        qputenv("TMPDIR", folder.toLocal8Bit());
+        qputenv("TMP", QDir::toNativeSeparators(folder).toLocal8Bit());
+    }
+
+    const QString former = QDir::tempPath();
 };

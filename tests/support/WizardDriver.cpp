@@ -54,3 +54,19 @@ void WizardDriver::passStartPage(const QString& name, const QString& folder, con
     combo(u"Original project type:"_s).setCurrentText(type);
     press(QWizard::NextButton);
 }
+
+AppRegistry& startSuite(Installation& suite, const QByteArray& script, const QByteArray& more)
+{
+    const QString program = script.isEmpty() ? suite.path(u"missing"_s) : suite.writeChild(u"convert"_s, script);
+    suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" + program.toUtf8() +
+                 "</exe><exeargs>%PF %E</exeargs><inputData><displayName>E</displayName><argDef>%E</argDef></inputData>"
+                 "</projectCreator>" +
+                 more);
+    return suite.start();
+}
+
+void convert(const WizardDriver& wizard, const Installation& suite)
+{
+    wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
+    wizard.press(QWizard::NextButton);
+}

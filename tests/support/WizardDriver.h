@@ -39,3 +39,9 @@ public:
 private:
     const QWidget& page() const { return *window.currentPage(); }
 };
+
+/// Starts a suite whose only conversion type "T" runs this script, or with none a missing program, with the project
+/// file and the input "E".
+AppRegistry& startSuite(Installation& suite, const QByteArray& script, const QByteArray& more = {});
+/// Leads the wizard to the conversion of "p.prj" in the folder "work".
+void convert(const WizardDriver& wizard, const Installation& suite);

@@ -3,7 +3,6 @@
 #include "app/Installations.h"
 #include "app/OwnEnvironment.h"
 #include "app/SettingsStore.h"
-#include "console/Console.h"
 #include "dialogs/DisplayDialog.h"
 #include "dialogs/FileSearch.h"
 #include "Installation.h"
@@ -13,10 +12,13 @@
 #include "process/ConversionRun.h"
 #include "process/OutputDecoder.h"
 #include "process/StopSignals.h"
+#include "project/ProjectTarget.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -39,6 +41,12 @@ public:
 
     QStringList files;
 };
+
+// As a program that lets nobody else open the file.
+HANDLE hold(const QString& file)
+{
+    return ::CreateFileW(file.toStdWString().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+}
 
 } // namespace
 
@@ -95,12 +103,6 @@ private Q_SLOTS:
         QCOMPARE(OwnEnvironment::forChild({u"Kovra_Letters=x"_s}, {}).value(u"KOVRA_LETTERS"_s), u"x"_s);
     }
 
-    void takesArgumentsAsGiven()
-    {
-        const QStringList arguments = Console::arguments(0, nullptr);
-        QCOMPARE(arguments, QCoreApplication::arguments());
-    }
-
     void hearsOfTheSessionsEnd()
     {
         const StopSignals signals;
@@ -132,14 +134,66 @@ private Q_SLOTS:
     {
         const TestFolder place;
         const QString project = place.write(u"p.prj"_s, "old");
-        const HANDLE held =
-            ::CreateFileW(project.toStdWString().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        const HANDLE held = hold(project);
         ConversionRun run;
         QVERIFY(!run.start(place.writeChild(u"convert"_s, "write $1 new"), {project}, project));
         QVERIFY2(run.detail().contains(place.nativePath(u"p.prj"_s) + u" can not be put aside"_s),
                  qPrintable(run.detail()));
         ::CloseHandle(held);
         QCOMPARE(place.read(u"p.prj"_s), QByteArray("old"));
+    }
+
+    void convertsOnlyWhatNobodyHolds_data()
+    {
+        const TestRows<QString> row("held");
+        row("options", u"p.options.p_a"_s);
+        row("log", u"p.options/conversion.log"_s);
+    }
+
+    void convertsOnlyWhatNobodyHolds()
+    {
+        QFETCH(const QString, held);
+        const TestFolder place;
+        place.write(u"a.c"_s, "");
+        const auto convert = [&place](const QByteArray& options) {
+            place.write(u"db.json"_s, R"([{"file": "a.c", "command": "cc -c a.c )" + options + R"("}])");
+            return runProgram(QStringLiteral(CONVERTER),
+                              u"--output p.prj --analyser ORVC --compile-commands db.json"_s.split(u' '), {},
+                              place.path(u"."_s));
+        };
+        const auto files = [&place] {
+            QByteArray all;
+            for (QDirIterator each(place.path(u"."_s), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+                 each.hasNext();) {
+                const QString file = each.next();
+                all += file.endsWith("db.json"_L1) ? QByteArray() : file.toUtf8() + '\n' + place.read(file);
+            }
+            return all;
+        };
+        QCOMPARE(convert("-DOLD --odd").errors, QString());
+        const QByteArray before = files();
+        const HANDLE handle = hold(place.path(held));
+        const ProgramResult result = convert("-DNEW --other");
+        ::CloseHandle(handle);
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.errors.contains(place.nativePath(held) + u": can not be "_s), qPrintable(result.errors));
+        QCOMPARE(files(), before);
+        QVERIFY(before.contains("-d OLD"));
+    }
+
+    // What Wine shows of this system's processes can not be written, not even by its administrator.
+    void saysThatAFolderCanNotBeWritten()
+    {
+        const QString readOnly = u"Z:/proc"_s;
+        if (!QFileInfo(readOnly).isDir()) {
+            QSKIP("there is no folder here that nobody can write");
+        }
+        ConversionRun run;
+        const TestFolder place;
+        QVERIFY(!ProjectTarget::checkWritable(readOnly + u"/p.prj"_s).ok());
+        QVERIFY(!ProjectTarget::createFolder(readOnly + u"/folder"_s).ok());
+        QVERIFY(!run.start(place.writeChild(u"convert"_s, "write $1 new"), {readOnly}, readOnly + u"/p.prj"_s));
+        QVERIFY2(run.detail().contains("folder can not be written: Z:\\proc\\"_L1), qPrintable(run.detail()));
     }
 
     void readsWhatAConsolePrints()
@@ -202,17 +256,6 @@ private Q_SLOTS:
         AppRegistry registry;
         const DisplayDialog window(registry, u"t"_s, DisplayDialog::Text, 100, 100);
         QVERIFY(window.windowFlags().testFlag(Qt::WindowCloseButtonHint));
-    }
-
-    void hearsOfCtrlC()
-    {
-        // One of the test's own: what it was started from may be no console that knows of events.
-        ::FreeConsole();
-        QVERIFY(::AllocConsole());
-        const StopSignals signals;
-        QSignalSpy received(&signals, &StopSignals::received);
-        QVERIFY(::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0));
-        QTRY_VERIFY(!received.isEmpty());
     }
 
     void searchesBeyond260Characters()

@@ -10,17 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Its only conversion type runs the script with the project file and the input "E".
-AppRegistry& startSuite(Installation& suite, const QByteArray& script, const QByteArray& more = {})
-{
-    suite.define("<projectCreator><name>T</name><orvcProject>1</orvcProject><exe>" +
-                 suite.writeChild(u"convert"_s, script).toUtf8() +
-                 "</exe><exeargs>%PF %E</exeargs><inputData><displayName>E</displayName><argDef>%E</argDef></inputData>"
-                 "</projectCreator>" +
-                 more);
-    return suite.start();
-}
-
 QByteArray logOf(const QString& folder)
 {
     QByteArray contents;
@@ -45,11 +34,11 @@ private Q_SLOTS:
         Installation suite;
         startSuite(suite, "print-error why; write $1 x; exit 7", "<applicationPage/>");
         WizardDriver wizard;
-        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
-        wizard.press(QWizard::NextButton);
+        convert(wizard, suite);
         QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
         QVERIFY2(wizard.window.conversionWarning.contains("exit code 7"_L1),
                  qPrintable(wizard.window.conversionWarning));
+        QVERIFY(wizard.labels().contains(wizard.window.conversionWarning));
         QCOMPARE(logOf(QDir::tempPath()), QByteArray("why\nThe conversion program ended with exit code 7.\n"));
     }
 
@@ -94,8 +83,7 @@ private Q_SLOTS:
         startSuite(suite,
                    "start-session { mark $1.pid; pause 2000; write $1 STALE }; await $1.pid; print running; hang");
         WizardDriver wizard;
-        wizard.passStartPage(u"p"_s, suite.path(u"work"_s), u"T"_s);
-        wizard.press(QWizard::NextButton);
+        convert(wizard, suite);
         QTRY_VERIFY(wizard.output().contains("running"_L1));
         const QByteArray daemon = suite.read(u"work/p.prj.pid"_s);
         QVERIFY(Installation::isAlive(daemon));

@@ -284,7 +284,7 @@ private Q_SLOTS:
         wizard.edit(compiler).setText(suite.path(name));
         wizard.button(u"Edit: Select Compiler Configuration Options"_s).click();
         QCOMPARE(boxes.texts, QStringList{u"Edit failed|"_s + says});
-        QVERIFY2(boxes.additions[0].startsWith(suite.path(name)), qPrintable(boxes.additions[0]));
+        QVERIFY2(boxes.additions[0].startsWith(suite.nativePath(name)), qPrintable(boxes.additions[0]));
     }
 
     void modulesLockFields()
@@ -329,7 +329,7 @@ private Q_SLOTS:
     void helpsWithPaths()
     {
         const Suite suite;
-        const QString folder = suite.path(u"work"_s);
+        const QString folder = suite.nativePath(u"work"_s);
         {
             WizardDriver wizard;
             suite.passToInputs(wizard, true);
@@ -337,7 +337,7 @@ private Q_SLOTS:
             QLineEdit& source = wizard.edit(u"Source"_s);
             source.setFocus();
             source.setText(folder);
-            QTest::keyClicks(&source, u"/make f"_s);
+            QTest::keyClicks(&source, QDir::toNativeSeparators(u"/make f"_s));
             QTRY_VERIFY(source.completer()->popup()->isVisible());
             QCOMPARE(source.completer()->currentCompletion(), suite.source);
             QTest::keyClick(source.completer()->popup(), Qt::Key_Escape);
@@ -351,9 +351,9 @@ private Q_SLOTS:
         }
         FolderMemory memory(u"a/b"_s);
         QCOMPARE(memory.last(), QString());
-        memory.choose(folder);
+        memory.choose(suite.path(u"work"_s));
         appRegistry->WriteRegistry();
-        QCOMPARE(FolderMemory(u"a/b"_s).last(), folder);
+        QCOMPARE(FolderMemory(u"a/b"_s).last(), suite.path(u"work"_s));
     }
 
     // With all files given there is nothing to ask for.

@@ -148,7 +148,7 @@ private Q_SLOTS:
         const BoxAnswers boxes({QMessageBox::Yes, QMessageBox::Ok, QMessageBox::Ok});
         wizard.passStartPage(u"p"_s, suite.path(u"work/file/below"_s), u"T"_s);
         QCOMPARE(boxes.texts.size(), 2);
-        QVERIFY2(boxes.additions.value(1).startsWith(suite.path(u"work/file/below: Not a directory\n"_s)),
+        QVERIFY2(boxes.additions.value(1).startsWith(suite.nativePath(u"work/file/below: Not a directory\n"_s)),
                  qPrintable(boxes.additions.join(u'\n')));
         QCOMPARE(keys.focus(), u"Location for new project file:"_s);
         wizard.passStartPage(u"no/such"_s, suite.path(u"work"_s), u"T"_s);

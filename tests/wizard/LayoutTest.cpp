@@ -40,17 +40,16 @@ public:
         for (int i = 0; i < columns; ++i) {
             paths += field("Path " + QByteArray::number(i), "FILE");
         }
-        const QByteArray go = path(u"go"_s).toUtf8();
-        const QString converter = writeChild(u"convert"_s, "await '" + go + "'; write $1 x");
-        define("<projectCreator><name>" + name + "</name><exe>" + converter.toUtf8() +
+        const QByteArray converter = writeChild(u"convert"_s, "await $0.go; write $1 x").toUtf8();
+        define("<projectCreator><name>" + name + "</name><exe>" + converter +
                "</exe><exeargs>%PF</exeargs><orvcProject>1</orvcProject><orvcppProject>1</orvcppProject>"
                "<compilerPersonality TYPE=\"C\">%ORVC%/c.p_c</compilerPersonality>"
                "<compilerPersonality TYPE=\"CPP\">%ORVCPP%/c.p_c</compilerPersonality>" +
                fields + "<inputData><displayName>" + name + "</displayName><inputType COLUMNS=\"" +
                QByteArray::number(columns) + "\">GROUP</inputType>" + paths +
                field("Inner", "GROUP").replace("</inputData>", field("Deep", "EDIT") + "</inputData>") +
-               "</inputData></projectCreator><applicationPage><application name='Tool'><exe>sh</exe>"
-               "<rightimage>arrow</rightimage><colour>red</colour></application>"
+               "</inputData></projectCreator><applicationPage><application name='Tool'><exe>" + converter +
+               "</exe><rightimage>arrow</rightimage><colour>red</colour></application>"
                "<application name='Gone'><exe>gone</exe></application></applicationPage>");
         write(u"help/wendle.adp"_s, "");
         write(u"orvcpp/c.p_c"_s, "");
@@ -217,18 +216,18 @@ private Q_SLOTS:
         QFETCH(const QSize, screen);
         QFETCH(const int, scale);
         const TestFolder folder;
-        const QString screens =
-            folder.write(u"screens.json"_s, u"{\"screens\": [{\"name\": \"s\", \"x\": 0, \"y\": 0, "
-                                            "\"width\": %1, \"height\": %2, \"logicalDpi\": 96, "
-                                            "\"logicalBaseDpi\": 96, \"dpr\": 1}]}"_s.arg(screen.width())
-                                                .arg(screen.height())
-                                                .toUtf8());
+        folder.write(u"screens.json"_s, u"{\"screens\": [{\"name\": \"s\", \"x\": 0, \"y\": 0, "
+                                        "\"width\": %1, \"height\": %2, \"logicalDpi\": 96, "
+                                        "\"logicalBaseDpi\": 96, \"dpr\": 1}]}"_s.arg(screen.width())
+                                            .arg(screen.height())
+                                            .toUtf8());
         const QString row = QString::fromLatin1(QTest::currentDataTag());
         const ProgramResult result =
             runProgram(QCoreApplication::applicationFilePath(), {u"-nocrashhandler"_s, u"fitsTheScreen:"_s + row},
-                       {{u"QT_QPA_PLATFORM"_s, u"offscreen:configfile="_s + screens},
+                       {{u"QT_QPA_PLATFORM"_s, u"offscreen:configfile=screens.json"_s},
                         {u"QT_SCALE_FACTOR"_s, QString::number(scale)},
-                        {u"LAYS_OUT"_s, u"1"_s}});
+                        {u"LAYS_OUT"_s, u"1"_s}},
+                       folder.path(u"."_s));
         QVERIFY2(result.output.contains(u"PASS   : LayoutTest::fitsTheScreen(%1)"_s.arg(row)),
                  qPrintable(result.output.section(u"testing of LayoutTest"_s, 1, 1)));
     }
@@ -320,7 +319,7 @@ private:
                 wizard.press(QWizard::NextButton);
             }
         }
-        suite.write(u"go"_s, {});
+        suite.write(u"convert.go"_s, {});
         QTRY_COMPARE(wizard.window.currentId(), int(DisplayOptionsPageId));
         checkPage(wizard, DisplayOptionsPageId);
     }

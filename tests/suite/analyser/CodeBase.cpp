@@ -40,13 +40,16 @@ CodeBase::CodeBase()
     QDir(path()).mkpath(u"bin"_s);
     for (const auto& name :
          {u"orv"_s, u"orvc"_s, u"orvcpp"_s, u"orvreport"_s, u"orvcount"_s, u"orvcma"_s, u"orvstatus"_s}) {
-        QFile::link(QStringLiteral(ORVTOOL), path(u"bin/"_s + name));
+        placeProgram(QStringLiteral(NAMED_TOOL), u"bin/"_s + name);
     }
+    placeProgram(QStringLiteral(ORVTOOL), u"bin/orvtool"_s);
 }
 
-void CodeBase::replaceProgram(const QString& name, const QByteArray& script) const
+void CodeBase::restoreProgram(const QString& name) const
 {
-    writeChild(u"bin/"_s + name, "#!" + script);
+    for (const auto& suffix : {u""_s, u".exe"_s}) {
+        QFile::remove(path(u"bin/"_s + name + suffix));
+    }
 }
 
 CodePart CodeBase::overrunning(const QStringList& files, const QByteArray& head) const
@@ -125,20 +128,25 @@ QStringList CodeBase::messagesByHand(const QList<CodePart>& parts, const QString
             entries += QJsonObject{{u"directory"_s, path(part.folder)}, {u"file"_s, file}, {u"command"_s, command}};
         }
     }
-    const QString database = write(u"by-hand.json"_s, QJsonDocument(entries).toJson());
+    const QString database = write(u"by-hand.json"_s, QString::fromUtf8(QJsonDocument(entries).toJson()).toLocal8Bit());
     const ProgramResult result =
         runProgram(u"cppcheck"_s,
                    QStringList{u"-q"_s, u"--inline-suppr"_s, u"--project="_s + database,
                                u"--template={file}:{line}:{column}: {severity}: {message} [{id}]"_s} +
                        (options.isEmpty() ? QStringList{checks} : options),
                    environment(), path(u"bin"_s));
-    return sortedLines(result.errors);
+    QStringList lines = sortedLines(result.errors);
+    for (QString& line : lines) {
+        const qsizetype place = line.indexOf(": "_L1);
+        line.replace(0, place, QDir::fromNativeSeparators(line.left(place)));
+    }
+    return lines;
 }
 
 Variables CodeBase::environment(const Variables& more) const
 {
     return Variables{{u"LC_ALL"_s, u"C.UTF-8"_s},
                      {u"HOME"_s, path()},
-                     {u"PATH"_s, path(u"bin"_s) + u':' + qEnvironmentVariable("PATH")}} +
+                     {u"PATH"_s, path(u"bin"_s) + QDir::listSeparator() + qEnvironmentVariable("PATH")}} +
            more;
 }

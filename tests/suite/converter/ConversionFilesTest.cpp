@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -71,7 +72,9 @@ private Q_SLOTS:
         row("nothing left", "[{\"file\": \"gone.c\"}]", u"no source file is left"_s);
         row("line break in a define", R"([{"file": "a.c", "arguments": ["cc", "-DA=1\nB"]}])", u"holds a line break"_s);
         row("a folder", R"([{"file": "."}])", u"no source file is left"_s);
+#ifdef Q_OS_UNIX
         row("line break in a name", "[{\"file\": \"x\\ny.c\"}]", u"the name holds a line break"_s);
+#endif
     }
 
     void refusesBadInput()
@@ -80,7 +83,9 @@ private Q_SLOTS:
         QFETCH(const QString, says);
         const ConvertedProject project;
         project.write(u"work/a.c"_s, "");
-        project.write(u"work/x\ny.c"_s, "");
+        if (database.contains("x\\ny.c")) {
+            project.write(u"work/x\ny.c"_s, "");
+        }
         project.write(u"work/p.prj"_s, "old");
         project.write(u"work/db.json"_s, database);
         const auto before = snapshot(project);
@@ -119,6 +124,9 @@ private Q_SLOTS:
         const ConvertedProject project;
         QStringList names{u":colon.c"_s, u"a=b.c"_s,      u"eq=folder/x.c"_s, u"*star.c"_s, u" blank .c"_s,
                           u"xMarker"_s,  u"имя/файл.c"_s, u"quo\"te.c"_s,     u"%2.c"_s,    u"-D.c"_s};
+#ifdef Q_OS_WIN
+        names.removeIf([](const QString& name) { return name.contains(QRegularExpression(u"[:*\"]"_s)); });
+#endif
         QJsonArray entries;
         for (const QString& name : std::as_const(names)) {
             project.write(u"work/s/"_s + name, "");

@@ -16,7 +16,7 @@ StartProjectMarker
 name=p
 sourceDir=%1/src
 outputDir=%1/p.out
-messagePersonality=/m.p_s
+messagePersonality=%1/m.p_s
 analyserPersonality=%1/p.options.p_a
 compilerPersonality=default string
 *project=ORVCPP
@@ -51,9 +51,9 @@ private Q_SLOTS:
                                   {"file": "/gone.cpp", "command": "c++ -DA -Ii -DB -c /gone.cpp"},
                                   {"file": "src/deep/ü x.cpp", "command": "c++ -DA -Ii -c 'src/deep/ü x.cpp'"}])");
         const QStringList personalities{u"--message-personality"_s,
-                                        u"/m.p_s"_s,
+                                        project.work(u"m.p_s"_s),
                                         u"--analyser-personality"_s,
-                                        u"/t.p_a"_s,
+                                        project.work(u"t.p_a"_s),
                                         u"--compiler-personality"_s,
                                         u""_s,
                                         u""_s};
@@ -61,10 +61,11 @@ private Q_SLOTS:
         QVERIFY2(
             result.output.contains("2 source files, 1 sub-project, 1 set of options, 1 include folder, 1 define"_L1),
             qPrintable(result.output + result.errors));
-        QCOMPARE(QString::fromUtf8(project.read(u"work/p.prj"_s)),
+        QCOMPARE(QString::fromUtf8(project.readLines(u"work/p.prj"_s)),
                  QString::fromUtf8(wholeProject).arg(project.path(u"work"_s)));
         QVERIFY(!QFile::exists(project.work(u"p.options"_s)));
-        QVERIFY(project.read(u"work/p.options.p_a"_s).contains("\n-via \"/t.p_a\"\n"));
+        QVERIFY(project.readLines(u"work/p.options.p_a"_s)
+                    .contains("\n-via \"" + project.work(u"t.p_a"_s).toUtf8() + "\"\n"));
         QCOMPARE(project.optionsOf(u"a.cpp"_s), (QStringList{u"-d A"_s, u"-i \"~/i\""_s}));
     }
 

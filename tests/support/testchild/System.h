@@ -21,6 +21,8 @@ long long processId();
 /// Runs the verbs in a child, which goes on beside this one: by "run" where a process can be forked.
 void start(Place place, const Words& self, const std::string& verbs, const std::function<void()>& run);
 void waitForAll();
+/// This program becomes another one, with its arguments, channels and status.
+[[noreturn]] void become(const Words& command);
 /// Nothing but force ends this process from now on.
 void ignoreRequests();
 /// As the system ends a program for a bad access, or whoever may end any program.

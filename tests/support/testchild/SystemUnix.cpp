@@ -49,6 +49,17 @@ void System::waitForAll()
     }
 }
 
+void System::become(const Words& command)
+{
+    std::vector<char*> words;
+    for (const std::string& word : command) {
+        words.push_back(const_cast<char*>(word.c_str()));
+    }
+    words.push_back(nullptr);
+    ::execvp(words[0], words.data());
+    ::_exit(127);
+}
+
 void System::ignoreRequests()
 {
     for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {

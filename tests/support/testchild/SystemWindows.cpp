@@ -43,6 +43,32 @@ std::wstring quoted(const std::string& argument)
     std::abort();
 }
 
+HANDLE startProcess(std::wstring line, DWORD flags)
+{
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdInput = ::GetStdHandle(STD_INPUT_HANDLE);
+    startup.hStdOutput = ::GetStdHandle(STD_OUTPUT_HANDLE);
+    startup.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
+    PROCESS_INFORMATION process = {};
+    if (::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, flags, nullptr, nullptr, &startup, &process) ==
+        0) {
+        endWith(::GetLastError());
+    }
+    ::CloseHandle(process.hThread);
+    return process.hProcess;
+}
+
+std::wstring joined(const Words& words)
+{
+    std::wstring line;
+    for (const std::string& word : words) {
+        line += (line.empty() ? L"" : L" ") + quoted(word);
+    }
+    return line;
+}
+
 } // namespace
 
 Words System::commandLine(int, char**)
@@ -77,25 +103,11 @@ long long System::processId()
 
 void System::start(Place place, const Words& self, const std::string& verbs, const std::function<void()>&)
 {
-    std::wstring line = quoted(self[0] + ".exe") + L" --verbs " + quoted(verbs);
-    for (auto argument = self.begin() + 1; argument != self.end(); ++argument) {
-        line += L' ' + quoted(*argument);
-    }
+    Words words{self[0] + ".exe", "--verbs", verbs};
+    words.insert(words.end(), self.begin() + 1, self.end());
     const DWORD flags = (place == Place::Group ? 0 : CREATE_NEW_PROCESS_GROUP) |
                         (place == Place::Group || place == Place::OwnGroup ? 0 : DETACHED_PROCESS);
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdInput = ::GetStdHandle(STD_INPUT_HANDLE);
-    startup.hStdOutput = ::GetStdHandle(STD_OUTPUT_HANDLE);
-    startup.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
-    PROCESS_INFORMATION process = {};
-    if (::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, flags, nullptr, nullptr, &startup, &process) ==
-        0) {
-        endWith(::GetLastError());
-    }
-    ::CloseHandle(process.hThread);
-    children().push_back(process.hProcess);
+    children().push_back(startProcess(joined(words), flags));
 }
 
 void System::waitForAll()
@@ -103,6 +115,15 @@ void System::waitForAll()
     for (const HANDLE child : children()) {
         ::WaitForSingleObject(child, INFINITE);
     }
+}
+
+void System::become(const Words& command)
+{
+    const HANDLE process = startProcess(joined(command), 0);
+    ::WaitForSingleObject(process, INFINITE);
+    DWORD status = 0;
+    ::GetExitCodeProcess(process, &status);
+    endWith(status);
 }
 
 void System::ignoreRequests()

@@ -175,6 +175,24 @@ void remove(std::string name)
 
 void run(const std::string& text);
 
+// True where an argument, or the file that it names, if only behind an equals sign, holds the text.
+bool isTold(const std::string& text)
+{
+    return std::any_of(self().begin() + 1, self().end(), [&text](const std::string& argument) {
+        return argument.find(text) != std::string::npos ||
+               (fs::is_regular_file(pathOf(argument.substr(argument.find('=') + 1))) &&
+                contentsOf(argument.substr(argument.find('=') + 1)).find(text) != std::string::npos);
+    });
+}
+
+// The program, if any is named, and from this number on what the arguments say.
+void become(const Words& words)
+{
+    Words command(words.begin() + 2, words.end());
+    command.insert(command.end(), self().begin() + std::stoi(words[1]), self().end());
+    System::become(command);
+}
+
 void start(System::Place place, const Words& words)
 {
     System::start(place, self(), words.at(1), [&words] { run(words[1]); });
@@ -208,6 +226,7 @@ Verbs fileVerbs()
             {"remove", [](const Words& w) { remove(w.at(1)); }},
             {"folder", [](const Words& w) { fs::create_directories(pathOf(w.at(1))); }},
             {"if-exists", [](const Words& w) { fs::exists(pathOf(w.at(1))) ? run(w.at(2)) : void(); }},
+            {"if-told", [](const Words& w) { isTold(w.at(1)) ? run(w.at(2)) : void(); }},
             {"await", [](const Words& w) {
                  while (!fs::exists(pathOf(w.at(1)))) {
                      pause(10);
@@ -228,6 +247,7 @@ Verbs processVerbs()
             {"start-session", [](const Words& w) { start(System::Place::OwnSession, w); }},
             {"start-daemon", [](const Words& w) { start(System::Place::Daemon, w); }},
             {"wait", [](const Words&) { System::waitForAll(); }},
+            {"become", become},
             {"repeat", [](const Words& w) {
                  for (int i = 0; i < std::stoi(w.at(1)); ++i) {
                      run(w.at(2));
