@@ -39,7 +39,10 @@ Cpu cpuOf(const CompilerSetup& setup)
 
 bool isForWindows(const CompilerSetup& setup)
 {
-    return CompilerName::hasSlashOptions(setup.family) || setup.windows || mentions(setup, u"mingw|windows|win32"_s);
+    // Also on Windows there are compilers for other systems.
+    const bool isForOther = mentions(setup, u"linux|none|eabi|elf|apple|darwin"_s);
+    return CompilerName::hasSlashOptions(setup.family) || mentions(setup, u"mingw|windows|win32"_s) ||
+           (setup.windows && !isForOther);
 }
 
 QStringList microsoftMacros(const CompilerSetup& setup, Cpu cpu)

@@ -35,7 +35,10 @@ public:
     /// Makes a file newer than all results.
     void touch(const QString& name) const { write(name, read(name)); }
     /// A program that does these verbs of testchild in place of another one of this name, until that is back.
-    void replaceProgram(const QString& name, const QByteArray& verbs) const { writeChild(QStringLiteral("bin/") + name, verbs); }
+    void replaceProgram(const QString& name, const QByteArray& verbs) const
+    {
+        writeChild(QStringLiteral("bin/") + name, verbs);
+    }
     void restoreProgram(const QString& name) const;
     /// Writes these sources in the folder "one", each with an overrun behind that head; gives the part that they are.
     CodePart overrunning(const QStringList& files, const QByteArray& head = {}) const;

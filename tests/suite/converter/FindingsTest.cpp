@@ -141,7 +141,7 @@ private Q_SLOTS:
         found.sort();
         QStringList byHand{u"--project="_s + project.work(build[1])};
         byHand += configuration.isEmpty() ? QStringList() : QStringList{u"--project-configuration="_s + configuration};
-        QCOMPARE(found.join(u' '), findings(byHand, project.path(u"work"_s)).join(u' '));
+        QCOMPARE(found, findings(byHand, project.path(u"work"_s)));
         QTEST(found.size(), "count");
     }
 };
