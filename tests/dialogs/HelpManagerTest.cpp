@@ -96,9 +96,9 @@ private Q_SLOTS:
     void speaksTheUsersLanguage_data()
     {
         const TestRows<QString, QString, QString> row("language", "page", "shown");
-        row("German", u"de"_s, u"startPage.htm"_s, space + u"de/startPage.htm"_s);
-        row("English", u"en"_s, u"startPage.htm"_s, space + u"startPage.htm"_s);
-        row("no translation", u"fr"_s, u"startPage.htm"_s, space + u"startPage.htm"_s);
+        row("German", u"de"_s, u"startPage.htm"_s, u"de/startPage.htm"_s);
+        row("English", u"en"_s, u"startPage.htm"_s, u"startPage.htm"_s);
+        row("no translation", u"fr"_s, u"startPage.htm"_s, u"startPage.htm"_s);
         row("no page", u"de"_s, u"gone.htm"_s, {});
     }
 
@@ -107,13 +107,21 @@ private Q_SLOTS:
         QFETCH(const QString, language);
         QFETCH(const QString, page);
         Installation suite;
+#ifdef Q_OS_WIN
+        // Without Qt Help the pages are files.
+        suite.write(u"help/startPage.htm"_s, {});
+        suite.write(u"help/de/startPage.htm"_s, {});
+        const QString base = QUrl::fromLocalFile(suite.path(u"help/"_s)).toString();
+#else
         installHelp(suite);
+        const QString& base = space;
+#endif
         Translations::install(QLocale(language));
         HelpManager manager(suite.start(), nullptr);
         const QUrl found = manager.find(page);
         Translations::install(QLocale::c());
         qDeleteAll(qApp->findChildren<QTranslator*>());
-        QTEST(found.toString(), "shown");
+        QTEST(found.toString().remove(base), "shown");
     }
 
     void tellsTheViewerWhatToShow()

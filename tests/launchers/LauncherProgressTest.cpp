@@ -108,10 +108,10 @@ private Q_SLOTS:
         };
         const auto* bar = busy()->findChild<QProgressBar*>();
         QTRY_COMPARE(bar->value(), 1);
-        QVERIFY(says(u"first.c"_s));
+        QTRY_VERIFY(says(u"first.c"_s));
         page.write(u"tool1.go"_s, "");
         QTRY_COMPARE(bar->text(), u"2 of 3"_s);
-        QVERIFY(says(u"second.c"_s));
+        QTRY_VERIFY(says(u"second.c"_s));
         controlCalled<QPushButton>(*busy(), u"&Stop"_s).click();
         QTRY_VERIFY(!tool.isRunning());
         QVERIFY(!QApplication::overrideCursor());

@@ -2,7 +2,6 @@
 #include "app/AppRegistry.h"
 #include "InstalledSuite.h"
 #include "personality/FileScans.h"
-#include "project/Project.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
 #include "wizard/PageSequence.h"
@@ -189,16 +188,6 @@ private Q_SLOTS:
             QVERIFY2(FileScans::isForOtherAnalyser(file, !isC), qPrintable(file));
             QVERIFY2(!FileScans::isForOtherAnalyser(file, isC), qPrintable(file));
         }
-        const QString home = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(QStringLiteral(SOURCE_FOLDER "/tests/suite/projects")));
-        const Project versioned(u"versioned.prj"_s);
-        const Project unversioned(u"unversioned.prj"_s);
-        QVERIFY(QDir::setCurrent(home));
-        QCOMPARE(versioned.statusText,
-                 u"This project has not been analysed yet\n   Files in project: 2    Analysed files: 0"_s);
-        QCOMPARE(unversioned.statusText, versioned.statusText);
-        QVERIFY(!versioned.isCAnalyser());
-        QVERIFY(unversioned.isCAnalyser());
     }
 
     void stopsOnASignal()

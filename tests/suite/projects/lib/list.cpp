@@ -1,4 +1,0 @@
-int list_length()
-{
-    return 0;
-}

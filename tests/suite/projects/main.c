@@ -1,6 +1,0 @@
-int list_length(void);
-
-int main(void)
-{
-    return list_length();
-}

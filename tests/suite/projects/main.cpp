@@ -1,6 +1,0 @@
-int list_length();
-
-int main()
-{
-    return list_length();
-}
