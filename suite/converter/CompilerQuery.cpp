@@ -81,6 +81,12 @@ QString CompilerQuery::runnable(const CompilerSetup& setup, QString& reason) con
         return {};
     }
     QString found = QStandardPaths::findExecutable(setup.program);
+#ifdef Q_OS_WIN
+    // With a folder in front the suffix is not looked for, though a command may leave it out.
+    if (found.isEmpty()) {
+        found = QStandardPaths::findExecutable(setup.program + u".exe"_s);
+    }
+#endif
     if (found.isEmpty()) {
         reason = u"it is not on this system"_s;
         return {};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 #include <csignal>
 
@@ -32,6 +32,12 @@ private:
 struct [[maybe_unused]] OwnConsole
 {
 };
+
+/// Nobody can keep others from opening a file.
+struct [[maybe_unused]] HeldFile
+{
+    explicit HeldFile(const QString& /*name*/) {}
+};
 #else
 #include <sys/types.h>
 
@@ -54,6 +60,18 @@ public:
 int geteuid();
 int kill(pid_t process, int signal);
 int mkfifo(const char* name, int mode);
+
+/// While it lives nobody else can open the file, if any.
+class HeldFile
+{
+public:
+    explicit HeldFile(const QString& name);
+    ~HeldFile();
+    Q_DISABLE_COPY_MOVE(HeldFile)
+
+private:
+    void* handle;
+};
 
 struct FullDisk
 {

@@ -26,6 +26,16 @@ OwnConsole::~OwnConsole()
     ::FreeConsole();
 }
 
+HeldFile::HeldFile(const QString& name)
+    : handle(::CreateFileW(name.toStdWString().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr))
+{
+}
+
+HeldFile::~HeldFile()
+{
+    ::CloseHandle(handle);
+}
+
 int geteuid()
 {
     return 0;

@@ -13,11 +13,11 @@
 #include "process/OutputDecoder.h"
 #include "process/StopSignals.h"
 #include "project/ProjectTarget.h"
+#include "SystemCalls.h"
 #include "TestMain.h"
 #include "TestRows.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
@@ -41,12 +41,6 @@ public:
 
     QStringList files;
 };
-
-// As a program that lets nobody else open the file.
-HANDLE hold(const QString& file)
-{
-    return ::CreateFileW(file.toStdWString().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-}
 
 } // namespace
 
@@ -134,51 +128,14 @@ private Q_SLOTS:
     {
         const TestFolder place;
         const QString project = place.write(u"p.prj"_s, "old");
-        const HANDLE held = hold(project);
-        ConversionRun run;
-        QVERIFY(!run.start(place.writeChild(u"convert"_s, "write $1 new"), {project}, project));
-        QVERIFY2(run.detail().contains(place.nativePath(u"p.prj"_s) + u" can not be put aside"_s),
-                 qPrintable(run.detail()));
-        ::CloseHandle(held);
+        {
+            const HeldFile held(project);
+            ConversionRun run;
+            QVERIFY(!run.start(place.writeChild(u"convert"_s, "write $1 new"), {project}, project));
+            QVERIFY2(run.detail().contains(place.nativePath(u"p.prj"_s) + u" can not be put aside"_s),
+                     qPrintable(run.detail()));
+        }
         QCOMPARE(place.read(u"p.prj"_s), QByteArray("old"));
-    }
-
-    void convertsOnlyWhatNobodyHolds_data()
-    {
-        const TestRows<QString> row("held");
-        row("options", u"p.options.p_a"_s);
-        row("log", u"p.options/conversion.log"_s);
-    }
-
-    void convertsOnlyWhatNobodyHolds()
-    {
-        QFETCH(const QString, held);
-        const TestFolder place;
-        place.write(u"a.c"_s, "");
-        const auto convert = [&place](const QByteArray& options) {
-            place.write(u"db.json"_s, R"([{"file": "a.c", "command": "cc -c a.c )" + options + R"("}])");
-            return runProgram(QStringLiteral(CONVERTER),
-                              u"--output p.prj --analyser ORVC --compile-commands db.json"_s.split(u' '), {},
-                              place.path(u"."_s));
-        };
-        const auto files = [&place] {
-            QByteArray all;
-            for (QDirIterator each(place.path(u"."_s), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-                 each.hasNext();) {
-                const QString file = each.next();
-                all += file.endsWith("db.json"_L1) ? QByteArray() : file.toUtf8() + '\n' + place.read(file);
-            }
-            return all;
-        };
-        QCOMPARE(convert("-DOLD --odd").errors, QString());
-        const QByteArray before = files();
-        const HANDLE handle = hold(place.path(held));
-        const ProgramResult result = convert("-DNEW --other");
-        ::CloseHandle(handle);
-        QCOMPARE(result.status, 1);
-        QVERIFY2(result.errors.contains(place.nativePath(held) + u": can not be "_s), qPrintable(result.errors));
-        QCOMPARE(files(), before);
-        QVERIFY(before.contains("-d OLD"));
     }
 
     // What Wine shows of this system's processes can not be written, not even by its administrator.

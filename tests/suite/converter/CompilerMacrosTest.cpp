@@ -69,13 +69,18 @@ private Q_SLOTS:
         const TestRows<QString, QByteArray, QString, QString> row("program", "body", "says", "macro");
         row("not there", u"/opt/none/aarch64-linux-gnu-gcc-12"_s, {}, u"it is not on this system"_s,
             u"-d __aarch64__=1"_s);
+#ifdef Q_OS_WIN
+        const QString usual = u"-d _WIN32=1"_s;
+#else
+        const QString usual = u"-d __linux__=1"_s;
+#endif
         row("refuses", u"%1/tools/gcc"_s, "print-error no such option; exit 1",
             u"it refused to answer: no such option"_s, u"-d __BYTE_ORDER__=1234"_s);
         row("never ends", u"%1/tools/cc"_s, "hang", u"it gave no answer in time"_s, u"-d __x86_64__=1"_s);
         row("floods", u"%1/tools/clang"_s, "flood 0 #define A", u"its answer is too long"_s, u"-d __clang__=1"_s);
-        row("says nothing", u"%1/tools/gcc-12"_s, "exit", u"its answer holds no macros"_s, u"-d __linux__=1"_s);
-        row("not a compiler's name", u"%1/tools/clean"_s, "write $0.ran", u"it has no option"_s, u"-d __linux__=1"_s);
-        row("among the sources", u"%1/work/gcc"_s, "write $0.ran", u"it lies among the sources"_s, u"-d __linux__=1"_s);
+        row("says nothing", u"%1/tools/gcc-12"_s, "exit", u"its answer holds no macros"_s, usual);
+        row("not a compiler's name", u"%1/tools/clean"_s, "write $0.ran", u"it has no option"_s, usual);
+        row("among the sources", u"%1/work/gcc"_s, "write $0.ran", u"it lies among the sources"_s, usual);
         row("by a relative path", u"./gcc"_s, {}, u"it is named by a relative path"_s, u"-d __linux__=1"_s);
         row("cross compiler for Windows", u"/opt/none/i686-w64-mingw32-gcc"_s, {}, u"it is not on this system"_s,
             u"-d __SIZEOF_POINTER__=4"_s);

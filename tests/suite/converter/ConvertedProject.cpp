@@ -113,7 +113,8 @@ QStringList ConvertedProject::options(const QString& file) const
             result += options(line.section(u'"', 1, 1));
         } else if (!line.startsWith("* "_L1)) {
             // Folders and headers, in whose separators the systems differ.
-            const bool isPath = line.startsWith("-i "_L1) || line.startsWith("-fi "_L1);
+            const bool isPath =
+                line.startsWith("-i "_L1) || line.startsWith("-fi "_L1) || line.startsWith("*orv macros="_L1);
             result += isPath ? QDir::fromNativeSeparators(line) : line;
         }
     }
