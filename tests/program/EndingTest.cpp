@@ -50,7 +50,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, signal);
         QFETCH(const bool, launches);
-        const OwnConsole console;
+        [[maybe_unused]] const OwnConsole console;
         const Installation suite;
         const QByteArray script = suite
                                       .writeChild(u"convert"_s, R"(

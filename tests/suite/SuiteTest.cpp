@@ -192,7 +192,7 @@ private Q_SLOTS:
 
     void stopsOnASignal()
     {
-        const OwnConsole console;
+        [[maybe_unused]] const OwnConsole console;
         const InstalledSuite suite;
         suite.define(
             "<projectCreator><name>Slow</name><orvcProject>1</orvcProject><exe>" +

@@ -129,7 +129,7 @@ private Q_SLOTS:
         const TestFolder place;
         const QString project = place.write(u"p.prj"_s, "old");
         {
-            const HeldFile held(project);
+            [[maybe_unused]] const HeldFile held(project);
             ConversionRun run;
             QVERIFY(!run.start(place.writeChild(u"convert"_s, "write $1 new"), {project}, project));
             QVERIFY2(run.detail().contains(place.nativePath(u"p.prj"_s) + u" can not be put aside"_s),
@@ -224,27 +224,6 @@ private Q_SLOTS:
         Found found;
         FileSearch({u"*.c"_s}).run(place.path(u"work"_s), found);
         QCOMPARE(found.files, QStringList{u"found.c"_s});
-    }
-
-    // Stand-ins: the real ones are not to be had as packages here.
-    void findsTheAnalysersToolsWhereTheirInstallersPutThem()
-    {
-        const TestFolder place;
-        place.writeChild(u"local/Programs/Cppcheck/cppcheck"_s, "append $0.log $*; print Cppcheck 2.10");
-        place.writeChild(u"local/Ninja/ninja"_s, "append $0.log $*; print 1.11.1");
-        place.write(u"a.c"_s, "int a;\n");
-        place.write(u"p.prj"_s, "VersionTag 45\nStartProjectMarker\nname=p\nsourceDir=.\noutputDir=out\n"
-                                "messagePersonality=default string\nanalyserPersonality=default string\n"
-                                "compilerPersonality=default string\n*project=ORVC\na.c\nEndContainedFilesMarker\n"
-                                "EndOfProjectFile\n");
-        const ProgramResult result = runProgram(
-            QStringLiteral(ORV), {u"analyse"_s, u"p.prj"_s},
-            {{u"LOCALAPPDATA"_s, place.path(u"local"_s)}, {u"PATH"_s, u"C:\\windows\\system32"_s}}, place.path(u"."_s));
-        QVERIFY2(place.read(u"local/Programs/Cppcheck/cppcheck.log"_s).contains("--version"),
-                 qPrintable(result.output + result.errors));
-        QVERIFY2(!place.read(u"local/Ninja/ninja.log"_s).isEmpty(), qPrintable(result.output + result.errors));
-        // Stand-ins analyse nothing, and that is told.
-        QCOMPARE(result.status, 2);
     }
 
     void endsGrandchildren()

@@ -178,7 +178,7 @@ private Q_SLOTS:
         QTRY_VERIFY(wizard.output().contains("started"_L1));
 #ifdef Q_OS_WIN
         // The job ends it with the conversion.
-        const QString strays;
+        const auto strays = u""_s;
 #else
         const QString strays = u", a program that a tool has left running"_s;
 #endif

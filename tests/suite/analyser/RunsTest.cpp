@@ -194,7 +194,7 @@ private Q_SLOTS:
         // The third source waits for a file that never comes.
         code.replaceProgram(u"cppcheck"_s,
                             "if-told project=units { if-told s3.cpp { mark $0.pid; hang } }\n" + realAnalyser());
-        const OwnConsole console;
+        [[maybe_unused]] const OwnConsole console;
         QProcess program;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"PATH"_s, code.path(u"bin"_s) + QDir::listSeparator() + environment.value(u"PATH"_s));

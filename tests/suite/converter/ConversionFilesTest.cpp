@@ -244,7 +244,7 @@ private:
     static ProgramResult convert(const ConvertedProject& project, const QString& start)
     {
         if (start.isEmpty() || start.startsWith("hold "_L1)) {
-            const HeldFile held(start.isEmpty() ? QString() : project.work(start.mid(5)));
+            [[maybe_unused]] const HeldFile held(start.isEmpty() ? QString() : project.work(start.mid(5)));
             return project.convertDatabase();
         }
         const QString output = start.contains(u"rmdir"_s) ? u"p.prj"_s : project.work(u"p.prj"_s);
