@@ -24,7 +24,6 @@ public:
     explicit ActionPage(ApplicationWindow* owner);
     ~ActionPage() override;
 
-    void build() override;
     void initializePage() override;
     void cleanupPage() override;
     bool validatePage() override { return true; }
@@ -40,6 +39,7 @@ public Q_SLOTS:
     void ProcessComplete();
 
 private:
+    void build() override;
     void showRunning();
     void showProgress();
     void flushOutput();

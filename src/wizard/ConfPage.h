@@ -21,7 +21,6 @@ public:
     explicit ConfPage(ApplicationWindow* owner);
     ~ConfPage() override;
 
-    void build() override;
     void initializePage() override;
     bool validatePage() override;
     bool isComplete() const override;
@@ -34,6 +33,7 @@ public Q_SLOTS:
     void ComplianceChanged(int index);
 
 private:
+    void build() override;
     struct Field
     {
         ConfigurationKind kind;

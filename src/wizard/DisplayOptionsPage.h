@@ -20,7 +20,6 @@ class DisplayOptionsPage : public AppPage
 public:
     explicit DisplayOptionsPage(ApplicationWindow* owner);
 
-    void build() override;
     void initializePage() override;
     void cleanupPage() override;
     bool validatePage() override { return true; }
@@ -31,6 +30,7 @@ protected:
     QString helpPage() const override;
 
 private:
+    void build() override;
     void createNotes(QLayout& layout);
     void showNotes();
     void buildButtons(PageData& launchers);
