@@ -82,7 +82,7 @@ private Q_SLOTS:
         wizard.button(u"Analyse\nproject"_s).click();
         // What the analysis does last.
         QTRY_VERIFY2_WITH_TIMEOUT(suite.read(u"work/new folder/own code.prj"_s).contains("*lastAnalysis=Cppcheck"),
-                                  qPrintable(boxes.texts.join(u' ')), 60000);
+                                  qPrintable((boxes.texts + boxes.details).join(u' ')), 60000);
         QVERIFY(suite.read(u"work/new folder/own code.out/größe a.cpp.err"_s).contains("arrayIndexOutOfBounds"));
         results.click();
         QTRY_COMPARE(registry.openDialogs.size(), 1);
