@@ -19,7 +19,7 @@ namespace {
 QImage drawing()
 {
     constexpr int side = 60;
-    constexpr int bytesPerLine = side * 3;
+    constexpr qsizetype bytesPerLine = qsizetype(3) * side;
     const QByteArray points = QResource(u":/logo_shadow.rgb"_s).uncompressedData();
     return points.size() == side * bytesPerLine ? QImage(reinterpret_cast<const uchar*>(points.constData()), side, side,
                                                          bytesPerLine, QImage::Format_RGB888)
