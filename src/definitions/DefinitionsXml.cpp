@@ -105,24 +105,17 @@ QStringView currentPlatformName()
 #endif
 }
 
-QStringList wordsOf(QStringView text)
+QStringList wordsOf(const QString& text)
 {
-    constexpr auto isSpace = [](QChar character) { return character.isSpace(); };
-    const auto endOfWord = [&](auto begin) { return std::find_if(begin, text.end(), isSpace); };
-    const auto beginOfWord = [&](auto end) { return std::find_if_not(end, text.end(), isSpace); };
-    QStringList words;
-    words.reserve(text.count(u' ') + 1);
-    for (auto at = beginOfWord(text.begin()); at != text.end();) {
-        const auto end = endOfWord(at);
-        words.emplace_back(at, end - at);
-        at = beginOfWord(end);
-    }
+    QStringList words = splitAtWhiteSpace(text);
+    words.removeAll(QString());
     return words;
 }
 
 QStringList splitAtWhiteSpace(const QString& text)
 {
     QStringList parts;
+    parts.reserve(text.count(u' ') + 1);
     qsizetype begin = 0;
     for (qsizetype at = 0; at < text.size();) {
         if (!text[at].isSpace()) {

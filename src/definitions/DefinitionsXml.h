@@ -41,7 +41,7 @@ private:
 QStringView currentPlatformName();
 
 /// The words of a text, which white space separates.
-QStringList wordsOf(QStringView text);
+QStringList wordsOf(const QString& text);
 
 /// The parts of a text between runs of white space; one at either end leaves an empty part there.
 QStringList splitAtWhiteSpace(const QString& text);

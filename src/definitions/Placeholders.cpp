@@ -35,27 +35,13 @@ QString withEnvironmentValue(QString text, const QStringList& environment)
 }
 
 // A search for the whole placeholder, which begins with a per cent sign, takes longer to set up than texts are.
-qsizetype indexOf(QStringView placeholder, QStringView text, qsizetype from)
+bool isIn(QStringView text, QLatin1StringView placeholder, qsizetype firstSign)
 {
-    qsizetype at = text.indexOf(u'%', from);
+    qsizetype at = firstSign;
     while (at >= 0 && !text.sliced(at).startsWith(placeholder)) {
         at = text.indexOf(u'%', at + 1);
     }
-    return at;
-}
-
-QString withFolder(QStringView text, QStringView placeholder, const QString& folder, qsizetype first)
-{
-    QString result;
-    result.reserve(text.size() + folder.size());
-    qsizetype begin = 0;
-    for (qsizetype at = first; at >= 0; at = indexOf(placeholder, text, begin)) {
-        result += text.sliced(begin, at - begin);
-        result += folder;
-        begin = at + placeholder.size();
-    }
-    result += text.sliced(begin);
-    return QDir::cleanPath(result);
+    return at >= 0;
 }
 
 } // namespace
@@ -66,11 +52,11 @@ QString ExpandPlaceholders(const QString& text, const Places& places, const QStr
     if (first < 0) {
         return text;
     }
-    const std::pair<QStringView, const QString&> folders[] = {
-        {u"%I%", places.installPath}, {u"%ORVC%", places.cInstallDir}, {u"%ORVCPP%", places.cppInstallDir}};
+    const std::pair<QLatin1StringView, const QString&> folders[] = {
+        {"%I%"_L1, places.installPath}, {"%ORVC%"_L1, places.cInstallDir}, {"%ORVCPP%"_L1, places.cppInstallDir}};
     for (const auto& [placeholder, folder] : folders) {
-        if (const qsizetype at = indexOf(placeholder, text, first); at >= 0) {
-            return withFolder(text, placeholder, folder, at);
+        if (isIn(text, placeholder, first)) {
+            return QDir::cleanPath(QString(text).replace(placeholder, folder));
         }
     }
     if (text.contains("%R%"_L1)) {

@@ -15,7 +15,8 @@ class OrvBasicWizardPage : public QWizardPage
 public:
     OrvBasicWizardPage(QWidget* parent, int pageId);
 
-    /// Called before the page is entered for the first time. Controls that are made here cost a start nothing.
+    /// Called before the page is entered for the first time, unless it has a layout. Controls that are made here cost a
+    /// start nothing.
     virtual void build() {}
     /// Called for custom button 1 while this page is shown.
     virtual void CustomButtonAction() {}

@@ -162,8 +162,7 @@ void OrvWizardWindow::Finished(int result)
 void OrvWizardWindow::initializePage(int id)
 {
     auto* entered = qobject_cast<OrvBasicWizardPage*>(page(id));
-    if (entered && !builtPages.contains(id)) {
-        builtPages.insert(id);
+    if (entered && !entered->layout()) {
         entered->build();
     }
     QWizard::initializePage(id);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QSet>
 #include <QStringList>
 #include <QWizard>
 
@@ -68,5 +67,4 @@ private:
     void fitPage();
 
     HelpManager* help = nullptr;
-    QSet<int> builtPages;
 };
