@@ -26,16 +26,20 @@ struct ArgumentDefinition
     /// Names the remembered value in the settings.
     QString key;
     InputType inputType = InputType::Edit;
-    QString hoverHelp;
+    int columns = 1;
     bool mustBeSet = false;
     bool fileMustExist = false;
+    bool cOnly = false;
+    bool cppOnly = false;
+    QString hoverHelp;
     QString outputString;
     QString extension = QStringLiteral("*");
     QString separator = QStringLiteral(" ");
-    int columns = 1;
-    std::vector<std::unique_ptr<ArgumentDefinition>> children;
     QString argument;
     QString prefix;
+    QString cDefaultValue;
+    QString cppDefaultValue;
+    std::vector<std::unique_ptr<ArgumentDefinition>> children;
 
     /// The controls built for the field; the page's widget tree owns them.
     QLineEdit* lineEdit = nullptr;
@@ -44,11 +48,6 @@ struct ArgumentDefinition
     QList<QWidget*> widgets;
     /// The value entered, as remembered.
     QString value;
-
-    bool cOnly = false;
-    bool cppOnly = false;
-    QString cDefaultValue;
-    QString cppDefaultValue;
 
     const QString& DefaultValue(bool isC) const { return isC ? cDefaultValue : cppDefaultValue; }
     bool isText() const

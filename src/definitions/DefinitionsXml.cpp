@@ -19,6 +19,24 @@ bool isForeignPlatform(QStringView name, QStringView platform)
     return std::ranges::find(platformNames, name) != platformNames.end() && name != platform;
 }
 
+template <typename Take>
+void forEachPart(QStringView text, const Take& take)
+{
+    qsizetype begin = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        if (!text[at].isSpace()) {
+            ++at;
+            continue;
+        }
+        take(text.sliced(begin, at - begin));
+        while (at < text.size() && text[at].isSpace()) {
+            ++at;
+        }
+        begin = at;
+    }
+    take(text.sliced(begin));
+}
+
 // The context of the texts in the catalogues.
 class Text
 {
@@ -49,47 +67,94 @@ void DefinitionsReader::passedOver(QStringView parent)
     }
 }
 
-QString DefinitionsReader::choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values)
+QLatin1StringView DefinitionsReader::choice(QLatin1StringView attribute,
+                                            std::initializer_list<QLatin1StringView> values)
 {
     const QXmlStreamAttributes given = attributes();
     if (given.isEmpty()) {
         return {};
     }
-    QString value = given.value(attribute).toString();
-    if (isChecked() && given.hasAttribute(attribute) && std::ranges::find(values, value) == values.end()) {
-        QStringList known;
-        std::ranges::copy(values, std::back_inserter(known));
-        remark(
-            Text::tr("%1=\"%2\" counts as absent; known are %3").arg(QString(attribute), value, known.join(u", "_s)));
+    const QStringView value = given.value(attribute);
+    const auto* known = std::ranges::find_if(values, [&](QLatin1StringView each) { return value == each; });
+    if (known != values.end()) {
+        return *known;
     }
-    return value;
+    if (isChecked() && given.hasAttribute(attribute)) {
+        QStringList names;
+        std::ranges::copy(values, std::back_inserter(names));
+        remark(
+            Text::tr("%1=\"%2\" counts as absent; known are %3").arg(QString(attribute), value, names.join(u", "_s)));
+    }
+    return {};
+}
+
+QStringView DefinitionsReader::readText()
+{
+    lastText.resize(0);
+    for (TokenType token = readNext(); token != EndElement && token != Invalid; token = readNext()) {
+        if (token == StartElement) {
+            raiseError(u"Expected character data."_s);
+        } else if (token == Characters || token == EntityReference) {
+            lastText += text();
+        }
+    }
+    return lastText;
 }
 
 QString DefinitionsReader::readElementText()
 {
     QString result;
-    while (readNext() != EndElement && !hasError()) {
-        if (isStartElement()) {
+    for (TokenType token = readNext(); token != EndElement && token != Invalid; token = readNext()) {
+        if (token == StartElement) {
             raiseError(u"Expected character data."_s);
-        } else if (result.isEmpty() && isCharacters()) {
-            result = text().toString();
-        } else if (isCharacters() || isEntityReference()) {
+        } else if (token == Characters && result.isEmpty()) {
+            result = shared(text());
+        } else if (token == Characters || token == EntityReference) {
             result += text();
         }
     }
     return result;
 }
 
+QStringList DefinitionsReader::readWords()
+{
+    QStringList words;
+    const QStringView text = readText();
+    words.reserve(text.count(u' ') + 1);
+    forEachPart(text, [&](QStringView part) {
+        if (!part.isEmpty()) {
+            words += shared(part);
+        }
+    });
+    return words;
+}
+
+QString DefinitionsReader::shared(QStringView text)
+{
+    if (text.isEmpty()) {
+        return {};
+    }
+    // Four characters of a text and its length tell most apart.
+    std::size_t place = text.size();
+    for (const qsizetype at : {qsizetype(0), text.size() / 4, text.size() / 2, text.size() - 1}) {
+        place = place * 31 + text[at].unicode();
+    }
+    QString& known = lately[place % lately.size()];
+    if (known != text) {
+        known = text.toString();
+    }
+    return known;
+}
+
 int DefinitionsReader::readNumber()
 {
-    const QString element = name().toString();
-    const QString text = readElementText();
+    const QStringView number = readText();
     bool isNumber = false;
-    const int number = text.toInt(&isNumber);
+    const int value = number.toInt(&isNumber);
     if (!isNumber) {
-        remark(Text::tr("<%1> wants a number; \"%2\" counts as 0").arg(element, text));
+        remark(Text::tr("<%1> wants a number; \"%2\" counts as 0").arg(name(), number));
     }
-    return number;
+    return value;
 }
 
 QStringView currentPlatformName()
@@ -105,30 +170,12 @@ QStringView currentPlatformName()
 #endif
 }
 
-QStringList wordsOf(const QString& text)
-{
-    QStringList words = splitAtWhiteSpace(text);
-    words.removeAll(QString());
-    return words;
-}
-
-QStringList splitAtWhiteSpace(const QString& text)
+QStringList splitAtWhiteSpace(QStringView text)
 {
     QStringList parts;
     parts.reserve(text.count(u' ') + 1);
-    qsizetype begin = 0;
-    for (qsizetype at = 0; at < text.size();) {
-        if (!text[at].isSpace()) {
-            ++at;
-            continue;
-        }
-        parts += text.sliced(begin, at - begin);
-        while (at < text.size() && text[at].isSpace()) {
-            ++at;
-        }
-        begin = at;
-    }
-    return parts << text.sliced(begin);
+    forEachPart(text, [&](QStringView part) { parts += part.toString(); });
+    return parts;
 }
 
 QXmlStreamReader::TokenType readToken(QXmlStreamReader& xml, QStringView platform)

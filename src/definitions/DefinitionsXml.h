@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QXmlStreamReader>
 
+#include <array>
 #include <functional>
 #include <initializer_list>
 #include <type_traits>
@@ -24,27 +25,31 @@ public:
     void remarkAt(qint64 line, const QString& text);
     /// The element at which the reader stands is passed over.
     void passedOver(QStringView parent);
-    /// An attribute that has one of these values, where it is given.
-    QString choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values);
-    /// As the base's, without its copies: most elements hold one piece of text.
+    /// Which of these values an attribute has; none where it is absent or another is given.
+    QLatin1StringView choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values);
+    /// The element's text, which lies in the reader until the next one is read.
+    QStringView readText();
     QString readElementText();
+    /// The words of the element's text, which white space separates.
+    QStringList readWords();
+    /// The text, which shares its memory with an equal one that was lately asked for: definitions repeat themselves.
+    QString shared(QStringView text);
     /// The element's text as a number; 0 where it is none.
     int readNumber();
 
 private:
     /// Of a device the base decodes a piece at a time, of bytes the whole document at once.
     QBuffer source;
+    QString lastText;
+    std::array<QString, 512> lately;
     RemarkFunction remarkFunction;
 };
 
 /// The name under which the definitions file knows the system this program was built for.
 QStringView currentPlatformName();
 
-/// The words of a text, which white space separates.
-QStringList wordsOf(const QString& text);
-
 /// The parts of a text between runs of white space; one at either end leaves an empty part there.
-QStringList splitAtWhiteSpace(const QString& text);
+QStringList splitAtWhiteSpace(QStringView text);
 
 /// Reads the next token; a section for another platform is skipped up to its first matching end element.
 QXmlStreamReader::TokenType readToken(QXmlStreamReader& xml, QStringView platform = currentPlatformName());
@@ -55,7 +60,7 @@ void readChild(Reader& xml, QStringView parent, OnStart& onStart)
     const qint64 offset = xml.characterOffset();
     onStart(xml.name());
     if constexpr (std::is_same_v<Reader, DefinitionsReader>) {
-        if (xml.isStartElement() && xml.characterOffset() == offset) {
+        if (xml.isChecked() && xml.isStartElement() && xml.characterOffset() == offset) {
             xml.passedOver(parent);
         }
     }
@@ -66,8 +71,9 @@ void readChild(Reader& xml, QStringView parent, OnStart& onStart)
 template <typename Reader, typename OnStart>
 void readRecord(Reader& xml, QStringView element, OnStart&& onStart)
 {
-    while (!xml.atEnd() && !xml.hasError()) {
+    for (;;) {
         switch (readToken(xml)) {
+        case QXmlStreamReader::Invalid:
         case QXmlStreamReader::EndDocument:
             return;
         case QXmlStreamReader::EndElement:

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QRegularExpression>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <array>
@@ -29,16 +30,21 @@ constexpr std::array inputTypes = {
     std::pair{"RADIO"_L1, InputType::Radio}, std::pair{"EDIT"_L1, InputType::Edit},
 };
 
-void readInputType(DefinitionsReader& xml, ArgumentDefinition& definition)
+void readLooks(DefinitionsReader& xml, ArgumentDefinition& definition)
 {
     const QXmlStreamAttributes attributes = xml.attributes();
-    definition.separator = attributes.value("SEP"_L1).toString();
+    definition.separator = xml.shared(attributes.value("SEP"_L1));
     definition.columns = attributes.value("COLUMNS"_L1).toInt();
-    definition.outputString = attributes.value("OUT_STR"_L1).toString();
-    const QString analyser = xml.choice("TYPE"_L1, {"C_ONLY"_L1, "CPP_ONLY"_L1});
+    definition.outputString = xml.shared(attributes.value("OUT_STR"_L1));
+}
+
+void readInputType(DefinitionsReader& xml, ArgumentDefinition& definition)
+{
+    readLooks(xml, definition);
+    const QLatin1StringView analyser = xml.choice("TYPE"_L1, {"C_ONLY"_L1, "CPP_ONLY"_L1});
     definition.cOnly = analyser == "C_ONLY"_L1;
     definition.cppOnly = analyser == "CPP_ONLY"_L1;
-    const QString text = xml.readElementText();
+    const QStringView text = xml.readText();
     const auto known = std::ranges::find_if(inputTypes, [&](const auto& entry) { return text == entry.first; });
     if (known != inputTypes.end()) {
         definition.inputType = known->second;
@@ -49,8 +55,8 @@ void readInputType(DefinitionsReader& xml, ArgumentDefinition& definition)
 
 void readDefault(DefinitionsReader& xml, ArgumentDefinition& definition, const TextExpander& expand)
 {
-    const QString analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
-    const QString text = expand(xml.readElementText());
+    const QLatin1StringView analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
+    const QString text = xml.shared(expand(xml.readElementText()));
     if (analyser != "CPP"_L1) {
         definition.cDefaultValue = text;
     }
@@ -61,7 +67,7 @@ void readDefault(DefinitionsReader& xml, ArgumentDefinition& definition, const T
 
 void readMustBeSet(DefinitionsReader& xml, ArgumentDefinition& definition)
 {
-    const QString text = xml.readElementText();
+    const QStringView text = xml.readText();
     if (text == "FILE_MUST_EXIST"_L1) {
         definition.mustBeSet = true;
         definition.fileMustExist = true;
@@ -74,28 +80,34 @@ void readMustBeSet(DefinitionsReader& xml, ArgumentDefinition& definition)
     }
 }
 
-bool isPlain(QStringView text)
-{
-    return std::ranges::all_of(text, [](QChar character) { return character.unicode() <= 127; });
-}
+// Which characters of ASCII are those of words: most texts have no others, and a large file has thousands of them.
+constexpr std::array<bool, 128> plainWords = [] {
+    std::array<bool, 128> words{};
+    for (char16_t character = 0; character < words.size(); ++character) {
+        words[character] = (character >= u'0' && character <= u'9') || (character >= u'A' && character <= u'Z') ||
+                           (character >= u'a' && character <= u'z') || character == u'_';
+    }
+    return words;
+}();
 
-QString valueKey(const ArgumentDefinition& definition, const ProjectCreatorData& creator)
+QString valueKey(DefinitionsReader& xml, const ArgumentDefinition& definition, const ProjectCreatorData& creator)
 {
     const std::array<QStringView, 3> parts{definition.displayName, definition.argument, creator.name};
-    if (!std::ranges::all_of(parts, isPlain)) {
-        static const QRegularExpression nonWord(u"\\W+"_s, QRegularExpression::UseUnicodePropertiesOption);
-        return QString(definition.displayName + definition.argument + creator.name).remove(nonWord);
-    }
-    // The same for plain names, which a large file has thousands of.
-    QString key(parts[0].size() + parts[1].size() + parts[2].size(), Qt::Uninitialized);
+    QVarLengthArray<QChar> key(parts[0].size() + parts[1].size() + parts[2].size());
     QChar* end = key.data();
+    char16_t bits = 0;
     for (const QStringView part : parts) {
-        end = std::ranges::copy_if(part, end, [](QChar character) {
-                  return character.isLetterOrNumber() || character == u'_';
-              }).out;
+        for (const QChar character : part) {
+            bits |= character.unicode();
+            *end = character;
+            end += int(plainWords[character.unicode() % plainWords.size()]);
+        }
     }
-    key.truncate(end - key.constData());
-    return key;
+    if (bits < plainWords.size()) {
+        return xml.shared({key.constData(), end});
+    }
+    static const QRegularExpression nonWord(u"\\W+"_s, QRegularExpression::UseUnicodePropertiesOption);
+    return QString(definition.displayName + definition.argument + creator.name).remove(nonWord);
 }
 
 } // namespace
@@ -124,13 +136,13 @@ void readInputData(DefinitionsReader& xml, ProjectCreatorData& creator, Argument
         } else if (name == "ext"_L1) {
             definition.extension = xml.readElementText();
         } else if (name == "argDef"_L1) {
-            definition.prefix = xml.attributes().value("PRE"_L1).toString();
+            definition.prefix = xml.shared(xml.attributes().value("PRE"_L1));
             definition.argument = xml.readElementText();
         } else if (name == "inputData"_L1) {
             readInputData(xml, creator, &definition, expand, depth + 1);
         }
     });
-    definition.key = valueKey(definition, creator);
+    definition.key = valueKey(xml, definition, creator);
     if (definition.displayName.isEmpty()) {
         xml.remarkAt(line, Text::tr("<inputData> has no <displayName>"));
     }

@@ -40,8 +40,8 @@ void readPersonality(DefinitionsReader& xml, const TextExpander& expand, Project
                      const ConfigurationFacts& kind)
 {
     creator.*kind.asked = true;
-    const QString analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
-    const QString path = expand(xml.readElementText());
+    const QLatin1StringView analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
+    const QString path = xml.shared(expand(xml.readElementText()));
     if (analyser == "C"_L1) {
         creator.*kind.cPreset = path;
     } else if (analyser == "CPP"_L1) {
@@ -57,10 +57,10 @@ void readProjectCreator(DefinitionsReader& xml, ProjectCreatorData& creator, con
         if (name == "name"_L1) {
             creator.name = xml.readElementText();
         } else if (name == "exe"_L1) {
-            creator.exe = expand(xml.readElementText());
+            creator.exe = xml.shared(expand(xml.readElementText()));
         } else if (name == "exeargs"_L1) {
             argumentsLine = xml.lineNumber();
-            creator.exeArgs = wordsOf(xml.readElementText());
+            creator.exeArgs = xml.readWords();
         } else if (name == "orvcProject"_L1) {
             creator.orvcProject |= xml.readNumber() != 0;
         } else if (name == "orvcppProject"_L1) {
@@ -79,7 +79,7 @@ void readComplianceModule(DefinitionsReader& xml, ComplianceModule& module, cons
     const auto path = [&] { return QDir::cleanPath(expand(ToForwardSlashes(xml.readElementText()))); };
     readRecord(xml, u"compliance_module", [&](QStringView name) {
         if (name == "product"_L1) {
-            const QString product = xml.readElementText();
+            const QStringView product = xml.readText();
             module.isC = product == "ORVC"_L1 || product == "orvc"_L1;
         } else if (name == "name"_L1) {
             module.name = xml.readElementText();
@@ -115,7 +115,7 @@ void readCrossModuleAnalysis(DefinitionsReader& xml, CrossModuleAnalysis& analys
         if (name == "exe"_L1) {
             analysis.exe = QDir::cleanPath(expand(ToForwardSlashes(xml.readElementText())));
         } else if (name == "exeargs"_L1) {
-            analysis.exeArgs = splitAtWhiteSpace(xml.readElementText());
+            analysis.exeArgs = splitAtWhiteSpace(xml.readText());
         }
     });
 }

@@ -34,14 +34,23 @@ QString withEnvironmentValue(QString text, const QStringList& environment)
     return text.replace(u'%' + parts[1] + u'%', EnvironmentValue(parts[1], false, environment));
 }
 
-// A search for the whole placeholder, which begins with a per cent sign, takes longer to set up than texts are.
-bool isIn(QStringView text, QLatin1StringView placeholder, qsizetype firstSign)
+// Where the placeholder is next, from a per cent sign on: a search for the whole of it takes longer to set up than
+// texts are.
+qsizetype next(QStringView text, QLatin1StringView placeholder, qsizetype sign)
 {
-    qsizetype at = firstSign;
-    while (at >= 0 && !text.sliced(at).startsWith(placeholder)) {
-        at = text.indexOf(u'%', at + 1);
+    while (sign >= 0 && !text.sliced(sign).startsWith(placeholder)) {
+        sign = text.indexOf(u'%', sign + 1);
     }
-    return at >= 0;
+    return sign;
+}
+
+QString replaced(QString text, qsizetype at, QLatin1StringView placeholder, const QString& folder)
+{
+    while (at >= 0) {
+        text.replace(at, placeholder.size(), folder);
+        at = next(text, placeholder, text.indexOf(u'%', at + folder.size()));
+    }
+    return text;
 }
 
 } // namespace
@@ -55,8 +64,8 @@ QString ExpandPlaceholders(const QString& text, const Places& places, const QStr
     const std::pair<QLatin1StringView, const QString&> folders[] = {
         {"%I%"_L1, places.installPath}, {"%ORVC%"_L1, places.cInstallDir}, {"%ORVCPP%"_L1, places.cppInstallDir}};
     for (const auto& [placeholder, folder] : folders) {
-        if (isIn(text, placeholder, first)) {
-            return QDir::cleanPath(QString(text).replace(placeholder, folder));
+        if (const qsizetype at = next(text, placeholder, first); at >= 0) {
+            return QDir::cleanPath(replaced(text, at, placeholder, folder));
         }
     }
     if (text.contains("%R%"_L1)) {
