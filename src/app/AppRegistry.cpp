@@ -4,12 +4,12 @@
 #include "app/ProcessEnvironment.h"
 #include "app/SettingsStore.h"
 #include "app/Translations.h"
-#include "personality/OptionTables.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDialog>
 #include <QFileInfo>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -119,7 +119,8 @@ bool AppRegistry::Init(QCoreApplication* app, const QStringList& arguments, cons
 void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int width, int height)
 {
     Translations::installQtTexts(*app);
-    TemporaryFiles::removeStale();
+    // A folder of thousands of files need not hold up the window.
+    QTimer::singleShot(0, app, &TemporaryFiles::removeStale);
     installValues.ReadFile(wendleToolsFileName);
     if (!arguments.isEmpty()) {
         exePath = executablePath(arguments.first());
@@ -130,8 +131,6 @@ void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int 
     cInstallDir = folders.c;
     cppInstallDir = folders.cpp;
     definitions.ReadFile(definitionsFileName, definitionsContext());
-    cOnlyOptions = OptionTables::cOnlyOptions();
-    cppOnlyOptions = OptionTables::cppOnlyOptions();
     SetProcessEnvironment(nullptr, true);
 }
 

@@ -73,8 +73,6 @@ public:
     QString exePath;
     QString cInstallDir;
     QString cppInstallDir;
-    QStringList cOnlyOptions;
-    QStringList cppOnlyOptions;
     const QSettings::Scope settingsScope = QSettings::SystemScope;
     TraceLog traceLog;
     QString wendleToolsFileName = QStringLiteral("wendleTools.xml");

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -41,17 +42,31 @@ QString AppPage::helpPage() const
     }
 }
 
-QLabel* AppPage::addHint()
+void AppPage::addHint()
 {
-    auto* hint = new QLabel;
+    hint = new QLabel;
     hint->setTextFormat(Qt::PlainText);
-    hint->setWordWrap(true);
     hint->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
                              style()->pixelMetric(QStyle::PM_LayoutRightMargin), 0);
     // The page keeps its shape when the text comes and goes.
     hint->setMinimumHeight(hint->fontMetrics().lineSpacing());
     layout()->addWidget(hint);
-    return hint;
+}
+
+void AppPage::showHint(const QString& text)
+{
+    hint->setText(text);
+    wrapWide(*hint, 0.5);
+}
+
+void AppPage::wrapWide(QLabel& label, double share)
+{
+    const bool isWide =
+        label.fontMetrics().horizontalAdvance(label.text()) > label.screen()->availableSize().width() * share;
+    // Setting it again would measure the text again.
+    if (label.wordWrap() != isWide) {
+        label.setWordWrap(isWide);
+    }
 }
 
 void AppPage::completeControls()

@@ -22,11 +22,15 @@ public:
 protected:
     /// The file name of the help page that the link opens.
     virtual QString helpPage() const;
-    /// A line for what Next waits for, below what the page scrolls, so that it is always seen.
-    QLabel* addHint();
+    /// Adds a line for what Next waits for, below what the page scrolls, so that it is always seen.
+    void addHint();
+    void showHint(const QString& text);
+    /// A text that takes more of the screen's width than this, which can be in a large font, is broken into lines.
+    static void wrapWide(QLabel& label, double share);
 
     ApplicationWindow* window;
 
 private:
+    QLabel* hint = nullptr;
     QPushButton* helpLink = nullptr;
 };

@@ -60,7 +60,7 @@ void ConfPage::build()
     grid->addWidget(modules, 0, 0);
     grid->addWidget(files, 1, 0);
     grid->setRowStretch(2, 1);
-    hint = addHint();
+    addHint();
 
     connect(complianceCombo, &QComboBox::currentIndexChanged, this, &ConfPage::ComplianceChanged);
     connect(compilerField->lineEdit(), &QLineEdit::textChanged, this, &ConfPage::CPersonalityChanged);
@@ -151,8 +151,8 @@ const ConfPage::Field* ConfPage::firstMissing() const
 void ConfPage::updateHint()
 {
     const Field* missing = firstMissing();
-    hint->setText(missing ? tr("To continue, name an existing file as \"%1\".").arg(missing->label->text().chopped(1))
-                          : QString());
+    showHint(missing ? tr("To continue, name an existing file as \"%1\".").arg(missing->label->text().chopped(1))
+                     : QString());
 }
 
 void ConfPage::CPersonalityChanged(const QString& fileName)

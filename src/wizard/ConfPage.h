@@ -56,7 +56,5 @@ private:
     std::vector<Field> fields;
     QString noneText;
     QWidget* complianceBox = nullptr;
-    /// Says which file Next is waiting for.
-    QLabel* hint = nullptr;
     bool restoring = false;
 };

@@ -16,7 +16,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -57,8 +56,8 @@ void StartPage::layOut()
     auto* typeLabel = new QLabel(tr("Original project type:"));
     typeLabel->setBuddy(typeCombo);
     for (QLabel* label : {nameLabel, locationLabel, typeLabel}) {
-        // In a large font they leave the fields no room.
-        label->setWordWrap(label->sizeHint().width() > window->screen()->availableSize().width() / 3);
+        // The fields beside them need room.
+        wrapWide(*label, 1 / 3.0);
     }
     nameEdit->setAccessibleName(nameLabel->text());
     location.lineEdit()->setAccessibleName(locationLabel->text());
@@ -74,7 +73,7 @@ void StartPage::layOut()
     grid->addWidget(errorLabel, 3, 0, 1, 6);
     grid->addWidget(warnings, 4, 0, 1, 6);
     grid->setRowStretch(5, 1);
-    hint = addHint();
+    addHint();
 }
 
 QString StartPage::errorText()
@@ -122,11 +121,11 @@ void StartPage::updateHint()
 {
     const bool isNamed = !nameEdit->text().isEmpty() && !location.lineEdit()->text().isEmpty();
     if (!errorLabel->isHidden()) {
-        hint->clear();
+        showHint({});
     } else if (!isNamed) {
-        hint->setText(tr("To continue, name the project and its folder."));
+        showHint(tr("To continue, name the project and its folder."));
     } else {
-        hint->setText(endsHere() ? window->noConversionText() : QString());
+        showHint(endsHere() ? window->noConversionText() : QString());
     }
 }
 

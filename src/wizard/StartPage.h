@@ -38,8 +38,6 @@ private:
     QLineEdit* nameEdit;
     QuietCombo* typeCombo;
     AlarmLabel* errorLabel;
-    /// Says what Next is waiting for.
-    QLabel* hint = nullptr;
     /// What went wrong while everything was loaded.
     QLabel* warnings;
     /// On whose account the page was refused.

@@ -10,7 +10,6 @@
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 
 #include <utility>
@@ -33,7 +32,6 @@ void forgetControls(const ArgumentDefinitions& definitions)
 
 XmlPage::XmlPage(ApplicationWindow* owner)
     : AppPage(owner, XmlPageId)
-    , grid(new QGridLayout(PageScrollArea::fill(*this)))
 {
     setTitle(tr("Project Conversion Information"));
     setSubTitle(tr("Specify Information that identifies project to be converted"));
@@ -41,8 +39,13 @@ XmlPage::XmlPage(ApplicationWindow* owner)
         creator->panel = nullptr;
         forgetControls(creator->inputData);
     }
+}
+
+void XmlPage::build()
+{
+    grid = new QGridLayout(PageScrollArea::fill(*this));
     grid->setRowStretch(1, 1);
-    hint = addHint();
+    addHint();
 }
 
 void XmlPage::initializePage()
@@ -143,11 +146,11 @@ void XmlPage::valueChanged()
 {
     const ArgumentDefinition* missing = window->projectCreator ? firstIncomplete() : nullptr;
     if (!missing) {
-        hint->clear();
+        showHint({});
     } else if (missing->fileMustExist) {
-        hint->setText(tr("To continue, name an existing file or folder in \"%1\".").arg(missing->displayName));
+        showHint(tr("To continue, name an existing file or folder in \"%1\".").arg(missing->displayName));
     } else {
-        hint->setText(tr("To continue, fill in \"%1\".").arg(missing->displayName));
+        showHint(tr("To continue, fill in \"%1\".").arg(missing->displayName));
     }
     Q_EMIT completeChanged();
 }

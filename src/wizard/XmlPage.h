@@ -6,7 +6,6 @@
 
 class QGridLayout;
 class QGroupBox;
-class QLabel;
 struct ProjectCreatorData;
 
 /// The input fields that the chosen conversion type declares.
@@ -17,6 +16,7 @@ class XmlPage : public AppPage
 public:
     explicit XmlPage(ApplicationWindow* owner);
 
+    void build() override;
     void initializePage() override;
     /// Going back keeps what was entered.
     void cleanupPage() override;
@@ -36,7 +36,5 @@ private:
     FieldState fieldState(const ArgumentDefinition& definition) const;
     const ArgumentDefinition* firstIncomplete() const;
 
-    QGridLayout* grid;
-    /// Says which field Next is waiting for.
-    QLabel* hint = nullptr;
+    QGridLayout* grid = nullptr;
 };
