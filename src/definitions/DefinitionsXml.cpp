@@ -135,7 +135,7 @@ QString DefinitionsReader::shared(QStringView text)
         return {};
     }
     // Four characters of a text and its length tell most apart.
-    std::size_t place = text.size();
+    std::size_t place = std::size_t(text.size());
     for (const qsizetype at : {qsizetype(0), text.size() / 4, text.size() / 2, text.size() - 1}) {
         place = place * 31 + text[at].unicode();
     }

@@ -81,14 +81,17 @@ void readMustBeSet(DefinitionsReader& xml, ArgumentDefinition& definition)
 }
 
 // Which characters of ASCII are those of words: most texts have no others, and a large file has thousands of them.
-constexpr std::array<bool, 128> plainWords = [] {
+constexpr std::array<bool, 128> plainWordCharacters()
+{
     std::array<bool, 128> words{};
-    for (char16_t character = 0; character < words.size(); ++character) {
+    for (std::size_t character = 0; character < words.size(); ++character) {
         words[character] = (character >= u'0' && character <= u'9') || (character >= u'A' && character <= u'Z') ||
                            (character >= u'a' && character <= u'z') || character == u'_';
     }
     return words;
-}();
+}
+
+constexpr std::array<bool, 128> plainWords = plainWordCharacters();
 
 QString valueKey(DefinitionsReader& xml, const ArgumentDefinition& definition, const ProjectCreatorData& creator)
 {

@@ -43,8 +43,9 @@ XmlPage::XmlPage(ApplicationWindow* owner)
 
 void XmlPage::build()
 {
-    grid = new QGridLayout(PageScrollArea::fill(*this));
-    grid->setRowStretch(1, 1);
+    auto* layout = new QGridLayout(PageScrollArea::fill(*this));
+    layout->setRowStretch(1, 1);
+    grid = layout;
     addHint();
 }
 
