@@ -9,7 +9,6 @@
 #include <QDebug>
 #include <QDialog>
 #include <QFileInfo>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -119,8 +118,6 @@ bool AppRegistry::Init(QCoreApplication* app, const QStringList& arguments, cons
 void AppRegistry::Load(QCoreApplication* app, const QStringList& arguments, int width, int height)
 {
     Translations::installQtTexts(*app);
-    // A folder of thousands of files need not hold up the window.
-    QTimer::singleShot(0, app, &TemporaryFiles::removeStale);
     installValues.ReadFile(wendleToolsFileName);
     if (!arguments.isEmpty()) {
         exePath = executablePath(arguments.first());
@@ -184,6 +181,8 @@ void AppRegistry::ShutDown()
 {
     childProcesses.stopAll(shutDownWaitMs);
     tempFiles.removeAll();
+    // Not at the start: a folder of thousands of files would hold up the window.
+    TemporaryFiles::removeStale();
     const QList<QDialog*> dialogs = openDialogs;
     for (QDialog* dialog : dialogs) {
         dialog->done(QDialog::Rejected);
