@@ -71,6 +71,8 @@ AppRegistry::AppRegistry(QObject* parent)
 
 AppRegistry::~AppRegistry()
 {
+    // Not at the start: a folder of thousands of files would hold up the window.
+    TemporaryFiles::removeStale();
     if (appRegistry == this) {
         appRegistry = nullptr;
     }
@@ -181,8 +183,6 @@ void AppRegistry::ShutDown()
 {
     childProcesses.stopAll(shutDownWaitMs);
     tempFiles.removeAll();
-    // Not at the start: a folder of thousands of files would hold up the window.
-    TemporaryFiles::removeStale();
     const QList<QDialog*> dialogs = openDialogs;
     for (QDialog* dialog : dialogs) {
         dialog->done(QDialog::Rejected);

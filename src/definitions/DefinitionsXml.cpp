@@ -101,21 +101,6 @@ QStringView DefinitionsReader::readText()
     return lastText;
 }
 
-QString DefinitionsReader::readElementText()
-{
-    QString result;
-    for (TokenType token = readNext(); token != EndElement && token != Invalid; token = readNext()) {
-        if (token == StartElement) {
-            raiseError(u"Expected character data."_s);
-        } else if (token == Characters && result.isEmpty()) {
-            result = shared(text());
-        } else if (token == Characters || token == EntityReference) {
-            result += text();
-        }
-    }
-    return result;
-}
-
 QStringList DefinitionsReader::readWords()
 {
     QStringList words;

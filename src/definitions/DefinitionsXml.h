@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "definitions/TextExpander.h"
+
 #include <QBuffer>
 #include <QStringList>
 #include <QXmlStreamReader>
@@ -29,7 +31,9 @@ public:
     QLatin1StringView choice(QLatin1StringView attribute, std::initializer_list<QLatin1StringView> values);
     /// The element's text, which lies in the reader until the next one is read.
     QStringView readText();
-    QString readElementText();
+    QString readElementText() { return shared(readText()); }
+    /// The same with its placeholders expanded.
+    QString readExpanded(const TextExpander& expand) { return shared(expand(readElementText())); }
     /// The words of the element's text, which white space separates.
     QStringList readWords();
     /// The text, which shares its memory with an equal one that was lately asked for: definitions repeat themselves.

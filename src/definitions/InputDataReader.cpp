@@ -56,7 +56,7 @@ void readInputType(DefinitionsReader& xml, ArgumentDefinition& definition)
 void readDefault(DefinitionsReader& xml, ArgumentDefinition& definition, const TextExpander& expand)
 {
     const QLatin1StringView analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
-    const QString text = xml.shared(expand(xml.readElementText()));
+    const QString text = xml.readExpanded(expand);
     if (analyser != "CPP"_L1) {
         definition.cDefaultValue = text;
     }

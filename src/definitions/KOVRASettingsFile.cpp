@@ -41,7 +41,7 @@ void readPersonality(DefinitionsReader& xml, const TextExpander& expand, Project
 {
     creator.*kind.asked = true;
     const QLatin1StringView analyser = xml.choice("TYPE"_L1, {"C"_L1, "CPP"_L1});
-    const QString path = xml.shared(expand(xml.readElementText()));
+    const QString path = xml.readExpanded(expand);
     if (analyser == "C"_L1) {
         creator.*kind.cPreset = path;
     } else if (analyser == "CPP"_L1) {
@@ -57,7 +57,7 @@ void readProjectCreator(DefinitionsReader& xml, ProjectCreatorData& creator, con
         if (name == "name"_L1) {
             creator.name = xml.readElementText();
         } else if (name == "exe"_L1) {
-            creator.exe = xml.shared(expand(xml.readElementText()));
+            creator.exe = xml.readExpanded(expand);
         } else if (name == "exeargs"_L1) {
             argumentsLine = xml.lineNumber();
             creator.exeArgs = xml.readWords();

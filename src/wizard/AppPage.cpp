@@ -59,10 +59,9 @@ void AppPage::showHint(const QString& text)
     wrapWide(*hint, 0.5);
 }
 
-void AppPage::wrapWide(QLabel& label, double share)
+void AppPage::wrapWide(QLabel& label, double share) const
 {
-    const bool isWide =
-        label.fontMetrics().horizontalAdvance(label.text()) > label.screen()->availableSize().width() * share;
+    const bool isWide = label.fontMetrics().horizontalAdvance(label.text()) > screen()->availableSize().width() * share;
     // Setting it again would measure the text again.
     if (label.wordWrap() != isWide) {
         label.setWordWrap(isWide);

@@ -26,7 +26,7 @@ protected:
     void addHint();
     void showHint(const QString& text);
     /// A text that takes more of the screen's width than this, which can be in a large font, is broken into lines.
-    static void wrapWide(QLabel& label, double share);
+    void wrapWide(QLabel& label, double share) const;
 
     ApplicationWindow* window;
 
