@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CommandWords.h"
+#include "ControlCharacters.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace {
@@ -18,22 +18,35 @@ bool isEscapable(char character)
     return character == '"' || character == '\\' || character == '$' || character == '`';
 }
 
-bool holds(QByteArrayView text, char character)
-{
-    return !text.isEmpty() && std::memchr(text.data(), character, size_t(text.size())) != nullptr;
-}
-
 // Nothing but words and the blanks between them, as most commands are.
 bool isPlain(QByteArrayView command)
 {
-    static constexpr std::array others{'\\', '"', '\'', '\t', '\n', '\r', '\v', '\f'};
-    return std::ranges::none_of(others, [&](char character) { return holds(command, character); });
+    const auto holds = [command](char character) {
+        return !command.isEmpty() && std::memchr(command.data(), character, size_t(command.size())) != nullptr;
+    };
+    return !holds('\\') && !holds('"') && !holds('\'') && !holdsControlCharacter(command);
+}
+
+qsizetype commonStart(QByteArrayView one, QByteArrayView other)
+{
+    constexpr qsizetype step = 64;
+    const qsizetype size = std::min(one.size(), other.size());
+    qsizetype at = 0;
+    while (at + step <= size && std::memcmp(one.data() + at, other.data() + at, step) == 0) {
+        at += step;
+    }
+    return std::mismatch(one.begin() + at, one.begin() + size, other.begin() + at).first - one.begin();
 }
 
 } // namespace
 
 void CommandWords::clear()
 {
+    if (isPlainCommand) {
+        previous.swap(buffer);
+        previousSpans.swap(spans);
+    }
+    isPlainCommand = false;
     // Keeps what is allocated.
     buffer.resize(0);
     spans.clear();
@@ -51,12 +64,6 @@ void CommandWords::end()
     spans.emplace_back(start, buffer.size() - start);
     // Else two words could look like one to who compares pieces of the buffer.
     buffer.append('\0');
-}
-
-QByteArrayView CommandWords::operator[](qsizetype i) const
-{
-    const auto& [first, length] = spans[size_t(i)];
-    return QByteArrayView(buffer).sliced(first, length);
 }
 
 QByteArrayView CommandWords::piece(qsizetype first, qsizetype last) const
@@ -78,18 +85,33 @@ QStringList CommandWords::texts() const
 
 bool CommandWords::split(QByteArrayView command, Rules rules)
 {
-    if (!isPlain(command)) {
-        return rules == Rules::Windows ? splitWindows(command) : splitShell(command, rules == Rules::ResponseFile);
+    const qsizetype known = buffer.isEmpty() ? takeKnownWords(command) : 0;
+    if (isPlain(command.sliced(known))) {
+        isPlainCommand = buffer.isEmpty();
+        splitPlain(command, known);
+        return true;
     }
-    splitPlain(command);
-    return true;
+    if (known > 0) {
+        spans.clear();
+    }
+    return rules == Rules::Windows ? splitWindows(command) : splitShell(command, rules == Rules::ResponseFile);
 }
 
-void CommandWords::splitPlain(QByteArrayView command)
+// Commands mostly begin as the one before does; gives where the first word begins that is not known from there.
+qsizetype CommandWords::takeKnownWords(QByteArrayView command)
+{
+    const qsizetype same = commonStart(previous, command);
+    // Of a known word the blank behind it is the same, too.
+    const auto end =
+        std::ranges::partition_point(previousSpans, [same](const Span& word) { return word.first + word.second < same; });
+    spans.assign(previousSpans.begin(), end);
+    return spans.empty() ? 0 : spans.back().first + spans.back().second + 1;
+}
+
+void CommandWords::splitPlain(QByteArrayView command, qsizetype at)
 {
     const qsizetype base = buffer.size();
     buffer.append(command);
-    qsizetype at = 0;
     while (at < command.size()) {
         const void* blank = std::memchr(command.data() + at, ' ', size_t(command.size() - at));
         const qsizetype wordEnd = blank ? static_cast<const char*>(blank) - command.data() : command.size();

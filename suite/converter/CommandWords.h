@@ -25,20 +25,32 @@ public:
     bool split(QByteArrayView command, Rules rules);
 
     qsizetype size() const { return qsizetype(spans.size()); }
-    QByteArrayView operator[](qsizetype i) const;
+    QByteArrayView operator[](qsizetype i) const
+    {
+        const auto& [first, length] = spans[size_t(i)];
+        return QByteArrayView(buffer).sliced(first, length);
+    }
     /// The words from the first to before the last with what separates them.
     QByteArrayView piece(qsizetype first, qsizetype last) const;
     QStringList texts() const;
     bool isUtf8() const { return QByteArrayView(buffer).isValidUtf8(); }
 
 private:
-    void splitPlain(QByteArrayView command);
+    /// First byte and length.
+    using Span = std::pair<qsizetype, qsizetype>;
+
+    qsizetype takeKnownWords(QByteArrayView command);
+    void splitPlain(QByteArrayView command, qsizetype at);
     bool splitShell(QByteArrayView command, bool everywhere);
     bool splitWindows(QByteArrayView command);
     void begin() { start = buffer.size(); }
     void end();
 
     QByteArray buffer;
-    std::vector<std::pair<qsizetype, qsizetype>> spans;
+    std::vector<Span> spans;
     qsizetype start = 0;
+    // Nothing but a command of blanks and words is in the buffer.
+    bool isPlainCommand = false;
+    QByteArray previous;
+    std::vector<Span> previousSpans;
 };

@@ -14,20 +14,13 @@ bool isWindowsPath(QByteArrayView path)
     return Paths::isWindows(QString::fromUtf8(path.first(std::min<qsizetype>(path.size(), 3))));
 }
 
-QByteArrayView nameOf(QByteArrayView path)
-{
-    const auto isSeparator = [](char character) { return character == '/' || character == '\\'; };
-    const auto found = std::find_if(path.rbegin(), path.rend(), isSeparator);
-    return path.sliced(found.base() - path.begin());
-}
-
 // An option whose value names what the compiler writes.
 bool namesOutput(QByteArrayView word)
 {
     if (word.size() == 2) {
-        return word[0] == '-' && word[1] == 'o';
+        return word[1] == 'o';
     }
-    return word.size() == 3 && word[0] == '-' && word[1] == 'M' &&
+    return word.size() == 3 && word[1] == 'M' &&
            (word[2] == 'F' || word[2] == 'T' || word[2] == 'Q' || word[2] == 'J');
 }
 
@@ -41,6 +34,13 @@ bool holdsOutput(QByteArrayView word)
 }
 
 } // namespace
+
+QByteArrayView DatabaseEntry::nameOf(QByteArrayView path)
+{
+    const auto isSeparator = [](char character) { return character == '/' || character == '\\'; };
+    const auto found = std::find_if(path.rbegin(), path.rend(), isSeparator);
+    return path.sliced(found.base() - path.begin());
+}
 
 void DatabaseEntry::clear()
 {
@@ -71,11 +71,8 @@ bool DatabaseEntry::isWindows() const
 // The source itself, and no option's value of the same name.
 bool DatabaseEntry::isFile(qsizetype i) const
 {
-    const QByteArrayView word = arguments[i];
-    if (i == 0 || word.isEmpty() || word[0] == '-') {
-        return false;
-    }
-    return nameOf(word) == nameOf(file) && !OptionSpellings::takesNextWord(QString::fromUtf8(arguments[i - 1]));
+    return nameOf(arguments[i]) == nameOf(file) &&
+           !OptionSpellings::takesNextWord(QString::fromUtf8(arguments[i - 1]));
 }
 
 size_t DatabaseEntry::key() const
@@ -88,8 +85,12 @@ size_t DatabaseEntry::key() const
     };
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QByteArrayView word = arguments[i];
-        const bool takesNext = namesOutput(word);
-        if (takesNext || holdsOutput(word) || isFile(i)) {
+        if (word.isEmpty()) {
+            continue;
+        }
+        const bool isOption = word[0] == '-';
+        const bool takesNext = isOption && namesOutput(word);
+        if (takesNext || holdsOutput(word) || (!isOption && i > 0 && isFile(i))) {
             hashUpTo(i);
             i += takesNext ? 1 : 0;
             first = i + 1;
@@ -99,7 +100,7 @@ size_t DatabaseEntry::key() const
     return hash;
 }
 
-QByteArray DatabaseEntry::objectFile() const
+QByteArrayView DatabaseEntry::objectFile() const
 {
     if (!output.isEmpty()) {
         return output;
@@ -107,10 +108,10 @@ QByteArray DatabaseEntry::objectFile() const
     for (qsizetype i = 1; i < arguments.size(); ++i) {
         const QByteArrayView word = arguments[i];
         if (word == "-o" && i + 1 < arguments.size()) {
-            return arguments[i + 1].toByteArray();
+            return arguments[i + 1];
         }
         if (word.startsWith("/Fo") && word.size() > 3) {
-            return word.sliced(3).toByteArray();
+            return word.sliced(3);
         }
     }
     return {};

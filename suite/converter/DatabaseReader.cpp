@@ -193,21 +193,32 @@ void DatabaseReader::finishEntry()
                                u"%1: entry %2, %3"_s.arg(place()).arg(index + 1).arg(QString::fromUtf8(entry.file)));
         }
     }
-    const QString path = Paths::absolute(directoryPath(windows), QString::fromUtf8(entry.file), windows);
+    const QString file = QString::fromUtf8(entry.file);
+    const QString path = Paths::absolute(directoryPath(windows), file, windows);
     const qsizetype before = knownSettings.size();
-    const int number = settings(windows);
+    const int number = settings(file, windows);
     const bool isNew = knownSettings.size() != before;
     if (path.contains(QChar::ReplacementCharacter) || (isNew && !entry.arguments.isUtf8())) {
         collector.complain(u"an entry is not UTF-8, and some letters are lost"_s,
                            u"%1: entry %2, %3"_s.arg(place()).arg(index + 1).arg(path));
     }
-    const int target = collector.targetNumber(targetOfOutput(QString::fromUtf8(entry.objectFile())));
-    collector.add(path, number, target);
+    collector.add(path, number, target());
 }
 
-int DatabaseReader::settings(bool windows)
+int DatabaseReader::target()
 {
-    const QString file = QString::fromUtf8(entry.file);
+    // Its name is told by the folders alone, and the next entry has mostly the same.
+    const QByteArrayView object = entry.objectFile();
+    const QByteArrayView folder = object.first(object.size() - DatabaseEntry::nameOf(object).size());
+    if (folder != lastObjectFolder) {
+        lastObjectFolder = folder.toByteArray();
+        lastTarget = collector.targetNumber(targetOfOutput(QString::fromUtf8(folder)));
+    }
+    return lastTarget;
+}
+
+int DatabaseReader::settings(const QString& file, bool windows)
+{
     const size_t language = size_t(languageOfFile(Paths::nameOf(file), windows));
     const size_t key = qHashMulti(entry.key(), language, windows);
     const auto known = knownSettings.constFind(key);

@@ -46,7 +46,8 @@ private:
     bool isArgument() const { return depth == 3 && field == Field::Arguments; }
     void badEntry(const QString& reason) const;
     void finishEntry();
-    int settings(bool windows);
+    int settings(const QString& file, bool windows);
+    int target();
     QString place() const;
     const QString& directoryPath(bool windows);
 
@@ -60,5 +61,7 @@ private:
     qsizetype index = -1;
     QByteArray lastDirectory;
     QString lastDirectoryPath;
+    QByteArray lastObjectFolder;
+    int lastTarget = 0;
     QHash<size_t, int> knownSettings;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ControlCharacters.h"
+
 #include <QByteArray>
 #include <QIODevice>
 
@@ -45,12 +47,12 @@ public:
                 size = static_cast<const char*>(found) - at;
             }
         }
-        const auto isControl = [](char character) { return static_cast<unsigned char>(character) < 0x20; };
-        unsigned controls = 0;
-        for (qsizetype i = 0; i < size; ++i) {
-            controls |= unsigned(isControl(at[i]));
+        const QByteArrayView text(at, size);
+        if (!holdsControlCharacter(text)) {
+            return text;
         }
-        return {at, controls == 0 ? at + size : std::find_if(at, at + size, isControl)};
+        const auto isControl = [](char character) { return static_cast<unsigned char>(character) < 0x20; };
+        return text.first(std::ranges::find_if(text, isControl) - text.begin());
     }
     void skip(qsizetype bytes)
     {

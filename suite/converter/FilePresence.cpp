@@ -2,8 +2,15 @@
 #include "FilePresence.h"
 #include "Paths.h"
 
-#include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
+
+#ifdef Q_OS_WIN
+#include <QDirIterator>
+#else
+#include <dirent.h>
+#include <memory>
+#endif
 
 namespace {
 
@@ -35,6 +42,7 @@ bool FilePresence::isFile(const QString& path)
     return folder.files.contains(Paths::nameOf(path).toString()) || QFileInfo(path).isFile();
 }
 
+#ifdef Q_OS_WIN
 void FilePresence::list(const QString& path, Folder& folder)
 {
     folder.isListed = true;
@@ -44,3 +52,17 @@ void FilePresence::list(const QString& path, Folder& folder)
         folder.files.insert(names.fileName());
     }
 }
+#else
+void FilePresence::list(const QString& path, Folder& folder)
+{
+    folder.isListed = true;
+    const auto close = [](DIR* stream) { ::closedir(stream); };
+    const std::unique_ptr<DIR, decltype(close)> stream(::opendir(QFile::encodeName(path).constData()), close);
+    // Who is no plain file by the name alone, a link say, is asked for singly.
+    while (const dirent* entry = stream ? ::readdir(stream.get()) : nullptr) {
+        if (entry->d_type == DT_REG) {
+            folder.files.insert(QFile::decodeName(entry->d_name));
+        }
+    }
+}
+#endif

@@ -14,12 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString commonFolder(const Sources& sources, const QList<qsizetype>& units)
+// The folder above all files that were added.
+class CommonFolder
 {
-    const QString& first = sources.units[units.first()].path;
-    QString common = Paths::folderOf(first);
-    for (const qsizetype unit : units) {
-        const QString& file = sources.units[unit].path;
+public:
+    void add(const QString& file)
+    {
+        if (first.isEmpty()) {
+            first = file;
+            common = Paths::folderOf(file);
+        }
         while (!Paths::isBelow(file, common)) {
             const QString parent = Paths::folderOf(common);
             if (parent == common || parent.size() >= common.size()) {
@@ -28,8 +32,13 @@ QString commonFolder(const Sources& sources, const QList<qsizetype>& units)
             common = parent;
         }
     }
-    return common;
-}
+
+    const QString& path() const { return common; }
+
+private:
+    QString first;
+    QString common;
+};
 
 bool isOwnLanguage(SourceLanguage language, bool forC)
 {
@@ -54,17 +63,28 @@ public:
                 chosen.units += i;
             }
         }
-        if (!filter.isEmpty() && !chosen.units.isEmpty()) {
-            const QString base = commonFolder(sources, chosen.units);
-            chosen.leftOut =
-                chosen.units.removeIf([&](qsizetype unit) { return filter.matches(sources.units[unit].path, base); });
+        if (!filter.isEmpty()) {
+            CommonFolder base;
+            for (const qsizetype unit : std::as_const(chosen.units)) {
+                base.add(sources.units[unit].path);
+            }
+            chosen.leftOut = chosen.units.removeIf(
+                [&](qsizetype unit) { return filter.matches(sources.units[unit].path, base.path()); });
         }
         FilePresence presence;
-        chosen.units.removeIf([&](qsizetype unit) { return isLost(sources.units[unit].path, presence); });
+        CommonFolder common;
+        chosen.units.removeIf([&](qsizetype unit) {
+            const QString& path = sources.units[unit].path;
+            if (isLost(path, presence)) {
+                return true;
+            }
+            common.add(path);
+            return false;
+        });
         if (chosen.units.isEmpty()) {
             throw nothingLeft();
         }
-        chosen.commonFolder = commonFolder(sources, chosen.units);
+        chosen.commonFolder = common.path();
         return std::move(chosen);
     }
 

@@ -32,20 +32,20 @@ QByteArray logText(const ConversionLog& log)
 }
 
 // An analyser notes in the project when it has analysed it.
+QByteArray withoutNotes(QByteArray text)
+{
+    static constexpr QByteArrayView note("\n*lastAnalysis=");
+    for (qsizetype at = text.indexOf(note); at >= 0; at = text.indexOf(note, at)) {
+        const qsizetype end = text.indexOf('\n', at + 1);
+        text.remove(at, (end < 0 ? text.size() : end) - at);
+    }
+    return text;
+}
+
 bool isSameProject(const QString& path, const QByteArray& text)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    QByteArray old;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
-        if (!line.startsWith("*lastAnalysis=")) {
-            old += line;
-        }
-    }
-    return old == text;
+    return file.open(QIODevice::ReadOnly) && withoutNotes(file.readAll()) == text;
 }
 
 QStringList removeStale(const QString& folder, const QStringList& current)

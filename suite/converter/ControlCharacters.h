@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+
+/// Whether one is in the text, a tab or a line break also.
+inline bool holdsControlCharacter(QByteArrayView text)
+{
+    // A byte for the sum and no way out of the loop let the compiler look at many at once.
+    unsigned char found = 0;
+    for (const char character : text) {
+        found |= static_cast<unsigned char>(static_cast<unsigned char>(character) < 0x20);
+    }
+    return found != 0;
+}
