@@ -25,10 +25,13 @@ constexpr double perCell = 45;
 constexpr double perBlock = 10;
 constexpr double perInline = 4;
 constexpr double perImage = 500;
-constexpr double perRunSquare = 1e-4;
+// What is not laid out in steps.
+constexpr double perParagraphCharacter = 0.35;
+constexpr double perLineBreak = 5;
+constexpr double perRunSquare = 1.6e-4;
 constexpr double perRunTagSquare = 0.005;
-constexpr double perDepthSquare = 0.01;
-constexpr double perRule = 0.05;
+constexpr double perDepthSquare = 0.014;
+constexpr double perRule = 0.06;
 // Each table is measured several times by the one around it.
 constexpr double perTableLevel = 4;
 
@@ -58,6 +61,7 @@ public:
             }
         }
         endRun();
+        endParagraph();
         return shape;
     }
 
@@ -79,6 +83,10 @@ private:
     {
         const QChar character = html[position++];
         shape.rules += character == u'{' ? 1 : 0;
+        ++paragraph;
+        if (character == u'\n' && preformatted > 0) {
+            endParagraph();
+        }
         // A no-break space is one for the eye only.
         if (character.isSpace() && character != QChar::Nbsp) {
             endRun();
@@ -101,8 +109,12 @@ private:
         const bool closes = tag.startsWith(u'/');
         const QStringView name = nameOf(closes ? tag.sliced(1) : tag);
         const bool isCell = isOneOf(name, cellTags);
-        if (isCell || isOneOf(name, blockTags)) {
+        if (name.compare("br"_L1, Qt::CaseInsensitive) == 0) {
+            ++shape.lineBreaks;
             endRun();
+        } else if (isCell || isOneOf(name, blockTags)) {
+            endRun();
+            endParagraph();
         } else {
             ++runTags;
         }
@@ -142,6 +154,7 @@ private:
         if (name.compare("table"_L1, Qt::CaseInsensitive) == 0) {
             shape.tableDepth = std::max(shape.tableDepth, ++tables);
         }
+        preformatted += name.compare("pre"_L1, Qt::CaseInsensitive) == 0 ? 1 : 0;
     }
 
     void leave(QStringView name)
@@ -151,6 +164,9 @@ private:
         }
         if (name.compare("table"_L1, Qt::CaseInsensitive) == 0) {
             tables = std::max<qsizetype>(tables - 1, 0);
+        }
+        if (name.compare("pre"_L1, Qt::CaseInsensitive) == 0) {
+            preformatted = std::max<qsizetype>(preformatted - 1, 0);
         }
     }
 
@@ -162,12 +178,21 @@ private:
         runTags = 0;
     }
 
+    void endParagraph()
+    {
+        shape.longestParagraph = std::max(shape.longestParagraph, paragraph);
+        paragraph = 0;
+    }
+
     QStringView html;
     qsizetype position = 0;
+    qsizetype paragraph = 0;
     qsizetype run = 0;
     qsizetype runTags = 0;
     qsizetype depth = 0;
     qsizetype tables = 0;
+    // Where each line is a paragraph.
+    qsizetype preformatted = 0;
     HtmlShape shape;
 };
 
@@ -189,6 +214,7 @@ bool HtmlShape::isQuick() const
     const double elements = double(cells + blocks + inlines);
     const double cost = double(characters) * perCharacter + double(cells) * perCell * levels +
                         double(blocks) * perBlock + double(inlines) * perInline + double(images) * perImage +
+                        double(longestParagraph) * perParagraphCharacter + double(lineBreaks) * perLineBreak +
                         square(longestRun) * perRunSquare + square(longestRunTags) * perRunTagSquare +
                         square(depth) * perDepthSquare + double(rules) * elements * perRule;
     return cost <= budget;

@@ -12,6 +12,9 @@ struct HtmlShape
     qsizetype cells = 0;
     qsizetype blocks = 0;
     qsizetype inlines = 0;
+    /// The characters of the longest paragraph, over its line breaks.
+    qsizetype longestParagraph = 0;
+    qsizetype lineBreaks = 0;
     /// The longest piece of a line that can not be wrapped: its characters, and the tags within it.
     qsizetype longestRun = 0;
     qsizetype longestRunTags = 0;
