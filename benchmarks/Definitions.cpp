@@ -47,7 +47,7 @@ int main(int argc, char** argv)
     };
     const long bytes = Ratio::bytesOf(ours);
     const QByteArray name = "reading a definitions file of " + QByteArray::number(size) + " bytes";
-    const Ratio::Outcome outcome = Ratio::measure(name.constData(), 1.25, ours, bare);
+    const Ratio::Outcome outcome = Ratio::measure(name.constData(), 1.25, ours, bare, 15);
     Ratio::reportCost(size, outcome, bytes);
     return isGood ? outcome.missed : 1;
 }

@@ -27,7 +27,7 @@ namespace {
 
 constexpr auto flushInterval = 30ms;
 // What one flush may insert without the window's stalling being felt.
-constexpr int linesPerFlush = 500;
+constexpr int linesPerFlush = 250;
 constexpr int charactersPerFlush = 64 * 1024;
 
 } // namespace
@@ -159,11 +159,11 @@ void ActionPage::showProgress()
 
 void ActionPage::flushOutput()
 {
-    const QStringList lines = buffer.take(linesPerFlush, charactersPerFlush);
+    QStringList lines = buffer.take(linesPerFlush, charactersPerFlush);
     shownLines += lines.size();
     const qint64 dropped = buffer.takeDropped();
     if (dropped > 0) {
-        outputView->appendLines({tr("[%n line(s) not shown]", nullptr, int(std::min<qint64>(dropped, INT_MAX)))});
+        lines.prepend(tr("[%n line(s) not shown]", nullptr, int(std::min<qint64>(dropped, INT_MAX))));
     }
     if (dropped > 0 || shownLines > OutputView::keptLines) {
         nameLog();
