@@ -102,8 +102,8 @@ qsizetype CommandWords::takeKnownWords(QByteArrayView command)
 {
     const qsizetype same = commonStart(previous, command);
     // Of a known word the blank behind it is the same, too.
-    const auto end =
-        std::ranges::partition_point(previousSpans, [same](const Span& word) { return word.first + word.second < same; });
+    const auto end = std::ranges::partition_point(previousSpans,
+                                                  [same](const Span& word) { return word.first + word.second < same; });
     spans.assign(previousSpans.begin(), end);
     return spans.empty() ? 0 : spans.back().first + spans.back().second + 1;
 }

@@ -20,8 +20,7 @@ bool namesOutput(QByteArrayView word)
     if (word.size() == 2) {
         return word[1] == 'o';
     }
-    return word.size() == 3 && word[1] == 'M' &&
-           (word[2] == 'F' || word[2] == 'T' || word[2] == 'Q' || word[2] == 'J');
+    return word.size() == 3 && word[1] == 'M' && (word[2] == 'F' || word[2] == 'T' || word[2] == 'Q' || word[2] == 'J');
 }
 
 bool holdsOutput(QByteArrayView word)
@@ -71,8 +70,7 @@ bool DatabaseEntry::isWindows() const
 // The source itself, and no option's value of the same name.
 bool DatabaseEntry::isFile(qsizetype i) const
 {
-    return nameOf(arguments[i]) == nameOf(file) &&
-           !OptionSpellings::takesNextWord(QString::fromUtf8(arguments[i - 1]));
+    return nameOf(arguments[i]) == nameOf(file) && !OptionSpellings::takesNextWord(QString::fromUtf8(arguments[i - 1]));
 }
 
 size_t DatabaseEntry::key() const

@@ -83,8 +83,8 @@ private Q_SLOTS:
         // Of commands that begin alike the words are found once.
         row("a word that goes on", u"-DA=%1 -DB"_s.arg(QString(80, u'a')), u"-DA=%1 -DBC"_s.arg(QString(80, u'a')),
             u"-d A=%1|-d B"_s.arg(QString(80, u'a')), u"-d A=%1|-d BC"_s.arg(QString(80, u'a')));
-        row("blanks and quotes after the same start", u"-DA  -DB=1 -DC"_s, u"-DA  -DB='1 2'"_s,
-            u"-d A|-d B=1|-d C"_s, u"-d A|-d B=1 2"_s);
+        row("blanks and quotes after the same start", u"-DA  -DB=1 -DC"_s, u"-DA  -DB='1 2'"_s, u"-d A|-d B=1|-d C"_s,
+            u"-d A|-d B=1 2"_s);
         row("one has nothing", u"-DA"_s, u""_s, u"-d A"_s, u""_s);
         row("define and undefine", u"-DA -UA"_s, u"-UA -DA"_s, u"*orv undefine=A"_s, u"-d A"_s);
         row("forced includes", u"-include a.h -include b.h"_s, u"-include b.h -include a.h"_s,
