@@ -35,11 +35,15 @@ constexpr double perRule = 0.06;
 // Each table is measured several times by the one around it.
 constexpr double perTableLevel = 4;
 
+bool is(QStringView name, QLatin1StringView known)
+{
+    return name.compare(known, Qt::CaseInsensitive) == 0;
+}
+
 template <std::size_t size>
 bool isOneOf(QStringView name, const std::array<QLatin1StringView, size>& names)
 {
-    return std::ranges::any_of(
-        names, [name](QLatin1StringView known) { return name.compare(known, Qt::CaseInsensitive) == 0; });
+    return std::ranges::any_of(names, [name](QLatin1StringView known) { return is(name, known); });
 }
 
 class Measuring
@@ -109,7 +113,7 @@ private:
         const bool closes = tag.startsWith(u'/');
         const QStringView name = nameOf(closes ? tag.sliced(1) : tag);
         const bool isCell = isOneOf(name, cellTags);
-        if (name.compare("br"_L1, Qt::CaseInsensitive) == 0) {
+        if (is(name, "br"_L1)) {
             ++shape.lineBreaks;
             endRun();
         } else if (isCell || isOneOf(name, blockTags)) {
@@ -143,29 +147,29 @@ private:
         } else {
             ++shape.inlines;
         }
-        shape.images += name.compare("img"_L1, Qt::CaseInsensitive) == 0 ? 1 : 0;
+        shape.images += is(name, "img"_L1) ? 1 : 0;
         if (isOneOf(name, emptyTags)) {
             return;
         }
         // A paragraph, a row or a cell that is not closed ends with the next.
-        if (name.compare("p"_L1, Qt::CaseInsensitive) != 0) {
+        if (!is(name, "p"_L1)) {
             shape.depth = std::max(shape.depth, ++depth);
         }
-        if (name.compare("table"_L1, Qt::CaseInsensitive) == 0) {
+        if (is(name, "table"_L1)) {
             shape.tableDepth = std::max(shape.tableDepth, ++tables);
         }
-        preformatted += name.compare("pre"_L1, Qt::CaseInsensitive) == 0 ? 1 : 0;
+        preformatted += is(name, "pre"_L1) ? 1 : 0;
     }
 
     void leave(QStringView name)
     {
-        if (name.compare("p"_L1, Qt::CaseInsensitive) != 0) {
+        if (!is(name, "p"_L1)) {
             depth = std::max<qsizetype>(depth - 1, 0);
         }
-        if (name.compare("table"_L1, Qt::CaseInsensitive) == 0) {
+        if (is(name, "table"_L1)) {
             tables = std::max<qsizetype>(tables - 1, 0);
         }
-        if (name.compare("pre"_L1, Qt::CaseInsensitive) == 0) {
+        if (is(name, "pre"_L1)) {
             preformatted = std::max<qsizetype>(preformatted - 1, 0);
         }
     }

@@ -64,6 +64,7 @@ void CommandWords::end()
     spans.emplace_back(start, buffer.size() - start);
     // Else two words could look like one to who compares pieces of the buffer.
     buffer.append('\0');
+    isPlainCommand = false;
 }
 
 QByteArrayView CommandWords::piece(qsizetype first, qsizetype last) const

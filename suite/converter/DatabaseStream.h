@@ -51,8 +51,7 @@ public:
         if (!holdsControlCharacter(text)) {
             return text;
         }
-        const auto isControl = [](char character) { return static_cast<unsigned char>(character) < 0x20; };
-        return text.first(std::ranges::find_if(text, isControl) - text.begin());
+        return text.first(std::ranges::find_if(text, isControlCharacter) - text.begin());
     }
     void skip(qsizetype bytes)
     {

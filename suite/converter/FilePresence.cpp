@@ -36,6 +36,7 @@ bool FilePresence::isFile(const QString& path)
         return false;
     }
     if (++folder.questions > questionsBeforeListing && !folder.isListed) {
+        folder.isListed = true;
         list(folderPath, folder);
     }
     // A folder may be entered but not read, and a file system may know a name by another case.
@@ -45,7 +46,6 @@ bool FilePresence::isFile(const QString& path)
 #ifdef Q_OS_WIN
 void FilePresence::list(const QString& path, Folder& folder)
 {
-    folder.isListed = true;
     QDirIterator names(path, QDir::Files | QDir::Hidden);
     while (names.hasNext()) {
         names.next();
@@ -55,7 +55,6 @@ void FilePresence::list(const QString& path, Folder& folder)
 #else
 void FilePresence::list(const QString& path, Folder& folder)
 {
-    folder.isListed = true;
     const auto close = [](DIR* stream) { ::closedir(stream); };
     const std::unique_ptr<DIR, decltype(close)> stream(::opendir(QFile::encodeName(path).constData()), close);
     // Who is no plain file by the name alone, a link say, is asked for singly.
