@@ -3,10 +3,7 @@
 #include "app/TemporaryFiles.h"
 #include "Installation.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -52,28 +49,22 @@ private Q_SLOTS:
         QCOMPARE(QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}), QStringList());
     }
 
-    void ignoresASpoiltGeometry_data()
-    {
-        const TestRows<QVariant, QSize> row("stored", "size");
-        row("good", QSize(800, 600), QSize(800, 600));
-        row("text", u"large"_s, QSize(650, 430));
-        row("nothing", QSize(0, 0), QSize(650, 430));
-        row("negative", QSize(-5, 300), QSize(650, 430));
-    }
-
     void ignoresASpoiltGeometry()
     {
-        QFETCH(const QVariant, stored);
-        QFETCH(const QSize, size);
-        Installation suite;
-        {
-            QSettings store(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s);
-            store.setValue(u"Window/size"_s, stored);
-            store.setValue(u"Window/pos"_s, u"somewhere"_s);
+        const auto sizeOf = [](const QVariant& stored) {
+            Installation suite;
+            {
+                QSettings store(QSettings::SystemScope, u"KOVRA"_s, u"ProjectCreation"_s);
+                store.setValue(u"Window/size"_s, stored);
+                store.setValue(u"Window/pos"_s, u"somewhere"_s);
+            }
+            const AppRegistry& registry = suite.start();
+            return registry.windowPos == QPoint(150, 85) ? registry.windowSize : QSize();
+        };
+        QCOMPARE(sizeOf(QSize(800, 600)), QSize(800, 600));
+        for (const QVariant& spoilt : {QVariant(u"large"_s), QVariant(QSize(0, 0)), QVariant(QSize(-5, 300))}) {
+            QCOMPARE(sizeOf(spoilt), QSize(650, 430));
         }
-        const AppRegistry& registry = suite.start();
-        QCOMPARE(registry.windowSize, size);
-        QCOMPARE(registry.windowPos, QPoint(150, 85));
     }
 
     void tracesItemsApart()

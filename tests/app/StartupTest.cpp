@@ -5,10 +5,6 @@
 #include "Installation.h"
 #include "process/WizardState.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -38,9 +34,8 @@ private Q_SLOTS:
 
     void endsWithoutWindow()
     {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QString, language);
-        QFETCH(const QString, says);
+        const auto [arguments, language, says] =
+            fetched<QStringList, QString, QString>("arguments", "language", "says");
         const ProgramResult result =
             runProgram(QStringLiteral(PROGRAM), arguments, {{u"LC_ALL"_s, u"C.UTF-8"_s}, {u"LANGUAGE"_s, language}});
         QVERIFY2(result.errors.startsWith(says), qPrintable(result.errors));

@@ -4,7 +4,6 @@
 #include "app/SettingsStore.h"
 #include "definitions/EnvironmentValue.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <QDir>
 #include <QFile>
@@ -80,37 +79,30 @@ private Q_SLOTS:
         QCOMPARE(written(u"shared"_s, qgetenv("XDG_CONFIG_HOME")), u"shared, later shared"_s);
     }
 
-    void findsTheLastVersion_data()
-    {
-        const TestRows<QSettings::Scope, QStringList, QString, QString> row("scope", "versions", "stale", "found");
-        const auto system = QSettings::SystemScope;
-        row("last", system, {u"8.1"_s, u"9.0"_s}, {}, u"9.0"_s);
-        row("last in the order of texts", system, {u"10.0"_s, u"9.0"_s}, {}, u"9.0"_s);
-        // Where that one is stale, no older one takes its place.
-        row("stale", system, {u"8.1"_s, u"9.0"_s}, u"9.0"_s, u"variable"_s);
-        row("none", system, {}, {}, u"variable"_s);
-        // The installers write system-wide, a user may have an installation of his own: both count.
-        row("last of the user's", QSettings::UserScope, {u"8.1"_s, u"9.0"_s}, {}, u"9.0"_s);
-        row("stale of the user's", QSettings::UserScope, {u"8.1"_s, u"9.0"_s}, u"9.0"_s, u"variable"_s);
-    }
-
     void findsTheLastVersion()
     {
-        QFETCH(const QSettings::Scope, scope);
-        QFETCH(const QStringList, versions);
-        QFETCH(const QString, stale);
-        QFETCH(const QString, found);
-        QTemporaryDir folder;
+        const QTemporaryDir folder;
         qputenv("TEST_ORV_PATH", folder.filePath(u"variable"_s).toLocal8Bit());
-        QSettings store(scope, u"KOVRA"_s, u"Orv Test Analyser"_s);
-        for (const QString& version : versions) {
-            QDir(folder.path()).mkpath(version);
-            store.setValue(version + "/Path"_L1, version == stale ? u"/nowhere"_s : folder.filePath(version));
+        const auto found = [&folder](QSettings::Scope scope, const QStringList& versions, const QString& stale = {}) {
+            QSettings store(scope, u"KOVRA"_s, u"Orv Test Analyser"_s);
+            for (const QString& version : versions) {
+                QDir(folder.path()).mkpath(version);
+                store.setValue(version + "/Path"_L1, version == stale ? u"/nowhere"_s : folder.filePath(version));
+            }
+            store.sync();
+            const QString place = Installations::FindInstallation(u"Orv Test Analyser"_s, u"TEST_ORV_PATH"_s);
+            store.clear();
+            return QDir(folder.path()).relativeFilePath(place);
+        };
+        // The installers write system-wide, a user may have an installation of his own: both count.
+        for (const auto scope : {QSettings::SystemScope, QSettings::UserScope}) {
+            QCOMPARE(found(scope, {u"8.1"_s, u"9.0"_s}), u"9.0"_s);
+            // In the order of texts.
+            QCOMPARE(found(scope, {u"10.0"_s, u"9.0"_s}), u"9.0"_s);
+            // Where the last one is stale, no older one takes its place.
+            QCOMPARE(found(scope, {u"8.1"_s, u"9.0"_s}, u"9.0"_s), u"variable"_s);
+            QCOMPARE(found(scope, {}), u"variable"_s);
         }
-        store.sync();
-        const QString place = Installations::FindInstallation(u"Orv Test Analyser"_s, u"TEST_ORV_PATH"_s);
-        store.clear();
-        QCOMPARE(place, folder.filePath(found));
     }
 
     void readsVariables()

@@ -5,7 +5,6 @@
 #include "Installation.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <QProcess>
 
@@ -84,8 +83,7 @@ private Q_SLOTS:
 
     void findsTheInputThatIsMeant()
     {
-        QFETCH(const QString, given);
-        QFETCH(const QString, problem);
+        const auto [given, problem] = fetched<QString, QString>("given", "problem");
         KOVRASettingsFile settings;
         settings.readDocument(confusingType(), {});
         const ArgumentDefinitions& definitions = settings.projectCreators.at(0)->inputData;
@@ -100,24 +98,17 @@ private Q_SLOTS:
         QTEST(result.join(u'|'), "values");
     }
 
-    void refusesTheOtherAnalysersFile_data()
-    {
-        const TestRows<QString> row("option");
-        row("messages", u"-mp"_s);
-        row("analyser", u"-ap"_s);
-        row("compiler", u"-cp"_s);
-    }
-
     void refusesTheOtherAnalysersFile()
     {
-        QFETCH(const QString, option);
         const SlowSuite suite;
         suite.write(u"slow.go"_s, "");
         const QString foreign = suite.write(u"cpp.p_c"_s, "-rvaluerefbind+\n");
-        const ProgramResult result = runProgram(QStringLiteral(PROGRAM), suite.arguments({option, foreign}));
-        QCOMPARE(result.errors, u"ProjectCreation: "_s + option + u": the configuration file "_s + foreign +
-                                    u" is for the other analyser\n"_s);
-        QCOMPARE(result.status, 2);
+        for (const auto& option : {u"-mp"_s, u"-ap"_s, u"-cp"_s}) {
+            const ProgramResult result = runProgram(QStringLiteral(PROGRAM), suite.arguments({option, foreign}));
+            QCOMPARE(result.errors, u"ProjectCreation: "_s + option + u": the configuration file "_s + foreign +
+                                        u" is for the other analyser\n"_s);
+            QCOMPARE(result.status, 2);
+        }
     }
 
     void showsProgressInOneLineOfATerminal_data()
@@ -134,10 +125,8 @@ private Q_SLOTS:
 
     void showsProgressInOneLineOfATerminal()
     {
-        QFETCH(const bool, atTerminal);
-        QFETCH(const QString, kind);
-        QFETCH(const QStringList, more);
-        QFETCH(const QString, output);
+        const auto [atTerminal, kind, more, output] =
+            fetched<bool, QString, QStringList, QString>("atTerminal", "kind", "more", "output");
         const SlowSuite suite;
         suite.write(u"slow.go"_s, "");
         suite.write(u"slow.verbs"_s, "write $1 x; put '[1/3] a\nabove\n\n[2/3] bcdefghij\nbroken off'");

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Installation.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 
-#include <memory>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -76,11 +72,8 @@ private Q_SLOTS:
 
     void statusTellsHowItEnded()
     {
-        QFETCH(const QByteArray, script);
-        QFETCH(const QString, outcome);
-        QFETCH(const int, status);
-        QFETCH(const QByteArray, project);
-        QFETCH(const QString, says);
+        const auto [script, outcome, status, project, says] =
+            fetched<QByteArray, QString, int, QByteArray, QString>("script", "outcome", "status", "project", "says");
         const BatchSuite suite(script);
         suite.write(u"work/p.prj"_s, "old");
         const QStringList options{u"-overwrite"_s, u"-timeout"_s, u"1"_s};
@@ -143,51 +136,40 @@ private Q_SLOTS:
         QVERIFY2(both.errors.contains("-mp"_L1), qPrintable(both.errors));
     }
 
-    void refusesWhatDoesNotGoTogether_data()
-    {
-        const TestRows<QString, QString> row("arguments", "says");
-        row("two tasks", u"-list-types -check x"_s, u"-list-types does not go with -check"_s);
-        row("inputs for a list", u"-list-types -input a=b"_s, u"-input does not go with -list-types"_s);
-        row("both analysers", u"-prj p.prj -type T -c -cpp"_s, u"-c does not go with -cpp"_s);
-        row("twice", u"-prj p.prj -type T -prj q.prj"_s, u"-prj is given twice"_s);
-        row("no value", u"-prj p.prj -type"_s, u"-type wants a value"_s);
-        row("no time", u"-prj p.prj -type T -timeout soon"_s, u"-timeout wants"_s);
-        row("no type", u"-prj p.prj"_s, u"-type <name> is missing"_s);
-        row("a type's name for a project", u"-type T"_s, u"-prj <file> is missing"_s);
-        row("an option for a project", u"-type T -prj -c"_s, u"can not be the project file"_s);
-        row("unknown", u"-bogus"_s, u"\"-bogus\""_s);
-        row("a launcher without a project", u"-run x"_s, u"-prj <file> is missing"_s);
-    }
-
     void refusesWhatDoesNotGoTogether()
     {
-        QFETCH(const QString, arguments);
-        QFETCH(const QString, says);
         const BatchSuite suite;
-        const ProgramResult result = suite.run(arguments.split(u' '));
-        QCOMPARE(result.status, 2);
-        QVERIFY2(result.errors.contains(says), qPrintable(result.errors));
-        QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden), QStringList());
-    }
-
-    void answersQuestions_data()
-    {
-        const TestRows<QString, QString> row("arguments", "says");
-        row("batch help", u"-batch -help"_s, u"-list-inputs"_s);
-        row("batch --help", u"-batch --help"_s, u"-list-inputs"_s);
-        row("batch -h", u"-batch -h"_s, u"-list-inputs"_s);
-        row("--help", u"--help"_s, u"-batch -help"_s);
-        row("-h", u"-h"_s, u"-batch -help"_s);
-        row("--version", u"--version"_s, u"Create KOVRA Project"_s);
+        for (const auto& [arguments, says] :
+             {std::pair{u"-list-types -check x"_s, u"-list-types does not go with -check"_s},
+              {u"-list-types -input a=b"_s, u"-input does not go with -list-types"_s},
+              {u"-prj p.prj -type T -c -cpp"_s, u"-c does not go with -cpp"_s},
+              {u"-prj p.prj -type T -prj q.prj"_s, u"-prj is given twice"_s},
+              {u"-prj p.prj -type"_s, u"-type wants a value"_s},
+              {u"-prj p.prj -type T -timeout soon"_s, u"-timeout wants"_s},
+              {u"-prj p.prj"_s, u"-type <name> is missing"_s},
+              {u"-type T"_s, u"-prj <file> is missing"_s},
+              {u"-type T -prj -c"_s, u"can not be the project file"_s},
+              {u"-bogus"_s, u"\"-bogus\""_s},
+              {u"-run x"_s, u"-prj <file> is missing"_s}}) {
+            const ProgramResult result = suite.run(arguments.split(u' '));
+            QVERIFY2(result.status == 2, qPrintable(arguments));
+            QVERIFY2(result.errors.contains(says), qPrintable(arguments + u": "_s + result.errors));
+            QCOMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden), QStringList());
+        }
     }
 
     void answersQuestions()
     {
-        QFETCH(const QString, arguments);
-        QFETCH(const QString, says);
-        const ProgramResult result = runProgram(QStringLiteral(PROGRAM), arguments.split(u' '));
-        QCOMPARE(result.status, 0);
-        QVERIFY2(result.output.contains(says), qPrintable(result.output + result.errors));
+        for (const auto& [arguments, says] : {std::pair{u"-batch -help"_s, u"-list-inputs"_s},
+                                              {u"-batch --help"_s, u"-list-inputs"_s},
+                                              {u"-batch -h"_s, u"-list-inputs"_s},
+                                              {u"--help"_s, u"-batch -help"_s},
+                                              {u"-h"_s, u"-batch -help"_s},
+                                              {u"--version"_s, u"Create KOVRA Project"_s}}) {
+            const ProgramResult result = runProgram(QStringLiteral(PROGRAM), arguments.split(u' '));
+            QVERIFY2(result.status == 0, qPrintable(arguments));
+            QVERIFY2(result.output.contains(says), qPrintable(arguments + u": "_s + result.output + result.errors));
+        }
     }
 
     void warnsOfTheDefinitionsThatItUses()
@@ -203,11 +185,6 @@ private Q_SLOTS:
         const QString foreign = suite.run({u"-list-types"_s}).errors;
         QVERIFY2(foreign.contains(suite.nativePath(u"work/settings.xml"_s)), qPrintable(foreign));
         QCOMPARE(suite.run({u"-file"_s, suite.path(u"xml/settings.xml"_s), u"-list-types"_s}).errors, QString());
-    }
-
-    void warnsOfAFolderThatIsGone()
-    {
-        const BatchSuite suite;
         const QString said = suite.run({u"-list-types"_s}, {{u"ORVCPATH"_s, u"/gone"_s}}).errors;
         QVERIFY2(said.contains("ORVCPATH"_L1), qPrintable(said));
         QVERIFY2(said.contains(QDir::toNativeSeparators(u"/gone"_s)), qPrintable(said));

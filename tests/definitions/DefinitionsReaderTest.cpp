@@ -11,10 +11,7 @@
 #include "process/WizardState.h"
 #include "RecordTexts.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QSettings>
 
@@ -58,31 +55,32 @@ class DefinitionsReaderTest : public QObject
 private Q_SLOTS:
     void initTestCase() { suite.start(); }
 
-    void expandsPlaceholders_data()
-    {
-        const TestRows<QString, QString> row("text", "expanded");
-        row("C analyser", u"%ORVC%/personalities"_s, u"C:/Orv/personalities"_s);
-        row("C++ analyser", u"%ORVCPP%/x"_s, u"D:/Orv/x"_s);
-        row("of one kind only", u"%I%/%ORVC%"_s, u"/suite/%ORVC%"_s);
-        row("every occurrence", u"%I%/%I%"_s, u"/suite/suite"_s);
-        row("one variable only", u"%HOME%/a/%TMP%"_s, u"/home/me/a/%TMP%"_s);
-        row("stored value", u"%R%App%Key"_s, u"kovra"_s);
-        row("stored value, closed", u"%R%App%Key%"_s, u"kovra"_s);
-        row("of another organisation", u"%R%Other%App%Key%/a%/b"_s, u"other/a/b"_s);
-        row("nothing stored", u"%R%App%None"_s, {});
-        row("half a name", u"%R%App"_s, u"%R%App"_s);
-        row("only installations are cleaned", u"%HOME%//a"_s, u"/home/me//a"_s);
-        row("a percentage", u"100%"_s, u"100%"_s);
-        row("plain", u"plain//text"_s, u"plain//text"_s);
-    }
-
     void expandsPlaceholders()
     {
-        QFETCH(const QString, text);
         QSettings(QSettings::SystemScope, u"KOVRA"_s, u"App"_s).setValue(u"Key"_s, u"kovra"_s);
         QSettings(QSettings::SystemScope, u"Other"_s, u"App"_s).setValue(u"Key"_s, u"other"_s);
-        const Places places{u"/suite"_s, u"C:/Orv/"_s, u"D:/Orv"_s};
-        QTEST(ExpandPlaceholders(text, places, {u"HOME=/home/me"_s, u"TMP=/tmp"_s}), "expanded");
+        const auto expanded = [](const QString& text) {
+            const Places places{u"/suite"_s, u"C:/Orv/"_s, u"D:/Orv"_s};
+            return ExpandPlaceholders(text, places, {u"HOME=/home/me"_s, u"TMP=/tmp"_s});
+        };
+        QCOMPARE(expanded(u"%ORVC%/personalities"_s), u"C:/Orv/personalities"_s);
+        QCOMPARE(expanded(u"%ORVCPP%/x"_s), u"D:/Orv/x"_s);
+        // Every occurrence, but of one kind and one variable only.
+        QCOMPARE(expanded(u"%I%/%I%"_s), u"/suite/suite"_s);
+        QCOMPARE(expanded(u"%I%/%ORVC%"_s), u"/suite/%ORVC%"_s);
+        QCOMPARE(expanded(u"%HOME%/a/%TMP%"_s), u"/home/me/a/%TMP%"_s);
+        // Stored values, also of another organisation.
+        QCOMPARE(expanded(u"%R%App%Key"_s), u"kovra"_s);
+        QCOMPARE(expanded(u"%R%App%Key%"_s), u"kovra"_s);
+        QCOMPARE(expanded(u"%R%Other%App%Key%/a%/b"_s), u"other/a/b"_s);
+        QCOMPARE(expanded(u"%R%App%None"_s), QString());
+        QCOMPARE(expanded(u"%R%App"_s), u"%R%App"_s);
+        // Only installations are cleaned.
+        for (const auto& [text, same] : {std::pair{u"%HOME%//a"_s, u"/home/me//a"_s},
+                                         {u"100%"_s, u"100%"_s},
+                                         {u"plain//text"_s, u"plain//text"_s}}) {
+            QCOMPARE(expanded(text), same);
+        }
     }
 
     void readsConversionTypes()

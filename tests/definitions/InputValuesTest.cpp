@@ -2,7 +2,6 @@
 #include "definitions/InputValues.h"
 #include "TestFolder.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <QHash>
 #include <QSettings>
@@ -86,27 +85,23 @@ private Q_SLOTS:
         QCOMPARE(store.allKeys().join(u' '), u"a b c d g inner"_s);
     }
 
-    void switches_data()
-    {
-        const TestRows<QString, FieldState, QString, QString> row("output", "state", "value", "kept");
-        row("on", {}, toggle(true), u"1"_s, u"1"_s);
-        row("off", {}, toggle(false), u"0"_s, u"0"_s);
-        row("on, with a text", u"-x"_s, toggle(true), u"-x"_s, u"1"_s);
-        row("off, with a text", u"-x"_s, toggle(false), {}, u"0"_s);
-        row("hidden", u"-x"_s, toggle(true, false), {}, {});
-    }
-
     void switches()
     {
-        QFETCH(const QString, output);
-        QFETCH(const FieldState, state);
-        ArgumentDefinitions list;
-        ArgumentDefinition& check = add(list, InputType::Check, u"c"_s, output);
-        check.value = u"old"_s;
-        const FieldSource source = [&state](const auto&) { return state; };
-        QTEST(InputValues::value(check, source), "value");
-        InputValues::remember(check, source);
-        QTEST(check.value, "kept");
+        // The value that is passed on, and the one that is kept.
+        const auto values = [](const QString& output, const FieldState& state) {
+            ArgumentDefinitions list;
+            ArgumentDefinition& check = add(list, InputType::Check, u"c"_s, output);
+            check.value = u"old"_s;
+            const FieldSource source = [&state](const auto&) { return state; };
+            const QString value = InputValues::value(check, source);
+            InputValues::remember(check, source);
+            return value + u'|' + check.value;
+        };
+        QCOMPARE(values({}, toggle(true)), u"1|1"_s);
+        QCOMPARE(values({}, toggle(false)), u"0|0"_s);
+        QCOMPARE(values(u"-x"_s, toggle(true)), u"-x|1"_s);
+        QCOMPARE(values(u"-x"_s, toggle(false)), u"|0"_s);
+        QCOMPARE(values(u"-x"_s, toggle(true, false)), u"|"_s);
     }
 
     // Of the other kinds the pages of the wizard tell.

@@ -8,11 +8,7 @@
 #include "Installation.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,8 +17,6 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QTextBrowser>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -250,8 +244,7 @@ private Q_SLOTS:
 
     void findsFiles()
     {
-        QFETCH(const QString, filter);
-        QFETCH(const QStringList, found);
+        const auto [filter, found] = fetched<QString, QStringList>("filter", "found");
         const Find find;
 #ifdef Q_OS_UNIX
         QVERIFY(QFileInfo(find.path(u"work/link.c"_s)).isSymLink());

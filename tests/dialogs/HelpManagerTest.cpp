@@ -7,7 +7,6 @@
 #include "dialogs/HelpViewer.h"
 #include "Installation.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <QProcess>
 #include <QSignalSpy>
@@ -53,23 +52,16 @@ private Q_SLOTS:
                  (QStringList{u"-own"_s, suite.path(u"help/own.qhc"_s)}));
     }
 
-    void leavesOldProfilesAlone_data()
-    {
-        const TestRows<QByteArray> row("contents");
-        row("old format", "<assistantconfig/>");
-        row("empty", {});
-    }
-
     void leavesOldProfilesAlone()
     {
-        QFETCH(const QByteArray, contents);
-        Installation suite;
-        const QString profile = suite.write(u"help/wendle.adp"_s, contents);
-        suite.start();
-        const HelpCollection old(profile);
-        QVERIFY(!old.isCollection());
-        QCOMPARE(HelpManager::ViewerArguments(*appRegistry, old), (QStringList{u"-profile"_s, profile}));
-        QCOMPARE(suite.read(profile), contents);
+        for (const char* contents : {"<assistantconfig/>", ""}) {
+            Installation suite;
+            const QString profile = suite.write(u"help/wendle.adp"_s, contents);
+            const HelpCollection old(profile);
+            QVERIFY(!old.isCollection());
+            QCOMPARE(HelpManager::ViewerArguments(suite.start(), old), (QStringList{u"-profile"_s, profile}));
+            QCOMPARE(suite.read(profile), contents);
+        }
     }
 
     void findsPages()
@@ -93,19 +85,8 @@ private Q_SLOTS:
         QVERIFY(viewer.findChild<QTextBrowser*>()->toPlainText().startsWith("The configuration files"_L1));
     }
 
-    void speaksTheUsersLanguage_data()
-    {
-        const TestRows<QString, QString, QString> row("language", "page", "shown");
-        row("German", u"de"_s, u"startPage.htm"_s, u"de/startPage.htm"_s);
-        row("English", u"en"_s, u"startPage.htm"_s, u"startPage.htm"_s);
-        row("no translation", u"fr"_s, u"startPage.htm"_s, u"startPage.htm"_s);
-        row("no page", u"de"_s, u"gone.htm"_s, {});
-    }
-
     void speaksTheUsersLanguage()
     {
-        QFETCH(const QString, language);
-        QFETCH(const QString, page);
         Installation suite;
 #ifdef Q_OS_WIN
         // Without Qt Help the pages are files.
@@ -116,12 +97,18 @@ private Q_SLOTS:
         installHelp(suite);
         const QString& base = space;
 #endif
-        Translations::install(QLocale(language));
-        HelpManager manager(suite.start(), nullptr);
-        const QUrl found = manager.find(page);
-        Translations::install(QLocale::c());
-        qDeleteAll(qApp->findChildren<QTranslator*>());
-        QTEST(found.toString().remove(base), "shown");
+        const auto shown = [&](const QString& language, const QString& page) {
+            Translations::install(QLocale(language));
+            const QString found = HelpManager(suite.start(), nullptr).find(page).toString();
+            Translations::install(QLocale::c());
+            qDeleteAll(qApp->findChildren<QTranslator*>());
+            return QString(found).remove(base);
+        };
+        QCOMPARE(shown(u"de"_s, u"startPage.htm"_s), u"de/startPage.htm"_s);
+        QCOMPARE(shown(u"en"_s, u"startPage.htm"_s), u"startPage.htm"_s);
+        // No translation, and no page.
+        QCOMPARE(shown(u"fr"_s, u"startPage.htm"_s), u"startPage.htm"_s);
+        QCOMPARE(shown(u"de"_s, u"gone.htm"_s), QString());
     }
 
     void tellsTheViewerWhatToShow()
@@ -146,8 +133,7 @@ private Q_SLOTS:
 
     void reportsABrokenViewer()
     {
-        QFETCH(const QByteArray, script);
-        QFETCH(const QString, reason);
+        const auto [script, reason] = fetched<QByteArray, QString>("script", "reason");
         const Installation suite;
         const QString viewer = script.isEmpty() ? u"/gone"_s : suite.writeChild(u"viewer"_s, script);
         AssistantClient client(viewer);

@@ -5,7 +5,6 @@
 #include "dialogs/HtmlShape.h"
 #include "Installation.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <QDesktopServices>
 #include <QFontMetrics>
@@ -14,16 +13,9 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString repeated(const QString& piece, int times)
-{
-    return piece.repeated(times);
-}
 
 // Not all fonts for code say that they are of fixed pitch.
 bool hasEqualWidths(const QFont& font)
@@ -45,32 +37,31 @@ private Q_SLOTS:
         const TestRows<QString, bool> row("html", "quick");
         row("nothing", {}, true);
         row("no html", u"1 < 2 and 3 > 2"_s, true);
-        row("a report", u"<h1>Report</h1>"_s + repeated(u"<p>some words of a report</p>\n"_s, 500), true);
-        row("a long report", repeated(u"<p>some words of a report</p>\n"_s, 20000), false);
-        row("a small table", u"<table>"_s + repeated(u"<tr><td>1<td>2</tr>"_s, 100) + u"</table>"_s, true);
-        row("many rows", u"<table>"_s + repeated(u"<tr><td>1</td></tr>"_s, 1000) + u"</table>"_s, false);
-        row("many cells", u"<TABLE><TR>"_s + repeated(u"<TD>1"_s, 1000), false);
-        row("a table in a table", repeated(u"<table><tr><td>"_s, 2) + u'x', true);
-        row("tables in tables", repeated(u"<table><tr><td>"_s, 12) + u'x', false);
-        row("a long word", repeated(u"x"_s, 10000), true);
-        row("a very long word", repeated(u"x"_s, 25000), false);
-        row("a long word of blanks that hold together", repeated(u"\u00A0"_s, 25000), false);
-        row("a long word of pieces", repeated(u"<b>x</b>"_s, 3000), false);
-        row("paragraphs in a word", repeated(u"<p>x</p>"_s, 1000), true);
-        row("deep", repeated(u"<div>"_s, 2000), false);
-        row("deep and closed", repeated(u"<div>"_s, 2000) + u'x' + repeated(u"</div>"_s, 2000), false);
-        row("beside each other", repeated(u"<div>x</div>"_s, 1000), true);
-        row("line breaks", repeated(u"a b<br>"_s, 5000), false);
-        row("rules", u"<style>"_s + repeated(u"a {} "_s, 2000) + u"</style>"_s + repeated(u"<p>x y"_s, 500), false);
-        row("images", repeated(u"<img src='a.png'> "_s, 100), false);
-        row("a comment", u"<!--"_s + repeated(u"<td>"_s, 5000) + u"-->"_s, true);
+        row("a report", u"<h1>Report</h1>"_s + u"<p>some words of a report</p>\n"_s.repeated(500), true);
+        row("a long report", u"<p>some words of a report</p>\n"_s.repeated(20000), false);
+        row("a small table", u"<table>"_s + u"<tr><td>1<td>2</tr>"_s.repeated(100) + u"</table>"_s, true);
+        row("many rows", u"<table>"_s + u"<tr><td>1</td></tr>"_s.repeated(1000) + u"</table>"_s, false);
+        row("many cells", u"<TABLE><TR>"_s + u"<TD>1"_s.repeated(1000), false);
+        row("a table in a table", u"<table><tr><td>"_s.repeated(2) + u'x', true);
+        row("tables in tables", u"<table><tr><td>"_s.repeated(12) + u'x', false);
+        row("a long word", u"x"_s.repeated(10000), true);
+        row("a very long word", u"x"_s.repeated(25000), false);
+        row("a long word of blanks that hold together", u"\u00A0"_s.repeated(25000), false);
+        row("a long word of pieces", u"<b>x</b>"_s.repeated(3000), false);
+        row("paragraphs in a word", u"<p>x</p>"_s.repeated(1000), true);
+        row("deep", u"<div>"_s.repeated(2000), false);
+        row("deep and closed", u"<div>"_s.repeated(2000) + u'x' + u"</div>"_s.repeated(2000), false);
+        row("beside each other", u"<div>x</div>"_s.repeated(1000), true);
+        row("line breaks", u"a b<br>"_s.repeated(5000), false);
+        row("rules", u"<style>"_s + u"a {} "_s.repeated(2000) + u"</style>"_s + u"<p>x y"_s.repeated(500), false);
+        row("images", u"<img src='a.png'> "_s.repeated(100), false);
+        row("a comment", u"<!--"_s + u"<td>"_s.repeated(5000) + u"-->"_s, true);
         row("never ends", u"<p>x"_s + u"<table "_s, true);
     }
 
     void judgesHtml()
     {
-        QFETCH(const QString, html);
-        QFETCH(const bool, quick);
+        const auto [html, quick] = fetched<QString, bool>("html", "quick");
         QCOMPARE(HtmlShape::of(html).isQuick(), quick);
     }
 
@@ -79,7 +70,7 @@ private Q_SLOTS:
         const Installation suite;
         auto registry = std::make_unique<AppRegistry>();
         DisplayDialog dialog(*registry, u"Report"_s, DisplayDialog::Html, 600, 600);
-        const QString rows = repeated(u"<tr><td>cell</td></tr>\n"_s, 50000);
+        const QString rows = u"<tr><td>cell</td></tr>\n"_s.repeated(50000);
         dialog.SetText(u"<h1>Title &amp; more</h1><table>"_s + rows);
         dialog.show();
         const QString shown = dialog.findChild<QTextBrowser*>()->toPlainText();
@@ -98,35 +89,29 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(file));
     }
 
-    void followsLinks_data()
-    {
-        const TestRows<QString, bool> row("link", "inBrowser");
-        row("the web", u"https://example.invalid/a.html"_s, true);
-        row("a long page", u"long.html"_s, true);
-        row("a short page", u"short.html"_s, false);
-        row("no page", u"long.txt"_s, false);
-        row("a missing page", u"missing.html"_s, false);
-    }
-
     void followsLinks()
     {
-        QFETCH(const QString, link);
-        QFETCH(const bool, inBrowser);
         const Installation suite;
         suite.write(u"short.html"_s, "short");
         suite.write(u"long.html"_s, QByteArray("<td>cell").repeated(1000));
         suite.write(u"long.txt"_s, QByteArray("<td>cell").repeated(1000));
         AppRegistry registry;
-        DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Html, 600, 600);
-        dialog.SetText(u"start"_s);
-        auto& view = *dialog.findChild<QTextBrowser*>();
-        const QUrl url = link.contains(u':') ? QUrl(link) : QUrl::fromLocalFile(suite.path(link));
-        opened.clear();
-        QDesktopServices::setUrlHandler(url.scheme(), this, "openUrl");
-        view.setSource(url);
-        QDesktopServices::unsetUrlHandler(url.scheme());
-        QCOMPARE(opened, inBrowser ? url : QUrl());
-        QCOMPARE(view.source() == url, !inBrowser);
+        for (const auto& [link, inBrowser] : {std::pair{u"https://example.invalid/a.html"_s, true},
+                                              {u"long.html"_s, true},
+                                              {u"short.html"_s, false},
+                                              {u"long.txt"_s, false},
+                                              {u"missing.html"_s, false}}) {
+            DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Html, 600, 600);
+            dialog.SetText(u"start"_s);
+            auto& view = *dialog.findChild<QTextBrowser*>();
+            const QUrl url = link.contains(u':') ? QUrl(link) : QUrl::fromLocalFile(suite.path(link));
+            opened.clear();
+            QDesktopServices::setUrlHandler(url.scheme(), this, "openUrl");
+            view.setSource(url);
+            QDesktopServices::unsetUrlHandler(url.scheme());
+            QCOMPARE(opened, inBrowser ? url : QUrl());
+            QCOMPARE(view.source() == url, !inBrowser);
+        }
     }
 
     void aLinkToASourceShowsItsLine()
@@ -156,16 +141,14 @@ private Q_SLOTS:
     {
         const TestRows<QString, int, QString> row("text", "lines", "end");
         row("short", u"a\nb"_s, 2, u"b"_s);
-        row("many lines", repeated(u"line\n"_s, 200'000) + u"end"_s, 200'001, u"end"_s);
-        row("more lines than a view takes", repeated(u"\n"_s, 1'200'000), 1'000'000, u"only its beginning"_s);
-        row("a line without an end", repeated(u"x"_s, 999'500) + u"end"_s, 1000, u"xend"_s);
+        row("many lines", u"line\n"_s.repeated(200'000) + u"end"_s, 200'001, u"end"_s);
+        row("more lines than a view takes", u"\n"_s.repeated(1'200'000), 1'000'000, u"only its beginning"_s);
+        row("a line without an end", u"x"_s.repeated(999'500) + u"end"_s, 1000, u"xend"_s);
     }
 
     void showsLongTexts()
     {
-        QFETCH(const QString, text);
-        QFETCH(const int, lines);
-        QFETCH(const QString, end);
+        const auto [text, lines, end] = fetched<QString, int, QString>("text", "lines", "end");
         AppRegistry registry;
         DisplayDialog dialog(registry, u"Report"_s, DisplayDialog::Text, 600, 600);
         dialog.SetText(text);

@@ -1,20 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/AppRegistry.h"
-#include "Installation.h"
-#include "launchers/PageData.h"
-#include "launchers/RunAppData.h"
+#include "Launchers.h"
 #include "process/OutputDecoder.h"
 #include "process/StrayProcesses.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QDialog>
-#include <QDir>
-#include <QFile>
-#include <QGridLayout>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
 
@@ -23,44 +11,20 @@ namespace {
 /// How a row's run comes to its end.
 enum class Ending { ByItself, Stopped, ProgramCloses };
 
-/// One launcher with a button, whose tool is a script of its own folder.
-struct FaultyTool : Installation
+/// One launcher, whose tool is a script in a folder of its own.
+struct FaultyTool : Launchers
 {
     explicit FaultyTool(const QByteArray& script, const QByteArray& output)
     {
         program = writeChild(u"tool/tool"_s, script);
-        define("<applicationPage><application name='Tool'><exe>" + program.toUtf8() + "</exe><displayoutput>" + output +
-               "</displayoutput><runFromExeDir>1</runFromExeDir></application></applicationPage>");
-        start().values.useMessageViewerMessages = false;
-        launcherPage = appRegistry->definitions.applicationPages.at(0).get();
-        launcherPage->SetProjectFile(path(u"work/p.prj"_s));
-        launcherPage->BuildButtons(new QGridLayout(&holder));
+        define("<application name='Tool'><exe>" + program.toUtf8() + "</exe><displayoutput>" + output +
+               "</displayoutput><runFromExeDir>1</runFromExeDir></application>");
     }
-
-    RunAppData& launcher() const { return *launcherPage->applications.at(0); }
 
     /// Of the processes that the script has named, those that run.
-    QByteArrayList alive() const
-    {
-        QByteArrayList running = read(u"work/pids"_s).split('\n');
-        running.removeIf([](const QByteArray& pid) { return !isAlive(pid); });
-        return running;
-    }
-
-    static QString shown()
-    {
-        const QDialog* window = appRegistry->openDialogs.value(0);
-        if (!window) {
-            return {};
-        }
-        const auto* text = window->findChild<QPlainTextEdit*>();
-        const auto* browser = window->findChild<QTextBrowser*>();
-        return text ? text->toPlainText() : browser ? browser->toPlainText() : window->findChild<QLabel*>()->text();
-    }
+    QByteArrayList alive() const { return running(u"work/pids"_s); }
 
     QString program;
-    QWidget holder;
-    PageData* launcherPage = nullptr;
 };
 
 } // namespace
@@ -139,16 +103,13 @@ private Q_SLOTS:
 
     void leavesNothingBehind()
     {
-        QFETCH(const QByteArray, script);
-        QFETCH(const QByteArray, output);
-        QFETCH(const Ending, ending);
-        QFETCH(const QString, says);
-        QFETCH(const QString, holds);
+        const auto [script, output, ending, says, holds] =
+            fetched<QByteArray, QByteArray, Ending, QString, QString>("script", "output", "ending", "says", "holds");
         const FaultyTool suite(script, output);
         const QByteArray folder = qgetenv("TMPDIR");
         const QTemporaryDir temporary;
         qputenv("TMPDIR", temporary.path().toLocal8Bit());
-        RunAppData& tool = suite.launcher();
+        RunAppData& tool = FaultyTool::tool(1);
         if (script == "missing") {
             QVERIFY(QFile::remove(suite.program));
         } else if (script == "locked" || script == "#!\n") {
@@ -178,7 +139,7 @@ private Q_SLOTS:
 
         appRegistry->ShutDown();
         QTRY_COMPARE(suite.alive(), QByteArrayList());
-        QVERIFY(!suite.launcherPage->ProgramsRunning());
+        QVERIFY(!FaultyTool::page().ProgramsRunning());
         QVERIFY(!StrayProcesses::any());
         QCOMPARE(QDir(temporary.path()).entryList({u"KOVRA-*"_s}), QStringList());
         qputenv("TMPDIR", folder);

@@ -1,16 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/AppRegistry.h"
 #include "Controls.h"
 #include "dialogs/BusyDialog.h"
-#include "Installation.h"
-#include "launchers/PageData.h"
-#include "launchers/RunAppData.h"
+#include "Launchers.h"
 #include "Readability.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QGridLayout>
-#include <QLabel>
 #include <QProgressBar>
 
 #include <algorithm>
@@ -20,30 +14,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Launchers that run children, on a page that is shown.
-struct LauncherPage : Installation
+struct LauncherPage : Launchers
 {
-    explicit LauncherPage(const QByteArrayList& scripts, const QByteArray& more = {}, const QByteArray& ofPage = {})
+    explicit LauncherPage(const QByteArrayList& scripts, const QByteArray& more = {}, QByteArray applications = {})
     {
-        QByteArray applications = ofPage;
         for (qsizetype i = 0; i < scripts.size(); ++i) {
-            const QString program = writeChild(u"tool%1"_s.arg(i + 1), scripts[i]);
-            applications += "<application name='Tool " + QByteArray::number(i + 1) + "'><exe>" + program.toUtf8() +
-                            "</exe>" + more + "</application>";
+            applications += application(int(i + 1), scripts[i], more);
         }
-        define("<applicationPage>" + applications + "</applicationPage>");
-        start().values.useMessageViewerMessages = false;
-        PageData& data = *appRegistry->definitions.applicationPages.at(0);
-        data.SetProjectFile(path(u"work/p.prj"_s));
-        data.BuildButtons(new QGridLayout(&window));
-        window.show();
+        define(applications);
+        holder->show();
     }
-
-    RunAppData& tool(int number) const
-    {
-        return *appRegistry->definitions.applicationPages.at(0)->applications.at(std::size_t(number - 1));
-    }
-
-    QWidget window;
 };
 
 } // namespace
@@ -57,19 +37,19 @@ private Q_SLOTS:
     {
         const LauncherPage page({"print [34/151] a.c; await $0.go; put-error '\r[151/151] b.c'; await $0.end"});
         RunAppData& tool = page.tool(1);
-        const auto* bar = page.window.findChild<QProgressBar*>();
+        const auto* bar = page.holder->findChild<QProgressBar*>();
         QVERIFY(!bar);
         tool.button->click();
         QCOMPARE(tool.button->text(), u"Tool 1\nrunning..."_s);
         QTRY_COMPARE(tool.button->text(), u"Tool 1\n34 of 151"_s);
-        bar = &controlCalled<QProgressBar>(page.window, u"Progress of Tool 1"_s);
+        bar = &controlCalled<QProgressBar>(*page.holder, u"Progress of Tool 1"_s);
         QCOMPARE(bar->value(), 34);
         QCOMPARE(bar->maximum(), 151);
         QVERIFY(tool.button->geometry().contains(bar->geometry()));
         page.write(u"tool1.go"_s, "");
         QTRY_COMPARE(tool.button->text(), u"Tool 1\n151 of 151"_s);
         page.write(u"tool1.end"_s, "");
-        QTRY_COMPARE(tool.button->text(), u"Tool 1"_s);
+        QTRY_COMPARE(tool.button->text(), u"Tool\n1"_s);
         QVERIFY(!bar->isVisible());
     }
 
@@ -79,7 +59,7 @@ private Q_SLOTS:
         RunAppData& tool = page.tool(1);
         tool.button->click();
         QTRY_COMPARE(tool.button->text(), u"Tool 1\n1 of 3"_s);
-        auto& stop = controlCalled<QPushButton>(page.window, u"Stop Tool 1"_s);
+        auto& stop = controlCalled<QPushButton>(*page.holder, u"Stop Tool 1"_s);
         QVERIFY(tool.button->geometry().contains(stop.geometry()));
         // A grey button's tool can be stopped as well.
         tool.button->setEnabled(false);
@@ -90,7 +70,7 @@ private Q_SLOTS:
         QTest::keyClick(&stop, Qt::Key_Space);
         QCOMPARE(tool.button->text(), u"Tool 1\nstopping..."_s);
         QVERIFY(!stop.isEnabled());
-        QTRY_COMPARE(tool.button->text(), u"Tool 1"_s);
+        QTRY_COMPARE(tool.button->text(), u"Tool\n1"_s);
         QVERIFY(!stop.isVisible());
     }
 
@@ -150,26 +130,20 @@ private Q_SLOTS:
         QCOMPARE(boxes.details.value(0).count(u"reason of "_s), 1);
     }
 
-    void givesUsableButtons_data()
-    {
-        const TestRows<QByteArray, QByteArray, QSize> row("page", "application", "size");
-        row("as given", "<buttonwidth>100</buttonwidth>", "", {100, 50});
-        row("its own", "", "<buttonwidth>90</buttonwidth>", {90, 50});
-        row("negative", "", "<buttonwidth>-5</buttonwidth>", {180, 50});
-        row("huge", "", "<buttonwidth>999999999</buttonwidth>", {1000, 50});
-        row("page negative", "<buttonwidth>-1</buttonwidth><buttonheight>-1</buttonheight>", "", {180, 50});
-        row("page nonsense", "<buttonwidth>x</buttonwidth><buttonheight>x</buttonheight>", "", {180, 50});
-        row("page huge", "<buttonwidth>99999999</buttonwidth><buttonheight>99999999</buttonheight>", "", {1000, 1000});
-        row("spacing", "<horizontalspacing>-900</horizontalspacing>", "<columnspan>3</columnspan>", {540, 50});
-    }
-
     void givesUsableButtons()
     {
-        QFETCH(const QByteArray, page);
-        QFETCH(const QByteArray, application);
-        QFETCH(const QSize, size);
-        const LauncherPage launchers({""}, application, page);
-        QCOMPARE(launchers.tool(1).button->size(), size);
+        const auto size = [](const QByteArray& ofPage, const QByteArray& more = {}) {
+            return LauncherPage({""}, more, ofPage).tool(1).button->size();
+        };
+        const QByteArray tooLarge = "<buttonwidth>99999999</buttonwidth>";
+        QCOMPARE(size("<buttonwidth>100</buttonwidth>"), QSize(100, 50));
+        QCOMPARE(size({}, "<buttonwidth>90</buttonwidth>"), QSize(90, 50));
+        QCOMPARE(size({}, "<buttonwidth>-5</buttonwidth>"), QSize(180, 50));
+        QCOMPARE(size({}, tooLarge), QSize(1000, 50));
+        QCOMPARE(size("<buttonwidth>-1</buttonwidth><buttonheight>-1</buttonheight>"), QSize(180, 50));
+        QCOMPARE(size("<buttonwidth>x</buttonwidth><buttonheight>x</buttonheight>"), QSize(180, 50));
+        QCOMPARE(size(tooLarge + "<buttonheight>99999999</buttonheight>"), QSize(1000, 1000));
+        QCOMPARE(size("<horizontalspacing>-900</horizontalspacing>", "<columnspan>3</columnspan>"), QSize(540, 50));
     }
 
     void canBeRead_data()
@@ -184,9 +158,8 @@ private Q_SLOTS:
     // On any desktop; and the arrow beside it points the way that is read.
     void canBeRead()
     {
-        QFETCH(const QByteArray, colour);
-        QFETCH(const QColor, window);
-        QFETCH(const Qt::LayoutDirection, direction);
+        const auto [colour, window, direction] =
+            fetched<QByteArray, QColor, Qt::LayoutDirection>("colour", "window", "direction");
         const LauncherPage page({""}, "<colour>" + colour + "</colour><leftimage>arrow</leftimage>");
         const QPalette usual = QApplication::palette();
         QApplication::setPalette(QPalette(window));
@@ -197,7 +170,7 @@ private Q_SLOTS:
         const double contrast = paintedContrast(button);
         button.setEnabled(false);
         const double greyContrast = paintedContrast(button);
-        const QImage arrow = page.window.findChild<QLabel*>()->pixmap().toImage();
+        const QImage arrow = page.holder->findChild<QLabel*>()->pixmap().toImage();
         const QColor text = QApplication::palette().color(QPalette::WindowText);
         QApplication::setPalette(usual);
         QApplication::setLayoutDirection(Qt::LeftToRight);

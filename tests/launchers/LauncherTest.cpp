@@ -1,66 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "app/AppRegistry.h"
-#include "Installation.h"
+#include "Launchers.h"
 #include "launchers/LauncherGrid.h"
-#include "launchers/PageData.h"
-#include "launchers/RunAppData.h"
 #include "personality/AnalyserInference.h"
 #include "process/ExecutableLookup.h"
 #include "process/StrayProcesses.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDialog>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QGridLayout>
 #include <QImage>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QTextBlock>
-#include <QTextBrowser>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 // A child that says who it is and does not listen.
-QByteArray deaf()
-{
-    return "{ ignore-requests; mark $0.pid; hang }\n";
-}
-
-/// A launcher page with buttons, on a project that does not exist.
-struct Launchers : Installation
-{
-    PageData& define(const QByteArray& applications)
-    {
-        Installation::define("<applicationPage>" + applications + "</applicationPage>");
-        start().values.useMessageViewerMessages = false;
-        page().SetProjectFile(path(u"work/p.prj"_s));
-        holder = std::make_unique<QWidget>();
-        page().BuildButtons(new QGridLayout(holder.get()));
-        return page();
-    }
-
-    static PageData& page() { return *appRegistry->definitions.applicationPages.at(0); }
-
-    /// The process whose id a tool's script wrote.
-    QByteArray child(int number) const { return read(u"tool%1.pid"_s.arg(number)); }
-
-    QByteArray application(int number, const QByteArray& script, const QByteArray& more = {}) const
-    {
-        const QString name = u"tool%1"_s.arg(number);
-        return "<application name='Tool\\n" + QByteArray::number(number) + "'><exe>" +
-               writeChild(name, script).toUtf8() + "</exe>" + more + "</application>";
-    }
-
-    std::unique_ptr<QWidget> holder;
-};
+constexpr auto deaf = "{ ignore-requests; mark $0.pid; hang }\n";
 
 } // namespace
 
@@ -146,8 +100,7 @@ private Q_SLOTS:
 
     void onlySuccessEnablesTheNext()
     {
-        QFETCH(const QByteArray, script);
-        QFETCH(const QStringList, boxes);
+        const auto [script, boxes] = fetched<QByteArray, QStringList>("script", "boxes");
         Launchers suite;
         const PageData& page = suite.define(
             suite.application(1, script, "<displayoutput>text</displayoutput><condition name='G' action='start'/>") +
@@ -190,70 +143,48 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(suite.path(u"tool1.ran"_s)));
     }
 
-    void showsTheBeginningOfAFlood_data()
-    {
-        const TestRows<QByteArray> row("mode");
-        row("text", "text");
-        row("html", "html");
-        row("message", "message");
-    }
-
     void showsTheBeginningOfAFlood()
     {
-        QFETCH(const QByteArray, mode);
-        Launchers suite;
-        const PageData& page = suite.define(
-            suite.application(1, "flood 100000000 <p>word</p>", "<displayoutput>" + mode + "</displayoutput>"));
-        page.applications[0]->button->click();
-        QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), 1, 60000);
-        const QDialog& dialog = *appRegistry->openDialogs[0];
-        // Its end names the file that holds everything.
-        const auto keptBytes = [&dialog] {
-            const auto* text = dialog.findChild<QPlainTextEdit*>();
-            const auto* browser = dialog.findChild<QTextBrowser*>();
-            const QString shown = text      ? text->document()->lastBlock().text()
-                                  : browser ? browser->document()->lastBlock().text()
-                                            : dialog.findChild<QLabel*>()->text();
-            return QFileInfo(shown.section(u' ', -1).remove(u']')).size();
-        };
-        QTRY_COMPARE_WITH_TIMEOUT(keptBytes(), 100000000, 30000);
-        // Nothing stays behind, neither of this nor of the option and list files.
-        appRegistry->ShutDown();
-        QCOMPARE(QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}), QStringList());
-    }
-
-    void givesTheToolItsPlaceAndItsMessages_data()
-    {
-        const TestRows<ProjectType, QByteArray> row("project", "messages");
-        row("C", ProjectType::C, "-only 7");
-        row("C++", ProjectType::Cpp, "-only 8");
+        for (const char* mode : {"text", "html", "message"}) {
+            Launchers suite;
+            const PageData& page = suite.define(suite.application(
+                1, "flood 100000000 <p>word</p>", QByteArray("<displayoutput>") + mode + "</displayoutput>"));
+            page.applications[0]->button->click();
+            QTRY_COMPARE_WITH_TIMEOUT(appRegistry->openDialogs.size(), 1, 60000);
+            // Its end names the file that holds everything.
+            const auto keptBytes = [] { return QFileInfo(Launchers::shown().section(u' ', -1).remove(u']')).size(); };
+            QTRY_COMPARE_WITH_TIMEOUT(keptBytes(), 100000000, 30000);
+            // Nothing stays behind, neither of this nor of the option and list files.
+            appRegistry->ShutDown();
+            QCOMPARE(QDir(QDir::tempPath()).entryList({u"KOVRA-*"_s}), QStringList());
+        }
     }
 
     void givesTheToolItsPlaceAndItsMessages()
     {
-        QFETCH(const ProjectType, project);
-        QFETCH(const QByteArray, messages);
-        Launchers suite;
-        PageData& page =
-            suite.define(suite.application(1, "append $0.out $cwd; append $0.out $ORVCPPPATH; copy $4 $0.list",
-                                           "<runFromExeDir>1</runFromExeDir><exeargs>%P+</exeargs>"));
-        appRegistry->values.useMessageViewerMessages = true;
-        appRegistry->values.cMessages = {u"7"_s};
-        appRegistry->values.cppMessages = {u"8"_s};
-        // The list is chosen by the suite's current project.
-        appRegistry->values.project.projectType = project;
-        page.applications[0]->button->click();
-        QTRY_VERIFY(!page.applications[0]->isRunning());
-        QCOMPARE(QDir::fromNativeSeparators(QString::fromUtf8(suite.read(u"tool1.out"_s))),
-                 suite.path(u"."_s).chopped(2) + u'\n' + suite.path(u"orvcpp"_s) + u'\n');
-        QCOMPARE(suite.read(u"tool1.list"_s).trimmed().split('\n').constLast(), messages);
+        for (const auto& [project, messages] : {std::pair{ProjectType::C, "-only 7"}, {ProjectType::Cpp, "-only 8"}}) {
+            Launchers suite;
+            PageData& page =
+                suite.define(suite.application(1, "append $0.out $cwd; append $0.out $ORVCPPPATH; copy $4 $0.list",
+                                               "<runFromExeDir>1</runFromExeDir><exeargs>%P+</exeargs>"));
+            appRegistry->values.useMessageViewerMessages = true;
+            appRegistry->values.cMessages = {u"7"_s};
+            appRegistry->values.cppMessages = {u"8"_s};
+            // The list is chosen by the suite's current project.
+            appRegistry->values.project.projectType = project;
+            page.applications[0]->button->click();
+            QTRY_VERIFY(!page.applications[0]->isRunning());
+            QCOMPARE(QDir::fromNativeSeparators(QString::fromUtf8(suite.read(u"tool1.out"_s))),
+                     suite.path(u"."_s).chopped(2) + u'\n' + suite.path(u"orvcpp"_s) + u'\n');
+            QCOMPARE(suite.read(u"tool1.list"_s).trimmed().split('\n').constLast(), QByteArray(messages));
+        }
     }
 
     void stopsAllWhenItsPageIsReset()
     {
         Launchers suite;
         const PageData& page = suite.define(
-            suite.application(1, "ignore-requests; start " + deaf() + "wait\n",
+            suite.application(1, QByteArray("ignore-requests; start ") + deaf + "wait\n",
                               "<condition name='G' action='finish'/>") +
             suite.application(2, "print hello",
                               "<displayoutput>message</displayoutput><condition name='G' action='disable'/>"));
@@ -261,7 +192,7 @@ private Q_SLOTS:
         RunAppData& other = *page.applications[1];
         tool.button->click();
         QVERIFY(!other.button->isEnabled());
-        QTRY_VERIFY(!suite.child(1).isEmpty());
+        QTRY_VERIFY(!suite.read(u"tool1.pid"_s).isEmpty());
         const BoxAnswers boxes({QMessageBox::Ok});
         tool.button->click();
         QCOMPARE(boxes.texts, QStringList{u"Tool 1|This application is already running"_s});
@@ -274,7 +205,7 @@ private Q_SLOTS:
         QVERIFY(!window.isVisible());
         QVERIFY(other.button->isEnabled());
         QTRY_VERIFY_WITH_TIMEOUT(!tool.isRunning(), 8000);
-        QTRY_VERIFY(!Installation::isAlive(suite.child(1)));
+        QTRY_VERIFY(!Installation::isAlive(suite.read(u"tool1.pid"_s)));
         QCOMPARE(boxes.texts.size(), 1);
     }
 
@@ -282,10 +213,10 @@ private Q_SLOTS:
     {
         const TestRows<QByteArray, bool> row("script", "counts");
 #ifdef Q_OS_UNIX
-        row("detached", "start-session " + deaf(), false);
+        row("detached", QByteArray("start-session ") + deaf, false);
 #else
         // A job holds it, too.
-        row("detached", "start-session " + deaf(), true);
+        row("detached", QByteArray("start-session ") + deaf, true);
 #endif
         row("in the background", "start { mark $0.pid; hang }", true);
     }
@@ -299,11 +230,11 @@ private Q_SLOTS:
         StrayProcesses::adopt();
         page.applications[0]->Activate();
         QTRY_VERIFY(!page.applications[0]->isRunning());
-        QTRY_VERIFY(!suite.child(1).isEmpty());
-        QVERIFY(Installation::isAlive(suite.child(1)));
+        QTRY_VERIFY(!suite.read(u"tool1.pid"_s).isEmpty());
+        QVERIFY(Installation::isAlive(suite.read(u"tool1.pid"_s)));
         QTEST(page.ProgramsRunning(), "counts");
         appRegistry->ShutDown();
-        QVERIFY(!Installation::isAlive(suite.child(1)));
+        QVERIFY(!Installation::isAlive(suite.read(u"tool1.pid"_s)));
         QVERIFY(!page.ProgramsRunning());
     }
 };

@@ -5,7 +5,6 @@
 #include "personality/OptionTables.h"
 #include "TestFolder.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <algorithm>
 
@@ -31,34 +30,24 @@ class PersonalityTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void scans_data()
-    {
-        const TestRows<QByteArray, QString> row("text", "found");
-        row("any letter case", "x\n-XCASE-", u"c"_s);
-        row("with a value", "-namelength 31", u"c"_s);
-        row("C option without a setting", "-xcase", {});
-        row("C option at the end of a line", "-xcase\n", {});
-        row("C++ option anywhere", "text-ccx", u"cpp"_s);
-        row("both", "-xcase+ -rvaluerefbind", u"c cpp"_s);
-        row("neither", "-via \"x\"\n-maxcount 3\n", {});
-        row("C metrics", "<S>STBUG 1", u"cmet"_s);
-        row("C++ metrics", "<S>STWMC <s>stbug", u"cppmet"_s);
-        row("binary", QByteArray("\0\xff-xcase+\0", 10), u"c"_s);
-    }
-
     void scans()
     {
-        QFETCH(const QByteArray, text);
         const TestFolder suite;
-        QTEST(scanned(suite.write(u"file"_s, text)), "found");
-    }
-
-    void scansNothingButFiles()
-    {
-        const TestFolder suite;
-        QCOMPARE(scanned(suite.path(u"work"_s)), QString());
-        QCOMPARE(scanned(u"/dev/zero"_s), QString());
-        QCOMPARE(scanned({}), QString());
+        const auto found = [&suite](const QByteArray& text) { return scanned(suite.write(u"file"_s, text)); };
+        QCOMPARE(found("x\n-XCASE-"), u"c"_s);
+        QCOMPARE(found("-namelength 31"), u"c"_s);
+        // Without a setting it is none.
+        QCOMPARE(found("-xcase"), QString());
+        QCOMPARE(found("-xcase\n"), QString());
+        QCOMPARE(found("text-ccx"), u"cpp"_s);
+        QCOMPARE(found("-xcase+ -rvaluerefbind"), u"c cpp"_s);
+        QCOMPARE(found("-via \"x\"\n-maxcount 3\n"), QString());
+        QCOMPARE(found("<S>STBUG 1"), u"cmet"_s);
+        QCOMPARE(found("<S>STWMC <s>stbug"), u"cppmet"_s);
+        QCOMPARE(found(QByteArray("\0\xff-xcase+\0", 10)), u"c"_s);
+        for (const QString& noFile : {suite.path(u"work"_s), u"/dev/zero"_s, QString()}) {
+            QCOMPARE(scanned(noFile), QString());
+        }
     }
 
     // A lost option of either table would decide for the wrong analyser.

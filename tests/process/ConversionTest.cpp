@@ -11,14 +11,9 @@
 #include "process/StrayProcesses.h"
 #include "process/WizardState.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -192,38 +187,30 @@ private Q_SLOTS:
         QVERIFY(analyserEnvironment({}, folders, true).filter(u"ORVCPATH"_s).isEmpty());
     }
 
-    void childrenInheritIt_data()
-    {
-        const TestRows<bool> row("isLaunched");
-        row("any child", false);
-        row("launched", true);
-    }
-
     void childrenInheritIt()
     {
-        QFETCH(const bool, isLaunched);
         Installation suite;
         const auto more = QDir::listSeparator() + u"/opt/"_s;
         qputenv("LATIN", "caf\xe9");
         qputenv("PATH", qgetenv("PATH") + more.toUtf8() + "caf\xe9");
         suite.start();
-        QProcess child;
-        if (isLaunched) {
-            SetProcessEnvironment(&child, true);
-        }
-        // The user's own variables keep their bytes, PATH those that it had.
-        child.start(suite.writeChild(u"show"_s, "put $ORVCBIN|$LATIN|$PATH"), {});
-        QVERIFY(child.waitForFinished());
-        qunsetenv("LATIN");
-        const QByteArray said = child.readAll();
 #ifdef Q_OS_WIN
         const QByteArray cafe = "caf\xc3\xa9";
 #else
         const QByteArray cafe = "caf\xe9";
 #endif
-        QVERIFY2(said.startsWith(suite.nativePath(u"orvc/bin"_s).toUtf8() + '|' + cafe + '|'), said.constData());
         const QString next = QDir::listSeparator() + suite.nativePath(u"bin"_s);
-        QVERIFY2(said.contains(more.toUtf8() + cafe + next.toUtf8()), said.constData());
+        for (const bool isLaunched : {false, true}) {
+            QProcess child;
+            isLaunched ? SetProcessEnvironment(&child, true) : void();
+            // The user's own variables keep their bytes, PATH those that it had.
+            child.start(suite.writeChild(u"show"_s, "put $ORVCBIN|$LATIN|$PATH"), {});
+            QVERIFY(child.waitForFinished());
+            const QByteArray said = child.readAll();
+            QVERIFY2(said.startsWith(suite.nativePath(u"orvc/bin"_s).toUtf8() + '|' + cafe + '|'), said.constData());
+            QVERIFY2(said.contains(more.toUtf8() + cafe + next.toUtf8()), said.constData());
+        }
+        qunsetenv("LATIN");
     }
 };
 

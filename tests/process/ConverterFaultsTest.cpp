@@ -3,11 +3,8 @@
 #include "process/ConversionRun.h"
 #include "process/StrayProcesses.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFileInfo>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -25,13 +22,6 @@ const QDateTime oldTime = QDateTime::fromSecsSinceEpoch(1'000'000'000);
 QString pidFile(const Installation& suite)
 {
     return suite.path(u"pids"_s);
-}
-
-QList<QByteArray> survivors(const Installation& suite)
-{
-    QList<QByteArray> alive = suite.read(pidFile(suite)).split('\n');
-    alive.removeIf([](const QByteArray& pid) { return !Installation::isAlive(pid); });
-    return alive;
 }
 
 QStringList hiddenFiles(const QString& folder)
@@ -120,9 +110,7 @@ private Q_SLOTS:
 
     void keepsTheOldProject()
     {
-        QFETCH(const Outcome, outcome);
-        QFETCH(const Act, act);
-        QFETCH(const QString, detail);
+        const auto [outcome, act, detail] = fetched<Outcome, Act, QString>("outcome", "act", "detail");
         const Installation suite;
         const QString project = suite.write(u"work/p.prj"_s, QByteArray("old\0project\n", 12), oldTime);
         const QByteArray before = suite.read(project);
@@ -141,7 +129,7 @@ private Q_SLOTS:
             if (act == Act::Stop) {
                 run.stop();
                 // At once: the page says so now.
-                QCOMPARE(survivors(suite), QList<QByteArray>());
+                QCOMPARE(suite.running(pidFile(suite)), QByteArrayList());
             }
             if (act != Act::Destroy) {
                 QTRY_COMPARE_WITH_TIMEOUT(ends.size(), 1, 20000);
@@ -151,7 +139,7 @@ private Q_SLOTS:
             }
         }
         QVERIFY2(said.contains(detail), qPrintable(said));
-        QCOMPARE(survivors(suite), QList<QByteArray>());
+        QCOMPARE(suite.running(pidFile(suite)), QByteArrayList());
         QVERIFY(!StrayProcesses::any());
         QCOMPARE(suite.read(project), before);
         QCOMPARE(QFileInfo(project).lastModified(), oldTime);
@@ -182,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode(), code);
         QCOMPARE(run.warning().isEmpty(), code == 0);
         QCOMPARE(suite.read(project), QByteArray("new\n"));
-        QCOMPARE(survivors(suite), QList<QByteArray>());
+        QCOMPARE(suite.running(pidFile(suite)), QByteArrayList());
         QCOMPARE(hiddenFiles(suite.path(u"work"_s)), QStringList());
     }
 
@@ -197,8 +185,7 @@ private Q_SLOTS:
 
     void keepsTheOldProjectOnAFullDisk()
     {
-        QFETCH(const QString, old);
-        QFETCH(const ConversionRun::EmptyFile, rule);
+        const auto [old, rule] = fetched<QString, ConversionRun::EmptyFile>("old", "rule");
         const Installation suite;
         const QString project = suite.write(u"work/p.prj"_s, "old", oldTime);
         suite.write(u"work/p.prj.old"_s, "the user's");

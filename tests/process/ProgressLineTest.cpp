@@ -2,7 +2,6 @@
 #include "process/ProgressLine.h"
 #include "process/OutputDecoder.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,8 +48,7 @@ private Q_SLOTS:
 
     void readsReads()
     {
-        QFETCH(const QByteArrayList, reads);
-        QFETCH(const QString, progress);
+        const auto [reads, progress] = fetched<QByteArrayList, QString>("reads", "progress");
         ProgressLine line;
         bool changed = false;
         for (const QByteArray& read : reads) {
@@ -69,22 +67,13 @@ private Q_SLOTS:
         QVERIFY(!line.append("text\n[1/3] a\n"));
     }
 
-    void fitsIntoATerminal_data()
-    {
-        const TestRows<Progress, int, QString> row("progress", "columns", "line");
-        row("unknown", {}, 80, u"\r\x1b[K"_s);
-        row("fits", {1, 3, u"a"_s}, 80, u"\r\x1b[K[1/3] a"_s);
-        row("just fits", {1, 3, u"abc"_s}, 10, u"\r\x1b[K[1/3] abc"_s);
-        row("too long", {1, 3, u"abcd"_s}, 10, u"\r\x1b[K[1/3] ab\u2026"_s);
-        row("no columns", {1, 3, u"abcd"_s}, 0, u"\r\x1b[K\u2026"_s);
-    }
-
     void fitsIntoATerminal()
     {
-        QFETCH(const Progress, progress);
-        QFETCH(const int, columns);
-        QFETCH(const QString, line);
-        QCOMPARE(ProgressLine::terminalLine(progress, columns), line);
+        QCOMPARE(ProgressLine::terminalLine({}, 80), u"\r\x1b[K"_s);
+        QCOMPARE(ProgressLine::terminalLine({1, 3, u"a"_s}, 80), u"\r\x1b[K[1/3] a"_s);
+        QCOMPARE(ProgressLine::terminalLine({1, 3, u"abc"_s}, 10), u"\r\x1b[K[1/3] abc"_s);
+        QCOMPARE(ProgressLine::terminalLine({1, 3, u"abcd"_s}, 10), u"\r\x1b[K[1/3] ab\u2026"_s);
+        QCOMPARE(ProgressLine::terminalLine({1, 3, u"abcd"_s}, 0), u"\r\x1b[K\u2026"_s);
     }
 };
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Installation.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -28,8 +25,7 @@ private Q_SLOTS:
 
     void tellsOfLostOutput()
     {
-        QFETCH(const QString, command);
-        QFETCH(const int, status);
+        const auto [command, status] = fetched<QString, int>("command", "status");
         const Installation suite;
         install(suite, "print chatter; print-error chatter; write $1 new");
         const ProgramResult result = runProgram(u"sh"_s, {u"-c"_s, command.arg(suite.path(u"bin/ProjectCreation"_s))},
@@ -41,24 +37,18 @@ private Q_SLOTS:
     }
 
     // A child without a terminal is neither stopped for writing to one nor waits for a password.
-    void needsNoTerminal_data()
-    {
-        const TestRows<QByteArray> row("script");
-        row("writes under tostop", "print chatter; write $1 new");
-        row("asks for a password", "#!read x < /dev/tty; echo new > \"$1\"");
-    }
-
     void needsNoTerminal()
     {
-        QFETCH(const QByteArray, script);
-        const Installation suite;
-        install(suite, script);
-        const QString command =
-            u"stty tostop; exec "_s + suite.path(u"bin/ProjectCreation"_s) + u" -batch -prj p.prj -type T"_s;
-        const ProgramResult result = runProgram(u"script"_s, {u"-qec"_s, command, u"/dev/null"_s},
-                                                {{u"LC_ALL"_s, u"C.UTF-8"_s}}, suite.path(u"work"_s));
-        QVERIFY2(result.status == 0, qPrintable(result.output));
-        QCOMPARE(suite.read(u"work/p.prj"_s), QByteArray("new\n"));
+        for (const char* script : {"print chatter; write $1 new", "#!read x < /dev/tty; echo new > \"$1\""}) {
+            const Installation suite;
+            install(suite, script);
+            const QString command =
+                u"stty tostop; exec "_s + suite.path(u"bin/ProjectCreation"_s) + u" -batch -prj p.prj -type T"_s;
+            const ProgramResult result = runProgram(u"script"_s, {u"-qec"_s, command, u"/dev/null"_s},
+                                                    {{u"LC_ALL"_s, u"C.UTF-8"_s}}, suite.path(u"work"_s));
+            QVERIFY2(result.status == 0, qPrintable(result.output));
+            QCOMPARE(suite.read(u"work/p.prj"_s), QByteArray("new\n"));
+        }
     }
 
     void keepsTheFilesOfOtherOptions()

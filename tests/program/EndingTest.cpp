@@ -3,25 +3,9 @@
 #include "SystemCalls.h"
 #include "TestMain.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QProcess>
-#include <QTest>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QList<QByteArray> survivors(const Installation& suite)
-{
-    QList<QByteArray> alive = suite.read(u"convert.pids"_s).split('\n');
-    alive.removeIf([](const QByteArray& pid) { return !Installation::isAlive(pid); });
-    return alive;
-}
-
-} // namespace
 
 /// However the program is ended: nothing runs on, nothing lies about, and the old project is there.
 class EndingTest : public QObject
@@ -48,8 +32,7 @@ private Q_SLOTS:
 
     void leavesNothing()
     {
-        QFETCH(const int, signal);
-        QFETCH(const bool, launches);
+        const auto [signal, launches] = fetched<int, bool>("signal", "launches");
         [[maybe_unused]] const OwnConsole console;
         const Installation suite;
         const QByteArray script = suite
@@ -80,7 +63,7 @@ hang)")
         QTRY_COMPARE(suite.read(project), launches ? old : QByteArray("half\n"));
         QTRY_VERIFY(QFile::exists(suite.path(u"convert.up"_s)));
         QCOMPARE(temporaryFiles() > 0, launches);
-        QCOMPARE(survivors(suite).size(), 4);
+        QCOMPARE(suite.running(u"convert.pids"_s).size(), 4);
         ::kill(pid_t(program.processId()), signal);
         QVERIFY(program.waitForFinished());
         if (signal != SIGSEGV && signal != SIGKILL) {
@@ -88,7 +71,7 @@ hang)")
         }
         // One that is killed has a helper that cleans up, and may take a moment longer.
         QTRY_COMPARE(suite.read(project), old);
-        QTRY_COMPARE(survivors(suite), QList<QByteArray>());
+        QTRY_COMPARE(suite.running(u"convert.pids"_s), QByteArrayList());
         QCOMPARE(QFileInfo(project).lastModified(), QDateTime::fromSecsSinceEpoch(1'000'000'000));
         QTRY_COMPARE(QDir(suite.path(u"work"_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"p.prj"_s});
         QTRY_COMPARE(temporaryFiles(), 0);

@@ -6,12 +6,9 @@
 #include "SystemCalls.h"
 #include "TestFolder.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
 #include <QBuffer>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -246,9 +243,7 @@ private Q_SLOTS:
 
     void decides()
     {
-        QFETCH(const QString, sources);
-        QFETCH(const QString, analysed);
-        QFETCH(const QString, stale);
+        const auto [sources, analysed, stale] = fetched<QString, QString, QString>("sources", "analysed", "stale");
         const bool isEmpty = sources == "empty"_L1;
         const Workspace work;
         work.analyse(analysed, 10);

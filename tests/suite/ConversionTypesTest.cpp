@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "InstalledSuite.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -50,9 +47,7 @@ private Q_SLOTS:
 
     void handsItsInputsToTheConverter()
     {
-        QFETCH(const QString, type);
-        QFETCH(const QStringList, inputs);
-        QFETCH(const QByteArray, define);
+        const auto [type, inputs, define] = fetched<QString, QStringList, QByteArray>("type", "inputs", "define");
         const QString project = suite.path(u"work/out/%1.prj"_s.arg(QString::fromLatin1(define)));
         QStringList arguments{u"-batch"_s, u"-cpp"_s, u"-prj"_s, project, u"-type"_s, type};
         for (const QString& input : inputs + QStringList{u"Leave out=b.*"_s, u"More defines=MORE=1"_s,

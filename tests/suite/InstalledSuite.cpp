@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "InstalledSuite.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QProcess>
 
 using namespace Qt::StringLiterals;

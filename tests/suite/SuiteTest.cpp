@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "app/AppRegistry.h"
 #include "InstalledSuite.h"
 #include "personality/FileScans.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "wizard/PageSequence.h"
 #include "WizardDriver.h"
 
-#include <QDir>
-#include <QFile>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

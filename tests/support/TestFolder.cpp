@@ -65,3 +65,10 @@ bool TestFolder::isAlive(const QByteArray& pid)
     return !pid.trimmed().isEmpty() && status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
 #endif
 }
+
+QByteArrayList TestFolder::running(const QString& file) const
+{
+    QByteArrayList alive = read(file).split('\n');
+    alive.removeIf([](const QByteArray& pid) { return !isAlive(pid); });
+    return alive;
+}

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -28,6 +30,8 @@ public:
     QByteArray readLines(const QString& name) const { return read(name).replace("\r\n", "\n").replace('\\', '/'); }
     /// True while the process with this id, as a script wrote it, runs.
     static bool isAlive(const QByteArray& pid);
+    /// Of the processes whose ids stand in a file, one a line, those that run.
+    QByteArrayList running(const QString& file) const;
 
 protected:
     QTemporaryDir folder;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TestRows.h"
+
 #include <QObject>
 
 #include <functional>

@@ -21,3 +21,10 @@ public:
         (*this)(name, first..., std::tuple_element_t<sizeof...(First), std::tuple<Columns...>>());
     }
 };
+
+/// The values of some columns of the row that is tested, by type and name.
+template <typename... Columns, typename... Names>
+std::tuple<Columns...> fetched(Names... names)
+{
+    return {*static_cast<const Columns*>(QTest::qData(names, qMetaTypeId<Columns>()))...};
+}

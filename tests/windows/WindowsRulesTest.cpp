@@ -15,13 +15,9 @@
 #include "project/ProjectTarget.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <qt_windows.h>
 
@@ -50,42 +46,29 @@ class WindowsRulesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void findsInstallersRecords_data()
-    {
-        // A redirected hive has no view of its own for 32-bit programs: scripts/windows/check-package looks at that.
-        const TestRows<QString> row("hive");
-        row("machine", u"HKEY_LOCAL_MACHINE"_s);
-        row("user", u"HKEY_CURRENT_USER"_s);
-    }
-
+    // A redirected hive has no view of its own for 32-bit programs: scripts/windows/check-package looks at that.
     void findsInstallersRecords()
     {
-        QFETCH(const QString, hive);
-        const TestFolder place;
-        place.write(u"4.2/ж"_s, "");
-        QSettings store(hive + u"\\Software\\KOVRA\\"_s + product, QSettings::NativeFormat);
-        store.setValue(u"4.2/Path"_s, place.path(u"4.2"_s));
-        store.sync();
-        const QString found = Installations::FindInstallation(product, u"ORVCPATH"_s);
-        store.clear();
-        store.sync();
-        QCOMPARE(found, place.path(u"4.2"_s));
-    }
-
-    void extendsPathOnce_data()
-    {
-        const TestRows<QString> row("name");
-        row("Path", u"Path"_s);
-        row("PATH", u"PATH"_s);
-        row("path", u"path"_s);
+        for (const auto& hive : {u"HKEY_LOCAL_MACHINE"_s, u"HKEY_CURRENT_USER"_s}) {
+            const TestFolder place;
+            place.write(u"4.2/ж"_s, "");
+            QSettings store(hive + u"\\Software\\KOVRA\\"_s + product, QSettings::NativeFormat);
+            store.setValue(u"4.2/Path"_s, place.path(u"4.2"_s));
+            store.sync();
+            const QString found = Installations::FindInstallation(product, u"ORVCPATH"_s);
+            store.clear();
+            store.sync();
+            QCOMPARE(found, place.path(u"4.2"_s));
+        }
     }
 
     void extendsPathOnce()
     {
-        QFETCH(const QString, name);
-        const EnvironmentFolders folders{u"C:/bin"_s, u"C:/suite"_s, {u"more"_s}, u"C:/here"_s, {}, {}};
-        QCOMPARE(analyserEnvironment({name + u"=C:\\a"_s}, folders, false, {}),
-                 QStringList{u"PATH=C:\\a;C:\\bin;C:\\suite\\more;C:\\here"_s});
+        for (const auto& name : {u"Path"_s, u"PATH"_s, u"path"_s}) {
+            const EnvironmentFolders folders{u"C:/bin"_s, u"C:/suite"_s, {u"more"_s}, u"C:/here"_s, {}, {}};
+            QCOMPARE(analyserEnvironment({name + u"=C:\\a"_s}, folders, false, {}),
+                     QStringList{u"PATH=C:\\a;C:\\bin;C:\\suite\\more;C:\\here"_s});
+        }
     }
 
     void keepsLettersOfVariables()

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 #include "WizardDriver.h"
 
 #include <QAction>
-#include <QDir>
-#include <QFile>
 #include <QTextBlock>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -83,8 +78,7 @@ private Q_SLOTS:
 
     void reportsTheEnd()
     {
-        QFETCH(const QByteArray, script);
-        QFETCH(const QString, says);
+        const auto [script, says] = fetched<QByteArray, QString>("script", "says");
         QFETCH(QString, lastLine);
         QFETCH(const QByteArray, leaves);
         Installation suite;

@@ -3,9 +3,6 @@
 #include "TestMain.h"
 #include "WizardDriver.h"
 
-#include <QDir>
-#include <QFile>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -68,28 +65,22 @@ private Q_SLOTS:
     }
 
     // A result of an earlier conversion's daemon would be taken for that of the next.
-    void stopsWhatWasDetached_data()
-    {
-        QTest::addColumn<bool>("byBack");
-        QTest::newRow("Stop") << false;
-        QTest::newRow("Back") << true;
-    }
-
     void stopsWhatWasDetached()
     {
-        QFETCH(const bool, byBack);
         StrayProcesses::adopt();
-        Installation suite;
-        startSuite(suite,
-                   "start-session { mark $1.pid; pause 2000; write $1 STALE }; await $1.pid; print running; hang");
-        WizardDriver wizard;
-        convert(wizard, suite);
-        QTRY_VERIFY(wizard.output().contains("running"_L1));
-        const QByteArray daemon = suite.read(u"work/p.prj.pid"_s);
-        QVERIFY(Installation::isAlive(daemon));
-        byBack ? wizard.press(QWizard::BackButton) : wizard.button(u"&Stop"_s).click();
-        QVERIFY(!Installation::isAlive(daemon));
-        QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
+        for (const bool byBack : {false, true}) {
+            Installation suite;
+            startSuite(suite,
+                       "start-session { mark $1.pid; pause 2000; write $1 STALE }; await $1.pid; print running; hang");
+            WizardDriver wizard;
+            convert(wizard, suite);
+            QTRY_VERIFY(wizard.output().contains("running"_L1));
+            const QByteArray daemon = suite.read(u"work/p.prj.pid"_s);
+            QVERIFY(Installation::isAlive(daemon));
+            byBack ? wizard.press(QWizard::BackButton) : wizard.button(u"&Stop"_s).click();
+            QVERIFY(!Installation::isAlive(daemon));
+            QVERIFY(!QFile::exists(wizard.window.ProjectFile()));
+        }
     }
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 #include "wizard/FolderMemory.h"
 #include "WizardDriver.h"
 
@@ -272,8 +271,7 @@ private Q_SLOTS:
 
     void saysWhatItCanNotEdit()
     {
-        QFETCH(const QString, name);
-        QFETCH(const QString, says);
+        const auto [name, says] = fetched<QString, QString>("name", "says");
         const Suite suite;
         if (name == "pipe"_L1) {
             QCOMPARE(::mkfifo(qPrintable(suite.path(name)), 0600), 0);

@@ -2,12 +2,10 @@
 #include "app/Translations.h"
 #include "Readability.h"
 #include "TestMain.h"
-#include "TestRows.h"
 #include "wizard/PageScrollArea.h"
 #include "WizardDriver.h"
 
 #include <QAccessible>
-#include <QDir>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollArea>
@@ -213,8 +211,7 @@ private Q_SLOTS:
             layOut();
             return;
         }
-        QFETCH(const QSize, screen);
-        QFETCH(const int, scale);
+        const auto [screen, scale] = fetched<QSize, int>("screen", "scale");
         const TestFolder folder;
         folder.write(u"screens.json"_s, u"{\"screens\": [{\"name\": \"s\", \"x\": 0, \"y\": 0, "
                                         "\"width\": %1, \"height\": %2, \"logicalDpi\": 96, "
@@ -262,8 +259,7 @@ private Q_SLOTS:
 
     void takesPathsAsPeopleWriteThem()
     {
-        QFETCH(const QString, typed);
-        QFETCH(const QString, taken);
+        const auto [typed, taken] = fetched<QString, QString>("typed", "taken");
         const Suite suite(1, 1, "T");
         const WizardDriver wizard;
         QLineEdit& field = wizard.edit(u"Location for new project file:"_s);

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TestMain.h"
-#include "TestRows.h"
 #include "WizardDriver.h"
 
-#include <QDir>
 #include <QScreen>
 
 #include <algorithm>
@@ -15,31 +13,23 @@ class StartPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void saysWhichDefinitionsAreMissing_data()
-    {
-        const TestRows<QByteArray> row("contents");
-        row("missing", {});
-        row("blank", " ");
-        row("not XML", "int main() {}");
-        row("cut", "<settings><projectCreat");
-        row("type without a name", "<settings><projectCreator><exe>no name</exe>");
-    }
-
     void saysWhichDefinitionsAreMissing()
     {
-        QFETCH(const QByteArray, contents);
-        Installation suite;
-        const QString name = suite.path(u"&amp;.xml"_s);
-        if (!contents.isEmpty()) {
-            suite.write(u"&amp;.xml"_s, contents);
+        for (const char* contents :
+             {"", " ", "int main() {}", "<settings><projectCreat", "<settings><projectCreator><exe>no name</exe>"}) {
+            Installation suite;
+            const QString name = suite.path(u"&amp;.xml"_s);
+            if (*contents != 0) {
+                suite.write(u"&amp;.xml"_s, contents);
+            }
+            suite.start({u"-file"_s, name});
+            const WizardDriver wizard;
+            const QString text = wizard.labels().join(u' ');
+            QVERIFY2(text.contains(u"<font color='red'>"_s), qPrintable(text));
+            QVERIFY2(text.contains(name.toHtmlEscaped()), qPrintable(text));
+            wizard.edit(u"Name of project to be created:"_s).setText(u"name"_s);
+            QVERIFY(!wizard.canGoOn());
         }
-        suite.start({u"-file"_s, name});
-        const WizardDriver wizard;
-        const QString text = wizard.labels().join(u' ');
-        QVERIFY2(text.contains(u"<font color='red'>"_s), qPrintable(text));
-        QVERIFY2(text.contains(name.toHtmlEscaped()), qPrintable(text));
-        wizard.edit(u"Name of project to be created:"_s).setText(u"name"_s);
-        QVERIFY(!wizard.canGoOn());
     }
 
     void asksBeforeItTouchesAnything()
@@ -167,36 +157,33 @@ private Q_SLOTS:
         QCOMPARE(boxes.texts.size(), 4);
     }
 
-    void decidesTheAnalyser_data()
-    {
-        // Which analysers are available and installed, and which ones the type is for.
-        const TestRows<QString, QString> row("facts", "analyser");
-        row("type says nothing", u"c cpp cdir cppdir"_s, u"open"_s);
-        row("type for both", u"c cpp cdir cppdir typeC typeCpp"_s, u"open"_s);
-        row("type for C", u"c cpp cdir cppdir typeC"_s, u"C"_s);
-        row("type for C++", u"c cpp cdir cppdir typeCpp"_s, u"C++"_s);
-        row("C asked for", u"c cdir cppdir typeCpp"_s, u"C"_s);
-        row("C++ installed", u"c cpp cppdir typeC"_s, u"C++"_s);
-        row("C installed", u"cpp cdir typeCpp"_s, u"C"_s);
-        row("none installed, type for C++", u"typeCpp"_s, u"C++ none"_s);
-        row("none installed", {}, u"open none"_s);
-    }
-
     void decidesTheAnalyser()
     {
-        QFETCH(const QString, facts);
-        const QStringList words = facts.split(u' ');
-        ProjectCreatorData creator;
-        creator.orvcProject = words.contains("typeC"_L1);
-        creator.orvcppProject = words.contains("typeCpp"_L1);
-        WizardState state;
-        state.projectCreator = &creator;
-        state.cAvailable = words.contains("c"_L1);
-        state.cppAvailable = words.contains("cpp"_L1);
-        state.decideAnalyser(words.contains("cdir"_L1) ? u"/c"_s : QString(),
-                             words.contains("cppdir"_L1) ? u"/cpp"_s : QString());
-        const QString analyser = !state.analyserFixed ? u"open"_s : state.isORVC ? u"C"_s : u"C++"_s;
-        QTEST(analyser + (state.noAnalyserInstalled ? u" none"_s : QString()), "analyser");
+        // Which analysers are available and installed, and which ones the type is for.
+        const auto analyser = [](const QString& facts) {
+            const QStringList words = facts.split(u' ');
+            ProjectCreatorData creator;
+            creator.orvcProject = words.contains("typeC"_L1);
+            creator.orvcppProject = words.contains("typeCpp"_L1);
+            WizardState state;
+            state.projectCreator = &creator;
+            state.cAvailable = words.contains("c"_L1);
+            state.cppAvailable = words.contains("cpp"_L1);
+            state.decideAnalyser(words.contains("cdir"_L1) ? u"/c"_s : QString(),
+                                 words.contains("cppdir"_L1) ? u"/cpp"_s : QString());
+            const QString decided = !state.analyserFixed ? u"open"_s : state.isORVC ? u"C"_s : u"C++"_s;
+            return decided + (state.noAnalyserInstalled ? u" none"_s : QString());
+        };
+        QCOMPARE(analyser(u"c cpp cdir cppdir"_s), u"open"_s);
+        QCOMPARE(analyser(u"c cpp cdir cppdir typeC typeCpp"_s), u"open"_s);
+        QCOMPARE(analyser(u"c cpp cdir cppdir typeC"_s), u"C"_s);
+        QCOMPARE(analyser(u"c cpp cdir cppdir typeCpp"_s), u"C++"_s);
+        // Asked for counts before installed, and installed before the type.
+        QCOMPARE(analyser(u"c cdir cppdir typeCpp"_s), u"C"_s);
+        QCOMPARE(analyser(u"c cpp cppdir typeC"_s), u"C++"_s);
+        QCOMPARE(analyser(u"cpp cdir typeCpp"_s), u"C"_s);
+        QCOMPARE(analyser(u"typeCpp"_s), u"C++ none"_s);
+        QCOMPARE(analyser({}), u"open none"_s);
     }
 };
 

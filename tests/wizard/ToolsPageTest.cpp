@@ -3,12 +3,9 @@
 #include "launchers/PageData.h"
 #include "process/StrayProcesses.h"
 #include "TestMain.h"
-#include "TestRows.h"
 #include "WizardDriver.h"
 
-#include <QDir>
 #include <QLabel>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
@@ -58,22 +55,16 @@ class ToolsPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void findsItsProjectOnTheCommandLine_data()
-    {
-        const TestRows<QStringList, bool, QString> row("arguments", "given", "file");
-        row("not given", {u"program"_s, u"-prj"_s, u"x"_s}, false, {});
-        row("given", {u"program"_s, u"-c"_s, u"-tools"_s, u"x.prj"_s}, true, u"x.prj"_s);
-        row("without a file", {u"program"_s, u"-tools"_s}, true, {});
-        row("the program's own name", {u"-tools"_s, u"x"_s}, false, {});
-    }
-
     void findsItsProjectOnTheCommandLine()
     {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const bool, given);
-        QFETCH(const QString, file);
-        QCOMPARE(CommandLine::toolsProject(arguments).has_value(), given);
-        QCOMPARE(CommandLine::toolsProject(arguments).value_or(QString()), file);
+        const auto found = [](const QString& line) {
+            return CommandLine::toolsProject(line.split(u' ')).value_or(u"none"_s);
+        };
+        QCOMPARE(found(u"program -prj x"_s), u"none"_s);
+        QCOMPARE(found(u"program -c -tools x.prj"_s), u"x.prj"_s);
+        QCOMPARE(found(u"program -tools"_s), QString());
+        // The program's own name counts for nothing.
+        QCOMPARE(found(u"-tools x"_s), u"none"_s);
     }
 
     void opensAProjectThatExists_data()
@@ -88,8 +79,7 @@ private Q_SLOTS:
 
     void opensAProjectThatExists()
     {
-        QFETCH(const QString, name);
-        QFETCH(const QByteArray, analyser);
+        const auto [name, analyser] = fetched<QString, QByteArray>("name", "analyser");
         Installation suite;
         startWithTool(suite, "");
         const QString file = suite.write(name, project(analyser));
@@ -124,8 +114,7 @@ private Q_SLOTS:
 
     void saysWhyAProjectIsNotOpened()
     {
-        QFETCH(const QString, name);
-        QFETCH(const QString, says);
+        const auto [name, says] = fetched<QString, QString>("name", "says");
         Installation suite;
         startWithTool(suite, "");
         suite.write(u"work/text.prj"_s, "just text\n");

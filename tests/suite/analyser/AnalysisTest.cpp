@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CodeBase.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -120,9 +115,7 @@ private Q_SLOTS:
 
     void optionsReachTheAnalyser()
     {
-        QFETCH(const QString, options);
-        QFETCH(const QByteArray, source);
-        QFETCH(const QString, message);
+        const auto [options, source, message] = fetched<QString, QByteArray, QString>("options", "source", "message");
         const CodeBase code;
         code.write(u"forced.h"_s, "#define SIZE 6\n");
         code.write(u"in c/s.h"_s, "#define SIZE 4\n");
@@ -151,9 +144,7 @@ private Q_SLOTS:
 
     void sourcesThatAreGivenUpAreNotAnalysed()
     {
-        QFETCH(const QByteArray, source);
-        QFETCH(const QString, options);
-        QFETCH(const QString, reason);
+        const auto [source, options, reason] = fetched<QByteArray, QString, QString>("source", "options", "reason");
         const CodeBase code;
         code.write(u"one/bad.h"_s, "int q( {\n");
         code.write(u"one/a.cpp"_s, source);

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CodeBase.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>

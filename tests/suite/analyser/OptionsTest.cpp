@@ -4,9 +4,6 @@
 #include "LibraryHints.h"
 #include "OptionReader.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -82,10 +79,7 @@ private Q_SLOTS:
 
     void linesBecomeFindings()
     {
-        QFETCH(const QString, text);
-        QFETCH(const QString, file);
-        QFETCH(const int, line);
-        QFETCH(const QString, id);
+        const auto [text, file, line, id] = fetched<QString, QString, int, QString>("text", "file", "line", "id");
         Finding finding;
         QCOMPARE(finding.fromLine(text), !file.isEmpty());
         if (!file.isEmpty()) {

@@ -2,13 +2,9 @@
 #include "CodeBase.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -132,9 +128,7 @@ private Q_SLOTS:
 
     void toolsThatFailAreTold()
     {
-        QFETCH(const QByteArray, analyser);
-        QFETCH(const QString, says);
-        QFETCH(const int, analysed);
+        const auto [analyser, says, analysed] = fetched<QByteArray, QString, int>("analyser", "says", "analysed");
         const CodeBase code;
         code.project({code.overrunning({u"a.cpp"_s, u"b.cpp"_s})});
         code.replaceProgram(u"cppcheck"_s, analyser);
@@ -170,10 +164,8 @@ private Q_SLOTS:
 
     void obstaclesAreTold()
     {
-        QFETCH(const QStringList, files);
-        QFETCH(const QString, options);
-        QFETCH(const QByteArray, prepare);
-        QFETCH(const QString, says);
+        const auto [files, options, prepare, says] =
+            fetched<QStringList, QString, QByteArray, QString>("files", "options", "prepare", "says");
         const CodeBase code;
         CodePart part = code.overrunning(files);
         part.options = options;
@@ -259,8 +251,7 @@ private Q_SLOTS:
 
     void wrongUseIsRefused()
     {
-        QFETCH(const QString, command);
-        QFETCH(const QString, says);
+        const auto [command, says] = fetched<QString, QString>("command", "says");
         const CodeBase code;
         const ProgramResult result = code.run(command);
         QCOMPARE(result.status, command.isEmpty() ? 0 : 2);

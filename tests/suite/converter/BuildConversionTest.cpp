@@ -2,13 +2,9 @@
 #include "ConvertedProject.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -147,8 +143,7 @@ private Q_SLOTS:
 
     void tellsWhatFails()
     {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QString, told);
+        const auto [arguments, told] = fetched<QStringList, QString>("arguments", "told");
         const ConvertedProject place;
         place.write(u"work/none/a.c"_s, "");
         place.write(

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ConvertedProject.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -57,8 +54,7 @@ private Q_SLOTS:
 
     void saysWhatItLeavesOut()
     {
-        QFETCH(const QString, command);
-        QFETCH(const QString, says);
+        const auto [command, says] = fetched<QString, QString>("command", "says");
         const ConvertedProject project;
         project.write(u"work/self.rsp"_s, "@self.rsp");
         project.write(u"work/open.rsp"_s, "'-DX");

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ConvertedProject.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QFile>
 #include <QStandardPaths>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -89,9 +86,7 @@ private Q_SLOTS:
     void takesTheUsualMacros()
     {
         QFETCH(QString, program);
-        QFETCH(const QByteArray, body);
-        QFETCH(const QString, says);
-        QFETCH(const QString, macro);
+        const auto [body, says, macro] = fetched<QByteArray, QString, QString>("body", "says", "macro");
         const ConvertedProject project;
         program.replace(u"%1"_s, project.path(u"work"_s).chopped(5));
         if (!body.isEmpty()) {

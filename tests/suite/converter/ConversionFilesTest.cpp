@@ -2,17 +2,12 @@
 #include "ConvertedProject.h"
 #include "SystemCalls.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -80,8 +75,7 @@ private Q_SLOTS:
 
     void refusesBadInput()
     {
-        QFETCH(const QByteArray, database);
-        QFETCH(const QString, says);
+        const auto [database, says] = fetched<QByteArray, QString>("database", "says");
         const ConvertedProject project;
         project.write(u"work/a.c"_s, "");
         if (database.contains("x\\ny.c")) {
@@ -110,8 +104,7 @@ private Q_SLOTS:
 
     void refusesWrongArguments()
     {
-        QFETCH(const QString, arguments);
-        QFETCH(const QString, says);
+        const auto [arguments, says] = fetched<QString, QString>("arguments", "says");
         const ConvertedProject project;
         project.write(u"work/a.c"_s, "");
         project.write(u"work/list"_s, "a.c\n");
@@ -220,9 +213,7 @@ private Q_SLOTS:
 
     void writesAllOrNothing()
     {
-        QFETCH(const QByteArray, prepare);
-        QFETCH(const QString, start);
-        QFETCH(const QString, says);
+        const auto [prepare, start, says] = fetched<QByteArray, QString, QString>("prepare", "start", "says");
         const ConvertedProject project;
         project.writeCommands(twoSets() + QStringList{u"cc -F x -c c.c"_s});
         QCOMPARE(project.convertDatabase().status, 0);

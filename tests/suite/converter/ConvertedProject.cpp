@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ConvertedProject.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>

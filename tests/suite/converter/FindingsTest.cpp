@@ -1,15 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ConvertedProject.h"
 #include "TestMain.h"
-#include "TestRows.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTest>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -124,8 +118,7 @@ private Q_SLOTS:
 
     void findsTheSame()
     {
-        QFETCH(const QStringList, build);
-        QFETCH(const QString, configuration);
+        const auto [build, configuration] = fetched<QStringList, QString>("build", "configuration");
         const ConvertedProject project;
         writeBuilds(project);
         const QStringList more{u"--compiler-macros"_s, u"1"_s, u"--options"_s, u"sub-projects"_s};

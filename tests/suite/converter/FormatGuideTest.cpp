@@ -3,12 +3,6 @@
 #include "process/ChildProcess.h"
 #include "project/Project.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -34,9 +28,7 @@ private Q_SLOTS:
 
     void convertsFromAnyFolder()
     {
-        QFETCH(const QString, guide);
-        QFETCH(const QString, block);
-        QFETCH(const QStringList, arguments);
+        const auto [guide, block, arguments] = fetched<QString, QString, QStringList>("guide", "block", "arguments");
         ConvertedProject place;
         place.start();
         QFile file(QStringLiteral(SOURCE_FOLDER "/docs/") + guide);

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ConvertedProject.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -4,11 +4,6 @@
 #include "Installation.h"
 #include "Notices.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -253,9 +248,7 @@ private Q_SLOTS:
 
     void choosesAConfiguration()
     {
-        QFETCH(const QString, file);
-        QFETCH(const QString, wanted);
-        QFETCH(const QString, told);
+        const auto [file, wanted, told] = fetched<QString, QString, QString>("file", "wanted", "told");
         const Installation place;
         writeSolution(place);
         place.write(u"work/All.slnx"_s, R"xml(<Solution>
@@ -302,8 +295,7 @@ private Q_SLOTS:
 
     void evaluatesConditions()
     {
-        QFETCH(const QString, condition);
-        QFETCH(const QString, result);
+        const auto [condition, result] = fetched<QString, QString>("condition", "result");
         const Installation place;
         place.write(u"work/sub/x.h"_s, "");
         place.write(u"work/p.vcxproj"_s,
@@ -348,9 +340,7 @@ private Q_SLOTS:
 
     void expandsMacros()
     {
-        QFETCH(const QByteArray, text);
-        QFETCH(const QString, words);
-        QFETCH(const QString, told);
+        const auto [text, words, told] = fetched<QByteArray, QString, QString>("text", "words", "told");
         qputenv("CONVERTER_TEST", "from outside");
         const Installation place;
         place.write(
@@ -423,10 +413,8 @@ private Q_SLOTS:
 
     void tellsOfBrokenInput()
     {
-        QFETCH(const QString, file);
-        QFETCH(const QByteArray, contents);
-        QFETCH(const QString, told);
-        QFETCH(const bool, isFatal);
+        const auto [file, contents, told, isFatal] =
+            fetched<QString, QByteArray, QString, bool>("file", "contents", "told", "isFatal");
         const Installation place;
         place.write(u"work/cycle.props"_s, "<Project>\n<Import Project=\"sub\\back.props\"/></Project>");
         place.write(u"work/sub/back.props"_s, "<Project>\n<Import Project=\"..\\cycle.props\"/></Project>");

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ConvertedProject.h"
 #include "TestMain.h"
-#include "TestRows.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -39,8 +36,7 @@ private Q_SLOTS:
 
     void readsCommands()
     {
-        QFETCH(const QString, directory);
-        QFETCH(const QString, command);
+        const auto [directory, command] = fetched<QString, QString>("directory", "command");
         const ConvertedProject project;
         const QString file = command.endsWith("a.cpp"_L1) && directory == "/b"_L1 ? u"a.cpp"_s : u"C:\\s\\a.cpp"_s;
         project.writeCommand(file, command, directory);
